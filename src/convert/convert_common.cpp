@@ -7,6 +7,7 @@
  */
 #include <cstring>
 
+#include "convert_frame.h"
 #include "umts_sib_convert.h"
 #include "umts_sib_log.h"
 
@@ -95,10 +96,7 @@ void convert_plmn_type(const PLMN_Type* src, umts_plmn_type* dst) {
 
 void convert_plmn_identity_with_optional_mcc_r6(const PLMN_IdentityWithOptionalMCC_r6* src,
                                                 umts_plmn_identity_with_optional_mcc_r6* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_mcc(&src->mcc, &dst->mcc);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_mcc, mcc);
   convert_mnc(&src->mnc, &dst->mnc);
 }
 
@@ -133,10 +131,7 @@ void convert_sib_off_list(const SibOFF_List* src, umts_sib_off_list* dst) {
 void convert_scheduling_information_scheduling(const SchedulingInformation_scheduling* src, umts_scheduling_info* dst) {
   dst->segCount = src->segCount;
   convert_schedulingInformation_scheduling_sib_pos(&src->sib_Pos, &dst->sib_Pos);
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_sib_off_list(&src->sib_PosOffsetInfo, &dst->sib_PosOffsetInfo);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sib_off_list, sib_PosOffsetInfo);
 }
 
 void convert_scheduling_info(const SchedulingInformation* src, umts_scheduling_info* dst) {

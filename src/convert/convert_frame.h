@@ -111,4 +111,56 @@ UMTS_FRAME_LOCAL uint8_t umts_frame_close(rtxContext* ctx, const umts_frame_desc
        (asn1Print_UMTS_##Type((desc).title, &(decoded)), umts_frame_say(&(desc).decoded),        \
         memset((record), 0, sizeof *(record)), 1))
 
+/* An OPTIONAL element copied as it stands: its presence bit, then its value. */
+#define UMTS_COPY_OPTIONAL(src, dst, bit, field) \
+  do {                                            \
+    if ((src)->m & (bit)) {                       \
+      (dst)->presence_bitmask |= (bit);           \
+      (dst)->field = (src)->field;                \
+    }                                             \
+  } while (0)
+
+/* An OPTIONAL element converted by `convert`: its presence bit, then the conversion of the
+   decoded element into the record's field of the same name. */
+#define UMTS_CONVERT_OPTIONAL(src, dst, bit, convert, field) \
+  do {                                                       \
+    if ((src)->m & (bit)) {                                  \
+      (dst)->presence_bitmask |= (bit);                      \
+      convert(&(src)->field, &(dst)->field);                 \
+    }                                                        \
+  } while (0)
+
+#ifdef __cplusplus
+/* SIB-TypeAndTag (SB1, SB2) and SIBSb-TypeAndTag (MIB) share their first twenty alternatives
+   and the records of their values; the tags that carry a value among them are copied here.
+   False for every other tag, which each block's fill function treats in its own way. */
+template <class Src, class Dst>
+inline bool umts_fill_shared_sib_tag(const Src* src, Dst* dst) {
+  switch (src->t) {
+    case 1: dst->u.sysInfoType1 = src->u.sysInfoType1; return true;
+    case 2: dst->u.sysInfoType2 = src->u.sysInfoType2; return true;
+    case 3: dst->u.sysInfoType3 = src->u.sysInfoType3; return true;
+    case 4: dst->u.sysInfoType4 = src->u.sysInfoType4; return true;
+    case 5: dst->u.sysInfoType5 = src->u.sysInfoType5; return true;
+    case 6: dst->u.sysInfoType6 = src->u.sysInfoType6; return true;
+    case 8: dst->u.dummy = src->u.dummy; return true;
+    case 11: dst->u.sysInfoType11 = src->u.sysInfoType11; return true;
+    case 12: dst->u.sysInfoType12 = src->u.sysInfoType12; return true;
+    case 13: dst->u.sysInfoType13 = src->u.sysInfoType13; return true;
+    case 14: dst->u.sysInfoType13_1 = src->u.sysInfoType13_1; return true;
+    case 15: dst->u.sysInfoType13_2 = src->u.sysInfoType13_2; return true;
+    case 16: dst->u.sysInfoType13_3 = src->u.sysInfoType13_3; return true;
+    case 17: dst->u.sysInfoType13_4 = src->u.sysInfoType13_4; return true;
+    case 19: dst->u.sysInfoType15 = src->u.sysInfoType15; return true;
+    case 20:
+      if (src->u.sysInfoType16 != nullptr) {
+        dst->u.sysInfoType16.predefinedConfigIdentity = src->u.sysInfoType16->predefinedConfigIdentity;
+        dst->u.sysInfoType16.predefinedConfigValueTag = src->u.sysInfoType16->predefinedConfigValueTag;
+      }
+      return true;
+    default: return false;
+  }
+}
+#endif
+
 #endif /* UMTS_CONVERT_FRAME_H */

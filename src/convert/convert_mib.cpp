@@ -45,28 +45,8 @@ uint8_t umts_convert_mib(umts_mib_info* mib) {
 
 void fill_sib_sb_type(const SIBSb_TypeAndTag* src, umts_sib_sb_type* dst) {
   dst->choice_tag = src->t;
+  if (umts_fill_shared_sib_tag(src, dst)) return;
   switch (src->t) {
-    case 1: dst->u.sysInfoType1 = src->u.sysInfoType1; break;
-    case 2: dst->u.sysInfoType2 = src->u.sysInfoType2; break;
-    case 3: dst->u.sysInfoType3 = src->u.sysInfoType3; break;
-    case 4: dst->u.sysInfoType4 = src->u.sysInfoType4; break;
-    case 5: dst->u.sysInfoType5 = src->u.sysInfoType5; break;
-    case 6: dst->u.sysInfoType6 = src->u.sysInfoType6; break;
-    case 8: dst->u.dummy = src->u.dummy; break;
-    case 11: dst->u.sysInfoType11 = src->u.sysInfoType11; break;
-    case 12: dst->u.sysInfoType12 = src->u.sysInfoType12; break;
-    case 13: dst->u.sysInfoType13 = src->u.sysInfoType13; break;
-    case 14: dst->u.sysInfoType13_1 = src->u.sysInfoType13_1; break;
-    case 15: dst->u.sysInfoType13_2 = src->u.sysInfoType13_2; break;
-    case 16: dst->u.sysInfoType13_3 = src->u.sysInfoType13_3; break;
-    case 17: dst->u.sysInfoType13_4 = src->u.sysInfoType13_4; break;
-    case 19: dst->u.sysInfoType15 = src->u.sysInfoType15; break;
-    case 20:
-      if (src->u.sysInfoType16 != nullptr) {
-        dst->u.sysInfoType16.predefinedConfigIdentity = src->u.sysInfoType16->predefinedConfigIdentity;
-        dst->u.sysInfoType16.predefinedConfigValueTag = src->u.sysInfoType16->predefinedConfigValueTag;
-      }
-      break;
     case 22: dst->u.sysInfoTypeSB1 = src->u.sysInfoTypeSB1; break;
     case 23: dst->u.sysInfoTypeSB2 = src->u.sysInfoTypeSB2; break;
     case 24: dst->u.sysInfoType15_1 = src->u.sysInfoType15_1; break;
@@ -148,11 +128,8 @@ void decode_mib_v690_nce(const MasterInformationBlock_v690NonCriticalExtensions*
 /* ---- v6b0 ------------------------------------------------------------------------------ */
 
 void convert_mib_v6b0_ext_ie(const MasterInformationBlock_v6b0ext_IEs* src, umts_mib_v6b0_ext_ie* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_ext_sib_type_info_scheduling_info_list(&src->extSIBTypeInfoSchedulingInfo_List,
-                                                   &dst->extSIBTypeInfoSchedulingInfo_List);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_ext_sib_type_info_scheduling_info_list,
+                        extSIBTypeInfoSchedulingInfo_List);
 }
 
 void decode_mib_v690_nce_v6b0_nce(const MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions* src,
@@ -168,20 +145,11 @@ void decode_mib_v690_nce_v6b0_nce(const MasterInformationBlock_v690NonCriticalEx
 /* ---- v860 ------------------------------------------------------------------------------ */
 
 void convert_mib_v860ext_ies(const MasterInformationBlock_v860ext_IEs* src, umts_mib_v860ext_ies* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_ext_sib_type_info_scheduling_info_list2(&src->extSIBTypeInfoSchedulingInfo_List,
-                                                    &dst->extSIBTypeInfoSchedulingInfo_List);
-  }
-  if (src->m & 2u) {
-    dst->presence_bitmask |= 2u;
-    convert_ext_ganss_sib_type_info_scheduling_info_list(&src->extGANSS_SIBTypeInfoSchedulingInfoList,
-                                                         &dst->extGANSS_SIBTypeInfoSchedulingInfoList);
-  }
-  if (src->m & 4u) {
-    dst->presence_bitmask |= 4u;
-    dst->csg_Indicator = src->csg_Indicator;
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_ext_sib_type_info_scheduling_info_list2,
+                        extSIBTypeInfoSchedulingInfo_List);
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_ext_ganss_sib_type_info_scheduling_info_list,
+                        extGANSS_SIBTypeInfoSchedulingInfoList);
+  UMTS_COPY_OPTIONAL(src, dst, 4u, csg_Indicator);
 }
 
 void convert_mib_v690_nce_v6b0_nce_v860_nce_nce(
@@ -196,8 +164,5 @@ void convert_mib_v690_nce_v6b0_nce_v860_nce(
     const MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions* src,
     umts_mib_v690_nce_v6b0_nce_v860_nce* dst) {
   convert_mib_v860ext_ies(&src->masterInformationBlock_v860ext, &dst->masterInformationBlock_v860ext);
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_mib_v690_nce_v6b0_nce_v860_nce_nce(&src->nonCriticalExtensions, &dst->nonCriticalExtensions);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_mib_v690_nce_v6b0_nce_v860_nce_nce, nonCriticalExtensions);
 }

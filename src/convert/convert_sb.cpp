@@ -39,26 +39,17 @@ const umts_frame_desc kSb2Frame = {
 /* SysInfoTypeSB1-v6b0ext / SysInfoTypeSB2-v6b0ext. */
 template <typename V6b0Ext>
 void copy_v6b0_ext(const V6b0Ext* src, umts_sb_v6b0_ext* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_ext_sib_type_info_scheduling_info_list(&src->extSIBTypeInfoSchedulingInfo_List,
-                                                   &dst->extSIBTypeInfoSchedulingInfo_List);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_ext_sib_type_info_scheduling_info_list,
+                        extSIBTypeInfoSchedulingInfo_List);
 }
 
 /* SysInfoTypeSB1-v860ext / SysInfoTypeSB2-v860ext. */
 template <typename V860Ext>
 void copy_v860_ext(const V860Ext* src, umts_sb_v860_ext* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_ext_sib_type_info_scheduling_info_list2(&src->extSIBTypeInfoSchedulingInfo_List,
-                                                    &dst->extSIBTypeInfoSchedulingInfo_List);
-  }
-  if (src->m & 2u) {
-    dst->presence_bitmask |= 2u;
-    convert_ext_ganss_sib_type_info_scheduling_info_list(&src->extGANSS_SIBTypeInfoSchedulingInfoList,
-                                                         &dst->extGANSS_SIBTypeInfoSchedulingInfoList);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_ext_sib_type_info_scheduling_info_list2,
+                        extSIBTypeInfoSchedulingInfo_List);
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_ext_ganss_sib_type_info_scheduling_info_list,
+                        extGANSS_SIBTypeInfoSchedulingInfoList);
 }
 
 /* The empty nonCriticalExtensions sequence: its one byte, 0. */
@@ -118,28 +109,8 @@ void fill_scheduling_info_sib(const SchedulingInformationSIB* src, umts_scheduli
 void fill_sib_type(const SIB_TypeAndTag* src, umts_sib_type* dst) {
   static const char kNoValue[] = "fill_sib_type: option not available";
   dst->choice_tag = src->t;
+  if (umts_fill_shared_sib_tag(src, dst)) return;
   switch (src->t) {
-    case 1: dst->u.sysInfoType1 = src->u.sysInfoType1; break;
-    case 2: dst->u.sysInfoType2 = src->u.sysInfoType2; break;
-    case 3: dst->u.sysInfoType3 = src->u.sysInfoType3; break;
-    case 4: dst->u.sysInfoType4 = src->u.sysInfoType4; break;
-    case 5: dst->u.sysInfoType5 = src->u.sysInfoType5; break;
-    case 6: dst->u.sysInfoType6 = src->u.sysInfoType6; break;
-    case 8: dst->u.dummy = src->u.dummy; break;
-    case 11: dst->u.sysInfoType11 = src->u.sysInfoType11; break;
-    case 12: dst->u.sysInfoType12 = src->u.sysInfoType12; break;
-    case 13: dst->u.sysInfoType13 = src->u.sysInfoType13; break;
-    case 14: dst->u.sysInfoType13_1 = src->u.sysInfoType13_1; break;
-    case 15: dst->u.sysInfoType13_2 = src->u.sysInfoType13_2; break;
-    case 16: dst->u.sysInfoType13_3 = src->u.sysInfoType13_3; break;
-    case 17: dst->u.sysInfoType13_4 = src->u.sysInfoType13_4; break;
-    case 19: dst->u.sysInfoType15 = src->u.sysInfoType15; break;
-    case 20:
-      if (src->u.sysInfoType16 != nullptr) {
-        dst->u.sysInfoType16.predefinedConfigIdentity = src->u.sysInfoType16->predefinedConfigIdentity;
-        dst->u.sysInfoType16.predefinedConfigValueTag = src->u.sysInfoType16->predefinedConfigValueTag;
-      }
-      break;
     case 22: dst->u.sysInfoType15_1 = src->u.sysInfoType15_1; break;
     case 23:
       if (src->u.sysInfoType15_2 != nullptr)
@@ -172,11 +143,8 @@ void fill_sib_type(const SIB_TypeAndTag* src, umts_sib_type* dst) {
 void convert_sysinfotypesb1_v6b0_nc_extensions(const SysInfoTypeSB1_v6b0NonCriticalExtensions* src,
                                                umts_sb_v6b0_nc_extensions* dst) {
   convert_sysinfotypesb1_v6b0_ext(&src->sysInfoTypeSB1_v6b0ext, &dst->sysInfoTypeSB_v6b0ext);
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_sysinfotypesb1_v6b0_nc_extensions_v860_nc_extensions(&src->v860NonCriticalExtensions,
-                                                                 &dst->v860NonCriticalExtensions);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sysinfotypesb1_v6b0_nc_extensions_v860_nc_extensions,
+                        v860NonCriticalExtensions);
 }
 
 void convert_sysinfotypesb1_v6b0_ext(const SysInfoTypeSB1_v6b0ext* src, umts_sb_v6b0_ext* dst) {
@@ -186,11 +154,8 @@ void convert_sysinfotypesb1_v6b0_ext(const SysInfoTypeSB1_v6b0ext* src, umts_sb_
 void convert_sysinfotypesb1_v6b0_nc_extensions_v860_nc_extensions(
     const SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions* src, umts_sb_v860_nc_extensions* dst) {
   convert_sysinfotypesb1_v860_ext(&src->sysInfoTypeSB1_v860ext, &dst->sysInfoTypeSB_v860ext);
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_sysinfotypesb1_v6b0_nc_extensions_v860_nc_extensions_nc_extensions(&src->nonCriticalExtensions,
-                                                                               &dst->nonCriticalExtensions);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sysinfotypesb1_v6b0_nc_extensions_v860_nc_extensions_nc_extensions,
+                        nonCriticalExtensions);
 }
 
 void convert_sysinfotypesb1_v860_ext(const SysInfoTypeSB1_v860ext* src, umts_sb_v860_ext* dst) {
@@ -208,11 +173,8 @@ void convert_sysinfotypesb1_v6b0_nc_extensions_v860_nc_extensions_nc_extensions(
 void convert_sysinfotypesb2_v6b0_nc_extensions(const SysInfoTypeSB2_v6b0NonCriticalExtensions* src,
                                                umts_sb_v6b0_nc_extensions* dst) {
   convert_sysinfotypesb2_v6b0_ext(&src->sysInfoTypeSB2_v6b0ext, &dst->sysInfoTypeSB_v6b0ext);
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_sysinfotypesb2_v6b0_nc_extensions_v860_nc_extensions(&src->v860NonCriticalExtensions,
-                                                                 &dst->v860NonCriticalExtensions);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sysinfotypesb2_v6b0_nc_extensions_v860_nc_extensions,
+                        v860NonCriticalExtensions);
 }
 
 void convert_sysinfotypesb2_v6b0_ext(const SysInfoTypeSB2_v6b0ext* src, umts_sb_v6b0_ext* dst) {
@@ -222,11 +184,8 @@ void convert_sysinfotypesb2_v6b0_ext(const SysInfoTypeSB2_v6b0ext* src, umts_sb_
 void convert_sysinfotypesb2_v6b0_nc_extensions_v860_nc_extensions(
     const SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions* src, umts_sb_v860_nc_extensions* dst) {
   convert_sysinfotypesb2_v860_ext(&src->sysInfoTypeSB2_v860ext, &dst->sysInfoTypeSB_v860ext);
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_sysinfotypesb2_v6b0_nc_extensions_v860_nc_extensions_nc_extensions(&src->nonCriticalExtensions,
-                                                                               &dst->nonCriticalExtensions);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sysinfotypesb2_v6b0_nc_extensions_v860_nc_extensions_nc_extensions,
+                        nonCriticalExtensions);
 }
 
 void convert_sysinfotypesb2_v860_ext(const SysInfoTypeSB2_v860ext* src, umts_sb_v860_ext* dst) {

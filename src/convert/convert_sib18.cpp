@@ -87,18 +87,9 @@ void convert_plmn_inter_rat_list(const PLMNsOfInterRATCellsList* src, umts_plmns
 
 void convert_plmn_identities_of_neighbour_cells(const PLMNIdentitiesOfNeighbourCells* src,
                                                 umts_plmn_identities_of_neighbour_cells* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_plmn_intra_freq_list(&src->plmnsOfIntraFreqCellsList, &dst->plmnsOfIntraFreqCellsList);
-  }
-  if (src->m & 2u) {
-    dst->presence_bitmask |= 2u;
-    convert_plmn_inter_freq_list(&src->plmnsOfInterFreqCellsList, &dst->plmnsOfInterFreqCellsList);
-  }
-  if (src->m & 4u) {
-    dst->presence_bitmask |= 4u;
-    convert_plmn_inter_rat_list(&src->plmnsOfInterRATCellsList, &dst->plmnsOfInterRATCellsList);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_plmn_intra_freq_list, plmnsOfIntraFreqCellsList);
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_plmn_inter_freq_list, plmnsOfInterFreqCellsList);
+  UMTS_CONVERT_OPTIONAL(src, dst, 4u, convert_plmn_inter_rat_list, plmnsOfInterRATCellsList);
 }
 
 /* ---- Multiple PLMNs of the neighbour cells --------------------------------------------- */
@@ -127,30 +118,17 @@ void convert_multiple_plmns_of_inter_freq_cells_list(const MultiplePLMNsOfInterF
 
 void convert_plmn_identities_of_neighbour_cells_v860ext(const PLMNIdentitiesOfNeighbourCells_v860ext* src,
                                                         umts_plmn_identities_of_neighbour_cells_v860ext* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_multiple_plmns_of_intra_freq_cells_list(&src->multipleplmnsOfIntraFreqCellsList,
-                                                    &dst->multipleplmnsOfIntraFreqCellsList);
-  }
-  if (src->m & 2u) {
-    dst->presence_bitmask |= 2u;
-    convert_multiple_plmns_of_inter_freq_cells_list(&src->multipleplmnsOfInterFreqCellsList,
-                                                    &dst->multipleplmnsOfInterFreqCellsList);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_multiple_plmns_of_intra_freq_cells_list,
+                        multipleplmnsOfIntraFreqCellsList);
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_multiple_plmns_of_inter_freq_cells_list,
+                        multipleplmnsOfInterFreqCellsList);
 }
 
 /* ---- Non-critical extensions ----------------------------------------------------------- */
 
 void convert_sysinfotype18_v860ext(const SysInfoType18_v860ext* src, umts_sysinfotype18_v860ext* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_plmn_identities_of_neighbour_cells_v860ext(&src->idleModePLMNIdentities, &dst->idleModePLMNIdentities);
-  }
-  if (src->m & 2u) {
-    dst->presence_bitmask |= 2u;
-    convert_plmn_identities_of_neighbour_cells_v860ext(&src->connectedModePLMNIdentities,
-                                                       &dst->connectedModePLMNIdentities);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_plmn_identities_of_neighbour_cells_v860ext, idleModePLMNIdentities);
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_plmn_identities_of_neighbour_cells_v860ext, connectedModePLMNIdentities);
 }
 
 void convert_sysinfotype18_v6b0_nce_v860_nce_nce(
@@ -162,22 +140,12 @@ void convert_sysinfotype18_v6b0_nce_v860_nce_nce(
 void convert_sysinfotype18_v6b0_nce_v860_nce(const SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions* src,
                                              umts_sysinfotype18_v860_nce* dst) {
   convert_sysinfotype18_v860ext(&src->sysInfoType18_v860ext, &dst->sysInfoType18_v860ext);
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_sysinfotype18_v6b0_nce_v860_nce_nce(&src->nonCriticalExtensions, &dst->nonCriticalExtensions);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sysinfotype18_v6b0_nce_v860_nce_nce, nonCriticalExtensions);
 }
 
 void convert_sysinfotype18_v6b0ext(const SysInfoType18_v6b0ext* src, umts_sysinfotype18_v6b0ext* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_plmn_identities_of_neighbour_cells(&src->idleModePLMNIdentitiesSIB11bis, &dst->idleModePLMNIdentitiesSIB11bis);
-  }
-  if (src->m & 2u) {
-    dst->presence_bitmask |= 2u;
-    convert_plmn_identities_of_neighbour_cells(&src->connectedModePLMNIdentitiesSIB11bis,
-                                               &dst->connectedModePLMNIdentitiesSIB11bis);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_plmn_identities_of_neighbour_cells, idleModePLMNIdentitiesSIB11bis);
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_plmn_identities_of_neighbour_cells, connectedModePLMNIdentitiesSIB11bis);
 }
 
 uint8_t fill_sysinfotype18_v3a0_nce(const SysInfoType18_v6b0NonCriticalExtensions* value,

@@ -35,10 +35,7 @@ template <typename Rat>
 void copy_rat_info(const Rat* src, umts_rat_info* dst) {
   dst->rat_Identifier = src->rat_Identifier;
   dst->s_SearchRAT = src->s_SearchRAT;
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    dst->s_HCS_RAT = src->s_HCS_RAT;
-  }
+  UMTS_COPY_OPTIONAL(src, dst, 1u, s_HCS_RAT);
   dst->s_Limit_SearchRAT = src->s_Limit_SearchRAT;
 }
 
@@ -82,19 +79,13 @@ uint8_t umts_convert_sib3(umts_sib3_info* sib3) {
 
 void convert_cell_select_reselect_infoSIB_3_4(const CellSelectReselectInfoSIB_3_4* src,
                                               umts_cell_select_reselect_info_sib_3_4* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_mapping_info(&src->mappingInfo, &dst->mappingInfo);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_mapping_info, mappingInfo);
   convert_call_select_reselect_infoSIB3_4_cell_select_quality_measure(&src->cellSelectQualityMeasure,
                                                                       &dst->cellSelectQualityMeasure);
   convert_call_select_reselect_infoSIB3_4_mode_specific_info(&src->modeSpecificInfo, &dst->modeSpecificInfo);
   dst->q_Hyst_l_S = src->q_Hyst_l_S;
   dst->t_Reselection_S = src->t_Reselection_S;
-  if (src->m & 2u) {
-    dst->presence_bitmask |= 2u;
-    convert_hsc_serving_cell_information(&src->hcs_ServingCellInformation, &dst->hcs_ServingCellInformation);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_hsc_serving_cell_information, hcs_ServingCellInformation);
   dst->maxAllowedUL_TX_Power = src->maxAllowedUL_TX_Power;
 }
 
@@ -144,10 +135,7 @@ void convert_call_select_reselect_infoSIB3_4_cell_select_quality_measure(
 void convert_call_select_reselect_infoSIB3_4_cell_select_quality_measure_cpich_Ec_N0(
     const CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0* src,
     umts_cell_select_quality_measure_cpich_ec_n0* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    dst->q_HYST_2_S = src->q_HYST_2_S;
-  }
+  UMTS_COPY_OPTIONAL(src, dst, 1u, q_HYST_2_S);
 }
 
 void convert_call_select_reselect_infoSIB3_4_mode_specific_info(const CellSelectReselectInfoSIB_3_4_modeSpecificInfo* src,
@@ -161,44 +149,20 @@ void convert_call_select_reselect_infoSIB3_4_mode_specific_info(const CellSelect
 
 void convert_call_select_reselect_infoSIB3_4_mode_specific_info_fdd(
     const CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd* src, umts_sib3_fdd_info* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    dst->s_Intrasearch = src->s_Intrasearch;
-  }
-  if (src->m & 2u) {
-    dst->presence_bitmask |= 2u;
-    dst->s_Intersearch = src->s_Intersearch;
-  }
-  if (src->m & 4u) {
-    dst->presence_bitmask |= 4u;
-    dst->s_SearchHCS = src->s_SearchHCS;
-  }
-  if (src->m & 8u) {
-    dst->presence_bitmask |= 8u;
-    convert_rat_fdd_info_list(&src->rat_List, &dst->rat_List);
-  }
+  UMTS_COPY_OPTIONAL(src, dst, 1u, s_Intrasearch);
+  UMTS_COPY_OPTIONAL(src, dst, 2u, s_Intersearch);
+  UMTS_COPY_OPTIONAL(src, dst, 4u, s_SearchHCS);
+  UMTS_CONVERT_OPTIONAL(src, dst, 8u, convert_rat_fdd_info_list, rat_List);
   dst->q_QualMin = src->q_QualMin;
   dst->q_RxlevMin = src->q_RxlevMin;
 }
 
 void convert_call_select_reselect_infoSIB3_4_mode_specific_info_tdd(
     const CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd* src, umts_sib3_tdd_info* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    dst->s_Intrasearch = src->s_Intrasearch;
-  }
-  if (src->m & 2u) {
-    dst->presence_bitmask |= 2u;
-    dst->s_Intersearch = src->s_Intersearch;
-  }
-  if (src->m & 4u) {
-    dst->presence_bitmask |= 4u;
-    dst->s_SearchHCS = src->s_SearchHCS;
-  }
-  if (src->m & 8u) {
-    dst->presence_bitmask |= 8u;
-    convert_rat_tdd_info_list(&src->rat_List, &dst->rat_List);
-  }
+  UMTS_COPY_OPTIONAL(src, dst, 1u, s_Intrasearch);
+  UMTS_COPY_OPTIONAL(src, dst, 2u, s_Intersearch);
+  UMTS_COPY_OPTIONAL(src, dst, 4u, s_SearchHCS);
+  UMTS_CONVERT_OPTIONAL(src, dst, 8u, convert_rat_tdd_info_list, rat_List);
   dst->q_RxlevMin = src->q_RxlevMin;
 }
 
@@ -219,10 +183,7 @@ void convert_rat_tdd_info_list(const RAT_TDD_InfoList* src, umts_rat_info_list* 
 void convert_hsc_serving_cell_information(const HCS_ServingCellInformation* src, umts_hcs_serving_cell_information* dst) {
   dst->hcs_PRIO = src->hcs_PRIO;
   dst->q_HCS = src->q_HCS;
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_T_cr_max(&src->t_CR_Max, &dst->t_CR_Max);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_T_cr_max, t_CR_Max);
 }
 
 void convert_T_cr_max(const T_CRMax* src, umts_t_cr_max* dst) {
@@ -240,10 +201,7 @@ void convert_cell_access_restriction(const CellAccessRestriction* src, umts_cell
   convert_call_barred(&src->cellBarred, &dst->cellBarred);
   dst->cellReservedForOperatorUse = src->cellReservedForOperatorUse;
   dst->cellReservationExtension = src->cellReservationExtension;
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_access_class_barred_list(&src->accessClassBarredList, &dst->accessClassBarredList);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_access_class_barred_list, accessClassBarredList);
 }
 
 void convert_call_barred(const CellBarred* src, umts_cell_barred* dst) {

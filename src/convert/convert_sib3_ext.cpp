@@ -8,6 +8,7 @@
  */
 #include <cstring>
 
+#include "convert_frame.h"
 #include "umts_sib_convert.h"
 
 namespace {
@@ -40,54 +41,36 @@ constexpr uint32_t kTddQuantityBound = sizeof(umts_intra_freq_meas_quantity_tdd_
 
 void convert_sysinfotype3_v4b0_nc_extensions(const Level_v4b0* src, umts_sib3_v4b0_nce* dst) {
   convert_sysinfotype3_v4b0ext_ies_t(&src->sysInfoType3_v4b0ext, &dst->sysInfoType3_v4b0ext);
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_sysinfotype3_v4b0nces_v590nce(&src->v590NonCriticalExtension, &dst->v590NonCriticalExtension);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sysinfotype3_v4b0nces_v590nce, v590NonCriticalExtension);
 }
 
 void convert_sysinfotype3_v4b0nces_v590nce(const Level_v590* src, umts_sib3_v590_nce* dst) {
   convert_sysinfotype3_v590ext(&src->sysInfoType3_v590ext, &dst->sysInfoType3_v590ext);
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_sysinfotype3_v4b0nces_v590nce_v5c0nce(&src->v5c0NoncriticalExtension, &dst->v5c0NoncriticalExtension);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sysinfotype3_v4b0nces_v590nce_v5c0nce, v5c0NoncriticalExtension);
 }
 
 void convert_sysinfotype3_v4b0nces_v590nce_v5c0nce(const Level_v5c0* src, umts_sib3_v5c0_nce* dst) {
   convert_sysinfotype3_v5c0ext_ies(&src->sysInfoType3_v5c0ext, &dst->sysInfoType3_v5c0ext);
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce(&src->v670NonCriticalExtension, &dst->v670NonCriticalExtension);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce, v670NonCriticalExtension);
 }
 
 void convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce(const Level_v670* src, umts_sib3_v670_nce* dst) {
   convert_sysinfotype3_v670ext(&src->sysInfoType3_v670ext, &dst->sysInfoType3_v670ext);
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce_v770nce(&src->v770NonCriticalExtension,
-                                                                  &dst->v770NonCriticalExtension);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce_v770nce,
+                        v770NonCriticalExtension);
 }
 
 void convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce_v770nce(const Level_v770* src, umts_sib3_v770_nce* dst) {
   convert_sysinfotype3_v770ext_ies(&src->sysInfoType3_v770ext, &dst->sysInfoType3_v770ext);
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce_v770nce_v830nce(&src->v830NonCriticalExtension,
-                                                                          &dst->v830NonCriticalExtension);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce_v770nce_v830nce,
+                        v830NonCriticalExtension);
 }
 
 void convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce_v770nce_v830nce(const Level_v830* src,
                                                                             umts_sib3_v830_nce* dst) {
   convert_sysinfotype3_v830ext_ies(&src->sysInfoType3_v830ext, &dst->sysInfoType3_v830ext);
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce_v770nce_v830nce_v860nce(&src->v860NonCriticalExtension,
-                                                                                  &dst->v860NonCriticalExtension);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce_v770nce_v830nce_v860nce,
+                        v860NonCriticalExtension);
 }
 
 void convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce_v770nce_v830nce_v860nce(const Level_v860* src,
@@ -129,30 +112,17 @@ void convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce_v770nce_v830nce_v860n
 /* ---- v4b0, v590, v5c0 --------------------------------------------------------------------- */
 
 void convert_sysinfotype3_v4b0ext_ies_t(const SysInfoType3_v4b0ext_IEs* src, umts_sib3_v4b0ext* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_mapping_lcr_r4(&src->mapping_LCR, &dst->mapping_LCR);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_mapping_lcr_r4, mapping_LCR);
 }
 
 void convert_sysinfotype3_v590ext(const SysInfoType3_v590ext* src, umts_sib3_v590ext* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_cell_select_reselect_info_v590_ext(&src->cellSelectReselectInfo_v590ext,
-                                               &dst->cellSelectReselectInfo_v590ext);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_cell_select_reselect_info_v590_ext, cellSelectReselectInfo_v590ext);
 }
 
 void convert_cell_select_reselect_info_v590_ext(const CellSelectReselectInfo_v590ext* src,
                                                 umts_cell_select_reselect_info_v590ext* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    dst->deltaQrxlevmin = src->deltaQrxlevmin;
-  }
-  if (src->m & 2u) {
-    dst->presence_bitmask |= 2u;
-    dst->deltaQhcs = src->deltaQhcs;
-  }
+  UMTS_COPY_OPTIONAL(src, dst, 1u, deltaQrxlevmin);
+  UMTS_COPY_OPTIONAL(src, dst, 2u, deltaQhcs);
 }
 
 void convert_sysinfotype3_v5c0ext_ies(const SysInfoType3_v5c0ext_IEs* src, umts_sib3_v5c0ext* dst) {
@@ -166,32 +136,17 @@ void convert_sysinfotype3_v5c0ext_ies(const SysInfoType3_v5c0ext_IEs* src, umts_
 void convert_cell_select_reselect_info_t_reselection_scaling_v5c0ext(
     const CellSelectReselectInfoTreselectionScaling_v5c0ext* src,
     umts_cell_select_reselect_info_treselection_scaling_v5c0ext* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_T_cr_max(&src->non_HCS_t_CR_Max, &dst->non_HCS_t_CR_Max);
-  }
-  if (src->m & 2u) {
-    dst->presence_bitmask |= 2u;
-    dst->speedDependentScalingFactor = src->speedDependentScalingFactor;
-  }
-  if (src->m & 4u) {
-    dst->presence_bitmask |= 4u;
-    dst->interFrequencyTreselectionScalingFactor = src->interFrequencyTreselectionScalingFactor;
-  }
-  if (src->m & 8u) {
-    dst->presence_bitmask |= 8u;
-    dst->interRATTreselectionScalingFactor = src->interRATTreselectionScalingFactor;
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_T_cr_max, non_HCS_t_CR_Max);
+  UMTS_COPY_OPTIONAL(src, dst, 2u, speedDependentScalingFactor);
+  UMTS_COPY_OPTIONAL(src, dst, 4u, interFrequencyTreselectionScalingFactor);
+  UMTS_COPY_OPTIONAL(src, dst, 8u, interRATTreselectionScalingFactor);
 }
 
 /* ---- v670 --------------------------------------------------------------------------------- */
 
 void convert_sysinfotype3_v670ext(const SysInfoType3_v670ext* src, umts_sib3_v670ext* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_domain_specific_access_restriction_param_v670ext(&src->domainSpecificAccessRestrictionParametersForPLMNOfMIB,
-                                                             &dst->domainSpecificAccessRestrictionParametersForPLMNOfMIB);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_domain_specific_access_restriction_param_v670ext,
+                        domainSpecificAccessRestrictionParametersForPLMNOfMIB);
   if (src->m & 2u) {
     dst->presence_bitmask |= 2u;
     convert_domain_specific_access_restriction_for_shared_network_v670ext(
@@ -217,10 +172,7 @@ void convert_domain_specific_access_restriction_v670ext(const DomainSpecificAcce
 void convert_domain_specific_access_restriction_v670ext_restriction(
     const DomainSpecificAccessRestriction_v670ext_restriction* src,
     umts_domain_specific_access_restriction_v670ext_restriction* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_access_class_barred_list(&src->domainSpecficAccessClassBarredList, &dst->domainSpecficAccessClassBarredList);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_access_class_barred_list, domainSpecficAccessClassBarredList);
 }
 
 void convert_domain_specific_access_restriction_list_v670ext(const DomainSpecificAccessRestrictionList_v670ext* src,
@@ -256,31 +208,17 @@ void convert_domain_specific_access_restriction_for_shared_network_v670ext(
 /* ---- v770 --------------------------------------------------------------------------------- */
 
 void convert_sysinfotype3_v770ext_ies(const SysInfoType3_v770ext_IEs* src, umts_sib3_v770ext* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_deferred_measurement_control_reading_support(&src->deferredMeasurementControlReadingSupport,
-                                                         &dst->deferredMeasurementControlReadingSupport);
-  }
-  if (src->m & 2u) {
-    dst->presence_bitmask |= 2u;
-    dst->q_QualMin_Offset = src->q_QualMin_Offset;
-  }
-  if (src->m & 4u) {
-    dst->presence_bitmask |= 4u;
-    dst->q_RxlevMin_Offset = src->q_RxlevMin_Offset;
-  }
-  if (src->m & 8u) {
-    dst->presence_bitmask |= 8u;
-    dst->mbsfnOnlyService = src->mbsfnOnlyService;
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_deferred_measurement_control_reading_support,
+                        deferredMeasurementControlReadingSupport);
+  UMTS_COPY_OPTIONAL(src, dst, 2u, q_QualMin_Offset);
+  UMTS_COPY_OPTIONAL(src, dst, 4u, q_RxlevMin_Offset);
+  UMTS_COPY_OPTIONAL(src, dst, 8u, mbsfnOnlyService);
 }
 
 void convert_deferred_measurement_control_reading_support(const DeferredMeasurementControlReadingSupport* src,
                                                           umts_deferred_measurement_control_reading_support* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_deferred_measurement_control_reading_support_mode_specific_info(&src->modeSpecificInfo, &dst->modeSpecificInfo);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_deferred_measurement_control_reading_support_mode_specific_info,
+                        modeSpecificInfo);
 }
 
 void convert_deferred_measurement_control_reading_support_mode_specific_info(
@@ -315,11 +253,8 @@ void convert_intra_freq_meas_quantity_tdd_sib3_list(const IntraFreqMeasQuantity_
 /* ---- v830 --------------------------------------------------------------------------------- */
 
 void convert_sysinfotype3_v830ext_ies(const SysInfoType3_v830ext_IEs* src, umts_sib3_v830ext* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_paging_permission_with_access_control_parameters(&src->pagingPermissionWithAccessControlParametersForPLMNOfMIB,
-                                                             &dst->pagingPermissionWithAccessControlParametersForPLMNOfMIB);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_paging_permission_with_access_control_parameters,
+                        pagingPermissionWithAccessControlParametersForPLMNOfMIB);
   if (src->m & 2u) {
     dst->presence_bitmask |= 2u;
     convert_paging_permission_with_access_control_for_shared_network(
@@ -382,14 +317,8 @@ void convert_paging_permission_with_access_control_for_shared_network(
 /* ---- v860, v870, v920 --------------------------------------------------------------------- */
 
 void convert_sysinfotype3_v860ext_ies(const SysInfoType3_v860ext_IEs* src, umts_sib3_v860ext* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_csg_identity(&src->csgIdentity, &dst->csgIdentity);
-  }
-  if (src->m & 2u) {
-    dst->presence_bitmask |= 2u;
-    convert_csg_psc_split_info(&src->csg_PSCSplitInfo, &dst->csg_PSCSplitInfo);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_csg_identity, csgIdentity);
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_csg_psc_split_info, csg_PSCSplitInfo);
 }
 
 /* The identity's bit count is taken as a number of octets, as for the cell identity, but
@@ -405,30 +334,18 @@ void convert_csg_identity(const CSG_Identity* src, umts_csg_identity* dst) {
 void convert_csg_psc_split_info(const CSG_PSCSplitInfo* src, umts_csg_psc_split_info* dst) {
   dst->startPSC = src->startPSC;
   dst->numberOfPSCs = src->numberOfPSCs;
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    dst->pscRange2Offset = src->pscRange2Offset;
-  }
+  UMTS_COPY_OPTIONAL(src, dst, 1u, pscRange2Offset);
 }
 
 void convert_sysinfotype3_v870ext_ies(const SysInfoType3_v870ext_IEs* src, umts_sib3_v870ext* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_cell_access_restriction_v870ext(&src->cellAccessRestriction, &dst->cellAccessRestriction);
-  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_cell_access_restriction_v870ext, cellAccessRestriction);
 }
 
 void convert_cell_access_restriction_v870ext(const CellAccessRestriction_v870ext* src,
                                              umts_cell_access_restriction_v870ext* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    dst->cellReservedForCSG = src->cellReservedForCSG;
-  }
+  UMTS_COPY_OPTIONAL(src, dst, 1u, cellReservedForCSG);
 }
 
 void convert_sysinfotype3_v920ext_ies(const SysInfoType3_v920ext_IEs* src, umts_sib3_v920ext* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    dst->imsEmergencySupportIndicator = src->imsEmergencySupportIndicator;
-  }
+  UMTS_COPY_OPTIONAL(src, dst, 1u, imsEmergencySupportIndicator);
 }
