@@ -21,12 +21,6 @@ const Block kBlocks[] = {
     {umts_sib_sb1, 27, "Decoded SysInfoTypeSB1\n", "2:decode_system_info_msg:umts_convert_scheduling_block1 failed"},
     {umts_sib_sb2, 28, "Decoded SysInfoTypeSB2\n", "2:decode_system_info_msg:umts_convert_scheduling_block2 failed"}};
 
-template <typename T>
-bool allZero(const T& value) {
-  static const T zero = {};
-  return std::memcmp(&value, &zero, sizeof value) == 0;
-}
-
 uint8_t cellTag(uint32_t tag) { return static_cast<uint8_t>(tag % 4 + 1); }          // CellValueTag 1..4
 uint16_t lastPos(uint32_t posTag) { return static_cast<uint16_t>((1u << posTag) - 1); }  // rep4 0..1 ... rep4096 0..2047
 bool noValue(uint32_t tag) { return tag == 7 || tag == 9 || tag == 10 || tag == 18 || tag == 21 || tag >= 29; }

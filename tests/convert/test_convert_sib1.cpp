@@ -10,12 +10,6 @@ using namespace frametest;
 
 namespace {
 
-template <typename T>
-bool allZero(const T& value) {
-  static const T zero = {};
-  return std::memcmp(&value, &zero, sizeof value) == 0;
-}
-
 // The timers, each with a value of its own within its type.
 #define CONN_TIMERS(X)                                                                              \
   X(t_301, 1) X(n_301, 7) X(t_302, 2) X(n_302, 6) X(t_304, 3) X(n_304, 5) X(t_305, 0) X(t_307, 3)  \

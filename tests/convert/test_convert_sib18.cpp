@@ -11,12 +11,6 @@ using namespace frametest;
 
 namespace {
 
-template <typename T>
-bool allZero(const T& value) {
-  static const T zero = {};
-  return std::memcmp(&value, &zero, sizeof value) == 0;
-}
-
 // A SysInfoType18 built in code, with the storage of its list elements. List sizes are given
 // as {intra, inter, inter-RAT} (or {intra, inter} for multiple PLMNs); 0 leaves a list out.
 struct Sib18 {

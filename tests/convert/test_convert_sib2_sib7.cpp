@@ -7,12 +7,6 @@ using namespace frametest;
 
 namespace {
 
-template <typename T>
-bool allZero(const T& value) {
-  static const T zero = {};
-  return std::memcmp(&value, &zero, sizeof value) == 0;
-}
-
 SysInfoType2 sib2(uint32_t identities, bool extensions) {
   SysInfoType2 s;
   std::memset(&s, 0, sizeof s);

@@ -13,12 +13,6 @@ namespace {
 // A tdd cell keeps q_RxlevMin where an fdd cell keeps q_QualMin.
 static_assert(offsetof(umts_sib3_tdd_info, q_RxlevMin) == offsetof(umts_sib3_fdd_info, q_QualMin), "tdd q_RxlevMin");
 
-template <typename T>
-bool allZero(const T& value) {
-  static const T zero = {};
-  return std::memcmp(&value, &zero, sizeof value) == 0;
-}
-
 // A SysInfoType3 built in code, with the storage of its lists and alternatives. Starts as the
 // smallest SIB3: fdd without optional elements, cpich-RSCP, notBarred, no extensions.
 struct Sib3Builder {

@@ -73,6 +73,13 @@ std::vector<uint8_t> encode(int (*encoder)(rtxContext*, const T*), const T& valu
 std::vector<uint8_t> encodeBch(uint32_t t, const void* alternative);
 
 // A bit string field: `numbits` bits of `bytes` from bit `start` (a multiple of 8).
+// A record that holds nothing but zero bytes.
+template <typename T>
+bool allZero(const T& value) {
+  static const T zero = {};
+  return std::memcmp(&value, &zero, sizeof value) == 0;
+}
+
 template <typename BitString>
 BitString bitString(const std::vector<uint8_t>& bytes, uint32_t numbits, uint32_t start = 0) {
   BitString field;

@@ -13,12 +13,6 @@ uint16_t raw16(uint8_t first, uint8_t second) {
   return word;
 }
 
-template <typename T>
-bool allZero(const T& value) {
-  static const T zero = {};
-  return std::memcmp(&value, &zero, sizeof value) == 0;
-}
-
 void setAnsi(P_REV& p_rev, Min_P_REV& min_p_rev, SID& sid, NID& nid) {
   p_rev = {8, {0x12}};
   min_p_rev = {8, {0x34}};
