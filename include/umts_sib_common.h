@@ -98,10 +98,9 @@
   F(SCALAR, uint8_t, predefinedConfigIdentity, 1, UMTS_ALWAYS, _) \
   F(SCALAR, uint8_t, predefinedConfigValueTag, 1, UMTS_ALWAYS, _)
 
-/* SIBSb-TypeAndTag: the value tag of the alternative. sysInfoType7 (7), dummy2 (9),
-   dummy3 (10), sysInfoType14 (18), sysInfoType17 (21), spare2 (31) and spare1 (32) carry
-   none. */
-#define umts_sib_sb_type_u_FIELDS(F)                                                    \
+/* The first twenty alternatives of SIB-TypeAndTag and SIBSb-TypeAndTag, which both share:
+   those with a value. */
+#define UMTS_SHARED_SIB_TAG_FIELDS(F)                                                   \
   F(SCALAR, uint16_t, sysInfoType1, 1, 1, _)                                            \
   F(SCALAR, uint8_t, sysInfoType2, 1, 2, _)                                             \
   F(SCALAR, uint8_t, sysInfoType3, 1, 3, _)                                             \
@@ -117,7 +116,13 @@
   F(SCALAR, uint8_t, sysInfoType13_3, 1, 16, _)                                         \
   F(SCALAR, uint8_t, sysInfoType13_4, 1, 17, _)                                         \
   F(SCALAR, uint8_t, sysInfoType15, 1, 19, _)                                           \
-  F(RECORD, umts_predefined_config_identity_and_value_tag, sysInfoType16, 1, 20, _)     \
+  F(RECORD, umts_predefined_config_identity_and_value_tag, sysInfoType16, 1, 20, _)
+
+/* SIBSb-TypeAndTag: the value tag of the alternative. sysInfoType7 (7), dummy2 (9),
+   dummy3 (10), sysInfoType14 (18), sysInfoType17 (21), spare2 (31) and spare1 (32) carry
+   none. */
+#define umts_sib_sb_type_u_FIELDS(F)                                                    \
+  UMTS_SHARED_SIB_TAG_FIELDS(F)                                                         \
   F(SCALAR, uint8_t, sysInfoTypeSB1, 1, 22, _)                                          \
   F(SCALAR, uint8_t, sysInfoTypeSB2, 1, 23, _)                                          \
   F(SCALAR, uint8_t, sysInfoType15_1, 1, 24, _)                                         \

@@ -15,22 +15,7 @@
 /* SIB-TypeAndTag: the value tag of the alternative. sysInfoType7 (7), dummy2 (9), dummy3 (10),
    sysInfoType14 (18), sysInfoType17 (21) and spare4 to spare1 (29 to 32) carry none. */
 #define umts_sib_type_u_FIELDS(F)                                                       \
-  F(SCALAR, uint16_t, sysInfoType1, 1, 1, _)                                            \
-  F(SCALAR, uint8_t, sysInfoType2, 1, 2, _)                                             \
-  F(SCALAR, uint8_t, sysInfoType3, 1, 3, _)                                             \
-  F(SCALAR, uint8_t, sysInfoType4, 1, 4, _)                                             \
-  F(SCALAR, uint8_t, sysInfoType5, 1, 5, _)                                             \
-  F(SCALAR, uint8_t, sysInfoType6, 1, 6, _)                                             \
-  F(SCALAR, uint8_t, dummy, 1, 8, _)                                                    \
-  F(SCALAR, uint8_t, sysInfoType11, 1, 11, _)                                           \
-  F(SCALAR, uint8_t, sysInfoType12, 1, 12, _)                                           \
-  F(SCALAR, uint8_t, sysInfoType13, 1, 13, _)                                           \
-  F(SCALAR, uint8_t, sysInfoType13_1, 1, 14, _)                                         \
-  F(SCALAR, uint8_t, sysInfoType13_2, 1, 15, _)                                         \
-  F(SCALAR, uint8_t, sysInfoType13_3, 1, 16, _)                                         \
-  F(SCALAR, uint8_t, sysInfoType13_4, 1, 17, _)                                         \
-  F(SCALAR, uint8_t, sysInfoType15, 1, 19, _)                                           \
-  F(RECORD, umts_predefined_config_identity_and_value_tag, sysInfoType16, 1, 20, _)     \
+  UMTS_SHARED_SIB_TAG_FIELDS(F)                                                         \
   F(SCALAR, uint8_t, sysInfoType15_1, 1, 22, _)                                         \
   F(RECORD, umts_sib_occurrence_identity_and_value_tag, sysInfoType15_2, 1, 23, _)      \
   F(RECORD, umts_sib_occurrence_identity_and_value_tag, sysInfoType15_3, 1, 24, _)      \
