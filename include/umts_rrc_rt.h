@@ -299,9 +299,9 @@ RT_INLINE uint64_t rtxBigEndian64(uint64_t w) {
 #endif
 }
 
-/* Big-endian window of 64 bits starting at byte `bi`, zero past the end, for a window that
-   does not lie wholly inside the buffer (out of line: only the last bytes of a buffer). */
-uint64_t rtxLoadWindowTail(const rtxContext* ctx, uint32_t bi);
+/* The bits of the buffer from bit `pos` on, first on top, zero past the end (out of line:
+   the reads near the end of a buffer). */
+uint64_t rtxLoadTail(const rtxContext* ctx, uint64_t pos);
 
 /* Big-endian window of 64 bits starting at byte `bi`, zero past the end. */
 RT_INLINE uint64_t rtxLoadWindow(const rtxContext* ctx, uint32_t bi) {
@@ -310,7 +310,7 @@ RT_INLINE uint64_t rtxLoadWindow(const rtxContext* ctx, uint32_t bi) {
     memcpy(&w, ctx->buffer_data + bi, 8);
     return rtxBigEndian64(w);
   }
-  return rtxLoadWindowTail(ctx, bi);
+  return rtxLoadTail(ctx, (uint64_t)bi * 8u);
 }
 
 /* Number of bits PER gives to a constrained whole number of the range 0..range. */
@@ -354,10 +354,6 @@ RT_INLINE void rtxCurStart(rtxDecCur* cur, uint64_t pos) {
 
 /* The context shows the cursor's position. */
 RT_INLINE void rtxCurSync(rtxContext* ctx, const rtxDecCur* cur) { rtxSetBitPos(ctx, rtxCurPos(cur)); }
-
-/* The bits of the buffer from bit `pos` on, first on top, zero past the end (out of line:
-   the last 8 bytes of a buffer). */
-uint64_t rtxLoadTail(const rtxContext* ctx, uint64_t pos);
 
 /* Load the bits from the cursor's position on: at least 57 of them while 8 bytes are left. */
 RT_INLINE void rtxCurFill(const rtxContext* ctx, rtxDecCur* cur) {

@@ -160,41 +160,13 @@ fail:
 }
 
 /* The common case of a bounded string whose length is a constrained count (upper bound
-   below 64K): count, bounds, capacity, then the units in one copy. Returns 1 when the
+   below 64K), read in line through a cursor at the context's position. Returns 1 when the
    string was not of that kind and the general path must run. */
-int decBoundedString(rtxContext* ctx, const Bounds& b, uint32_t unit, uint8_t* dst, uint32_t capacity,
-                     uint32_t* pcount, int* pstat) {
-  if (!b.constrained || !usesConstrainedCount(b) || b.lower > b.upper) return 1;
-  const uint64_t start = rtxBitPos(ctx);
-  uint32_t count = b.lower;
-  if (b.upper != b.lower) {
-    uint32_t raw;
-    int stat = rtxDecBitsFast(ctx, &raw, rtxRangeBits(b.upper - b.lower));
-    if (stat != 0) {
-      *pstat = stat;
-      return 0;
-    }
-    if (raw > b.upper - b.lower) {
-      rtxSetBitPos(ctx, start);
-      *pstat = RT_ERR_CONSVIO;
-      return 0;
-    }
-    count += raw;
-  }
-  const uint64_t bits = static_cast<uint64_t>(count) * unit;
-  if ((bits + 7u) / 8u > capacity) {
-    rtxSetBitPos(ctx, start);
-    *pstat = RT_ERR_CONSVIO;
-    return 0;
-  }
-  int stat = rtxDecBitsToBytes(ctx, dst, static_cast<uint32_t>(bits));
-  if (stat != 0) {
-    rtxSetBitPos(ctx, start);
-    *pstat = stat;
-    return 0;
-  }
-  *pcount = count;
-  *pstat = 0;
+int decBoundedString(rtxContext* ctx, uint32_t unit, uint8_t* dst, uint32_t capacity, uint32_t* pcount, int* pstat) {
+  rtxDecCur cur;
+  rtxCurStart(&cur, rtxBitPos(ctx));
+  if (rtxDecBoundedStringAt(ctx, &cur, unit, pcount, dst, capacity, pstat) != 0) return 1;
+  if (*pstat == 0) rtxCurSync(ctx, &cur);
   return 0;
 }
 
@@ -322,7 +294,7 @@ int pd_BitString32(rtxContext* ctx, rtxBitStr32* pvalue, uint32_t lower, uint32_
 int pd_BitString(rtxContext* ctx, uint32_t* numbits, uint8_t* data, uint32_t capacity) {
   if (numbits == nullptr) return RT_ERR_INVPARAM;
   int stat;
-  if (decBoundedString(ctx, boundsOf(ctx->size_constraint), 1, data, capacity, numbits, &stat) == 0) return stat;
+  if (decBoundedString(ctx, 1, data, capacity, numbits, &stat) == 0) return stat;
   return decString(ctx, boundsOf(ctx->size_constraint), 1, data, capacity, false, nullptr, numbits);
 }
 
@@ -340,7 +312,7 @@ int pd_DynBitString(rtxContext* ctx, rtxDynBitStr* pvalue) {
 int pd_OctetString(rtxContext* ctx, uint32_t* numocts, uint8_t* data, uint32_t capacity) {
   if (numocts == nullptr) return RT_ERR_INVPARAM;
   int stat;
-  if (decBoundedString(ctx, boundsOf(ctx->size_constraint), 8, data, capacity, numocts, &stat) == 0) return stat;
+  if (decBoundedString(ctx, 8, data, capacity, numocts, &stat) == 0) return stat;
   return decString(ctx, boundsOf(ctx->size_constraint), 8, data, capacity, false, nullptr, numocts);
 }
 
@@ -355,37 +327,25 @@ int pd_DynOctetString(rtxContext* ctx, rtxDynOctStr* pvalue) {
   return 0;
 }
 
-uint64_t rtxLoadWindowTail(const rtxContext* ctx, uint32_t bi) {
-  const uint8_t* data = ctx->buffer_data;
-  const uint32_t size = ctx->buffer_size;
-  uint64_t w;
-  if ((uint64_t)bi + 8u <= size) {
-    std::memcpy(&w, data + bi, 8);
-    return rtxBigEndian64(w);
-  }
-  if (bi >= size) return 0;
-  if (size >= 8u) {
-    /* The last 8 bytes, shifted into place. */
-    std::memcpy(&w, data + size - 8u, 8);
-    return rtxBigEndian64(w) << (8u * (bi + 8u - size));
-  }
-  w = 0;
-  for (uint32_t i = bi; i < size; i++) w |= static_cast<uint64_t>(data[i]) << (56u - 8u * (i - bi));
-  return w;
-}
-
 uint64_t rtxLoadTail(const rtxContext* ctx, uint64_t pos) {
+  const uint8_t* data = ctx->buffer_data;
   const uint32_t size = ctx->buffer_size;
   const uint64_t end = static_cast<uint64_t>(size) * 8u;
   if (pos >= end) return 0;
   const uint32_t bi = static_cast<uint32_t>(pos >> 3);
-  if (size >= 8u && static_cast<uint64_t>(bi) + 8u > size) {
+  uint64_t w;
+  if (static_cast<uint64_t>(bi) + 8u <= size) {
+    std::memcpy(&w, data + bi, 8);
+    return rtxBigEndian64(w) << (pos & 7u);
+  }
+  if (size >= 8u) {
     /* The last 8 bytes, shifted so that bit `pos` comes on top. */
-    uint64_t w;
-    std::memcpy(&w, ctx->buffer_data + size - 8u, 8);
+    std::memcpy(&w, data + size - 8u, 8);
     return rtxBigEndian64(w) << (pos + 64u - end);
   }
-  return rtxLoadWindow(ctx, bi) << (pos & 7u);
+  w = 0;
+  for (uint32_t i = bi; i < size; i++) w |= static_cast<uint64_t>(data[i]) << (56u - 8u * (i - bi));
+  return w << (pos & 7u);
 }
 
 int rtxDecBitsToBytes(rtxContext* ctx, uint8_t* dst, uint32_t nbits) {

@@ -302,36 +302,11 @@ int pe_OctetString(rtxContext* ctx, uint32_t numocts, const uint8_t* data) {
 int rtxEncBytesBits(rtxContext* ctx, const uint8_t* src, uint32_t nbits) {
   if (nbits == 0) return 0;
   if (src == nullptr) return RT_ERR_INVPARAM;
-  int stat = encReserve(ctx, nbits);
-  if (stat != 0) return stat;
-  const uint64_t pos = rtxBitPos(ctx);
-  const uint32_t full = nbits / 8u;
-  const uint32_t rest = nbits & 7u;
-  if ((pos & 7u) == 0) {
-    uint8_t* dst = ctx->buffer_data + ctx->byte_index;
-    std::memcpy(dst, src, full);
-    if (rest) dst[full] = static_cast<uint8_t>(src[full] & (0xFFu << (8u - rest)));
-    rtxSetBitPos(ctx, pos + nbits);
-    return 0;
-  }
-  /* Unaligned: 7 source bytes per 56-bit write, then the remainder, through one cursor. */
   rtxEncCur cur;
   rtxEncCurStart(ctx, &cur);
-  uint32_t i = 0;
-  for (; i + 7u <= full; i += 7) {
-    uint64_t v = 0;
-    for (uint32_t k = 0; k < 7; k++) v = (v << 8) | src[i + k];
-    rtxEncBitsAt(ctx, &cur, v, 56);
-  }
-  const uint32_t left = nbits - i * 8u; /* < 56 */
-  if (left > 0) {
-    const uint32_t nbytes = (left + 7u) / 8u;
-    uint64_t v = 0;
-    for (uint32_t k = 0; k < nbytes; k++) v = (v << 8) | src[i + k];
-    rtxEncBitsAt(ctx, &cur, v >> (nbytes * 8u - left), left);
-  }
-  rtxEncCurSync(ctx, &cur);
-  return 0;
+  int stat = rtxEncBytesBitsAt(ctx, &cur, src, nbits);
+  if (stat == 0) rtxEncCurSync(ctx, &cur);
+  return stat;
 }
 
 int32_t rtxLastBitSet(const uint8_t* data, uint32_t nbits) {
