@@ -10,6 +10,7 @@
 
 #include "json_check.h"
 #include "umts_record_desc_define.h"
+#include "umts_sib_json.h"
 
 /* Records of every kind, written as the library writes its own. */
 #define test_inner_FIELDS(F)                           \
@@ -184,6 +185,59 @@ TEST(RecordJson, EveryLibraryRecordGivesValidJsonForAnyContent) {
   }
   std::vector<uint8_t> set(sizeof(umts_sib_set), 0);
   EXPECT_EQ(json_of(describe_umts_sib_set(), set.data()), "{\"presence_bitmask\":0}");
+}
+
+/* The exported writers: names, a sub-record, the set, and snprintf-style lengths. */
+TEST(SibJson, NamesAndIds) {
+  const char* const names[] = {"mib", "sib1", "sib2", "sib3", "sib5", "sib7", "sib11", "sib11bis", "sib12", "sib18", "sb1", "sb2"};
+  for (uint32_t i = 0; i < umts_sib_count; i++) {
+    const umts_sib_id id = static_cast<umts_sib_id>(i);
+    ASSERT_NE(umts_sib_name(id), nullptr) << i;
+    EXPECT_STREQ(umts_sib_name(id), names[i]);
+    EXPECT_EQ(umts_sib_id_of_name(names[i], std::strlen(names[i])), id);
+  }
+  EXPECT_EQ(umts_sib_name(umts_sib_count), nullptr);
+  EXPECT_EQ(umts_sib_id_of_name("sib11", 4), umts_sib_sib1); /* the length decides */
+  EXPECT_EQ(umts_sib_id_of_name("sib4", 4), umts_sib_count);
+  EXPECT_EQ(umts_sib_id_of_name("", 0), umts_sib_count);
+  EXPECT_EQ(umts_sib_id_of_name(nullptr, 0), umts_sib_count);
+}
+
+TEST(SibJson, WritesLikeSnprintf) {
+  static umts_sib_set set; /* large: once, not on the stack */
+  std::memset(&set, 0, sizeof set);
+  set.presence_bitmask = (1u << umts_sib_sib3) | (1u << umts_sib_mib);
+  set.mib.mib_ValueTag = 3;
+  set.sib3.sib4indicator = 1;
+  const std::string mib = json_of(describe_umts_mib_info(), &set.mib);
+  const std::string sib3 = json_of(describe_umts_sib3_info(), &set.sib3);
+  ASSERT_NE(mib.find("\"mib_ValueTag\":3"), std::string::npos) << mib;
+
+  std::vector<char> buf(mib.size() + 1, 'x');
+  EXPECT_EQ(umts_sib_record_json(&set, umts_sib_mib, buf.data(), buf.size()), mib.size());
+  EXPECT_EQ(std::string(buf.data()), mib);
+  /* Too short by one: the text is cut, still ended by a null, and the length says so. */
+  std::fill(buf.begin(), buf.end(), 'x');
+  EXPECT_EQ(umts_sib_record_json(&set, umts_sib_mib, buf.data(), mib.size()), mib.size());
+  EXPECT_EQ(std::string(buf.data()), mib.substr(0, mib.size() - 1));
+  for (size_t size : {size_t(1), size_t(2), size_t(17)}) {
+    std::vector<char> small(size + 1, 'x');
+    EXPECT_EQ(umts_sib_record_json(&set, umts_sib_mib, small.data(), size), mib.size());
+    EXPECT_EQ(std::string(small.data()), mib.substr(0, size - 1));
+    EXPECT_EQ(small[size], 'x') << "written beyond the size given";
+  }
+  EXPECT_EQ(umts_sib_record_json(&set, umts_sib_mib, nullptr, 0), mib.size());
+  /* An id beyond the blocks writes nothing. */
+  buf.assign(4, 'x');
+  EXPECT_EQ(umts_sib_record_json(&set, umts_sib_count, buf.data(), buf.size()), 0u);
+  EXPECT_EQ(buf[0], '\0');
+
+  /* The set: its presence word and the blocks that it marks, in slot order. */
+  const std::string whole = "{\"presence_bitmask\":9,\"mib\":" + mib + ",\"sib3\":" + sib3 + "}";
+  std::vector<char> all(whole.size() + 1);
+  EXPECT_EQ(umts_sib_set_json(&set, all.data(), all.size()), whole.size());
+  EXPECT_EQ(std::string(all.data()), whole);
+  EXPECT_TRUE(json_check::valid(whole));
 }
 
 }  // namespace

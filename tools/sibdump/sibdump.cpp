@@ -11,9 +11,9 @@
 #include <cstring>
 #include <string>
 
-#include "umts_record_desc.h"
 #include "umts_rrc_rt.h"
 #include "umts_sib_decoder.h"
+#include "umts_sib_json.h"
 #include "umts_sib_log.h"
 
 namespace {
@@ -74,25 +74,19 @@ struct Counts {
   unsigned long bad = 0;
 };
 
-/* The sub-records of umts_sib_set, from its description: name and slot (= presence bit). */
+/* The sub-records of umts_sib_set by their names, in slot order. */
 std::string sib_names() {
-  const umts_record_desc* set = describe_umts_sib_set();
   std::string names;
-  for (uint32_t i = 0; i < set->field_count; i++) {
-    if (set->fields[i].cond < 0) continue;
+  for (uint32_t i = 0; i < umts_sib_count; i++) {
     if (!names.empty()) names += ", ";
-    names += set->fields[i].name;
+    names += umts_sib_name(static_cast<umts_sib_id>(i));
   }
   return names;
 }
 
 int sib_id_of(const char* name, size_t length) {
-  const umts_record_desc* set = describe_umts_sib_set();
-  for (uint32_t i = 0; i < set->field_count; i++) {
-    const umts_field_desc& f = set->fields[i];
-    if (f.cond >= 0 && std::strlen(f.name) == length && std::memcmp(f.name, name, length) == 0) return f.cond;
-  }
-  return -1;
+  const umts_sib_id id = umts_sib_id_of_name(name, length);
+  return id == umts_sib_count ? -1 : static_cast<int>(id);
 }
 
 void usage_text(FILE* out) {
@@ -190,11 +184,76 @@ bool parse_hex(const char* text, size_t length, uint8_t* out, size_t capacity, s
   return true;
 }
 
+/* JSON lines gathered in one buffer and written in large pieces. */
+class JsonLines {
+ public:
+  explicit JsonLines(FILE* out) : out_(out), buf_(static_cast<char*>(std::malloc(kInitial))), cap_(kInitial) {}
+  ~JsonLines() { std::free(buf_); }
+  JsonLines(const JsonLines&) = delete;
+  JsonLines& operator=(const JsonLines&) = delete;
+
+  bool ok() const { return buf_ != nullptr; }
+
+  /* {"line":N,"block":"<name>","record":<record>}\n */
+  void record(unsigned long line, const umts_sib_set* set, umts_sib_id id) {
+    const char* name = umts_sib_name(id);
+    char head[96];
+    const int n = std::snprintf(head, sizeof head, "{\"line\":%lu,\"block\":\"%s\",\"record\":", line, name);
+    put(head, static_cast<size_t>(n));
+    size_t room = cap_ - len_;
+    size_t need = umts_sib_record_json(set, id, buf_ + len_, room);
+    if (need >= room) {
+      /* A record larger than the room left: write out what is gathered, grow if needed. */
+      write_out();
+      reserve(need + 3);
+      need = umts_sib_record_json(set, id, buf_ + len_, cap_ - len_);
+    }
+    len_ += need;
+    put("}\n", 2);
+    if (len_ >= kWriteAt) write_out();
+  }
+
+  /* Everything gathered goes to the stream. */
+  void write_out() {
+    if (len_ > 0) std::fwrite(buf_, 1, len_, out_);
+    len_ = 0;
+  }
+
+ private:
+  static constexpr size_t kInitial = 1u << 20;
+  static constexpr size_t kWriteAt = 1u << 19;
+
+  void reserve(size_t more) {
+    if (cap_ - len_ >= more) return;
+    size_t cap = cap_;
+    while (cap - len_ < more) cap *= 2;
+    char* grown = static_cast<char*>(std::realloc(buf_, cap));
+    if (grown == nullptr) {
+      std::fprintf(stderr, "sibdump: out of memory\n");
+      std::exit(2);
+    }
+    buf_ = grown;
+    cap_ = cap;
+  }
+  void put(const char* s, size_t n) {
+    if (cap_ - len_ < n) {
+      write_out();
+      reserve(n);
+    }
+    std::memcpy(buf_ + len_, s, n);
+    len_ += n;
+  }
+
+  FILE* out_;
+  char* buf_;
+  size_t cap_;
+  size_t len_ = 0;
+};
+
 struct Dumper {
-  FILE* json;
+  JsonLines& json;
   const char* input_name;
   umts_sib_set* set;
-  std::string line_json;
   Counts counts;
 };
 
@@ -207,21 +266,10 @@ void bad_line(Dumper& d, unsigned long line, const char* why) {
 
 /* One JSON line per sub-record whose presence bit the last call set. */
 void write_records(Dumper& d, unsigned long line) {
-  const umts_record_desc* set_desc = describe_umts_sib_set();
-  const uint8_t* base = reinterpret_cast<const uint8_t*>(d.set);
-  for (uint32_t i = 0; i < set_desc->field_count; i++) {
-    const umts_field_desc& f = set_desc->fields[i];
-    if (f.cond < 0 || ((d.set->presence_bitmask >> f.cond) & 1u) == 0) continue;
-    std::string& out = d.line_json;
-    out.clear();
-    out += "{\"line\":";
-    out += std::to_string(line);
-    out += ",\"block\":\"";
-    out += f.name;
-    out += "\",\"record\":";
-    umts_json_append_record(out, f.elem_desc, base + f.offset);
-    out += "}\n";
-    std::fwrite(out.data(), 1, out.size(), d.json);
+  const uint32_t present = d.set->presence_bitmask;
+  for (uint32_t i = 0; i < umts_sib_count; i++) {
+    if (((present >> i) & 1u) == 0) continue;
+    d.json.record(line, d.set, static_cast<umts_sib_id>(i));
     d.counts.records++;
   }
 }
@@ -350,8 +398,15 @@ int main(int argc, char** argv) {
   }
   if (opt.log_level_set) zvtLogLevelThreshold = static_cast<unsigned int>(opt.log_level);
 
-  Dumper d{json, input_name, set, std::string(), Counts()};
-  d.line_json.reserve(1 << 16);
+  JsonLines lines(json);
+  if (!lines.ok()) {
+    std::fprintf(stderr, "sibdump: out of memory\n");
+    std::fclose(json);
+    std::free(set);
+    if (in != stdin) std::fclose(in);
+    return 2;
+  }
+  Dumper d{lines, input_name, set, Counts()};
   char* text = nullptr;
   size_t capacity = 0;
   unsigned long line = 0;
@@ -364,6 +419,7 @@ int main(int argc, char** argv) {
   std::free(text);
   if (in != stdin) std::fclose(in);
 
+  lines.write_out();
   rtxPrintFlush();
   std::fflush(stdout);
   const bool write_error = std::fclose(json) != 0;

@@ -71,22 +71,24 @@ struct presence_of<T, std::void_t<decltype(T::presence_bitmask)>> {
 
 #define UMTS_DESC_NO_AUX nullptr, -1, 0u
 #define UMTS_DESC_AUX(aux) #aux, static_cast<int32_t>(offsetof(self, aux)), static_cast<uint32_t>(sizeof(self::aux))
+/* The field's name as the JSON writes it, with its length. */
+#define UMTS_DESC_KEY(name) "\"" #name "\":", static_cast<uint32_t>(sizeof("\"" #name "\":") - 1)
 
 #define UMTS_DESC_FIELD_SCALAR(type, name, dim, cond, aux) \
-  {UMTS_DESC_FIELD_COMMON(umts_field_scalar, type, name, 1, cond, nullptr), UMTS_DESC_NO_AUX}
+  {UMTS_DESC_FIELD_COMMON(umts_field_scalar, type, name, 1, cond, nullptr), UMTS_DESC_NO_AUX, UMTS_DESC_KEY(name)}
 #define UMTS_DESC_FIELD_BOOL(type, name, dim, cond, aux) \
-  {UMTS_DESC_FIELD_COMMON(umts_field_bool, type, name, 1, cond, nullptr), UMTS_DESC_NO_AUX}
+  {UMTS_DESC_FIELD_COMMON(umts_field_bool, type, name, 1, cond, nullptr), UMTS_DESC_NO_AUX, UMTS_DESC_KEY(name)}
 #define UMTS_DESC_FIELD_RECORD(type, name, dim, cond, aux)                                            \
   {UMTS_DESC_FIELD_COMMON(umts_field_record, type, name, 1, cond, umts_desc_detail::desc_of<type>::get()), \
-   UMTS_DESC_NO_AUX}
+   UMTS_DESC_NO_AUX, UMTS_DESC_KEY(name)}
 #define UMTS_DESC_FIELD_UNION(type, name, dim, cond, aux)                                            \
   {UMTS_DESC_FIELD_COMMON(umts_field_union, type, name, 1, cond, umts_desc_detail::desc_of<type>::get()), \
-   UMTS_DESC_AUX(aux)}
+   UMTS_DESC_AUX(aux), UMTS_DESC_KEY(name)}
 #define UMTS_DESC_FIELD_ARRAY(type, name, dim, cond, aux)                                            \
   {UMTS_DESC_FIELD_COMMON(umts_field_array, type, name, dim, cond, umts_desc_detail::desc_of<type>::get()), \
-   UMTS_DESC_AUX(aux)}
+   UMTS_DESC_AUX(aux), UMTS_DESC_KEY(name)}
 #define UMTS_DESC_FIELD_BYTES(type, name, dim, cond, aux) \
-  {UMTS_DESC_FIELD_COMMON(umts_field_bytes, type, name, dim, cond, nullptr), UMTS_DESC_NO_AUX}
+  {UMTS_DESC_FIELD_COMMON(umts_field_bytes, type, name, dim, cond, nullptr), UMTS_DESC_NO_AUX, UMTS_DESC_KEY(name)}
 
 #define UMTS_DESC_DEFINE(kind, rec)                                                            \
   namespace umts_desc_detail {                                                                 \

@@ -1,10 +1,11 @@
 /*
- * Run-time descriptions of the flat records of umts_sib_set, and their JSON.
+ * Run-time descriptions of the flat records of umts_sib_set, and their JSON (the library's
+ * own; hosts use include/umts_sib_json.h).
  *
  * Every flat record is written once, as the field list <record>_FIELDS(F) of its header
  * (see umts_sib_record_macros.h). The descriptions here are expanded from those same lists
- * (umts_record_desc_define.h), so a field added to a header appears in the JSON of sibdump
- * without any change in this tool.
+ * (umts_record_desc_define.h), so a field added to a header appears in the JSON without
+ * any change here.
  *
  * JSON form of a record described by umts_record_desc:
  *   - a record is an object of its fields in declaration order;
@@ -53,6 +54,8 @@ typedef struct umts_field_desc {
   const char* aux_name; /* ARRAY: the count field; UNION: the tag field; null otherwise */
   int32_t aux_offset;   /* offset of that field in the enclosing record, -1 without one */
   uint32_t aux_size;
+  const char* json_key; /* "\"name\":", as the JSON writes it */
+  uint32_t json_key_length;
 } umts_field_desc;
 
 struct umts_record_desc {
@@ -83,7 +86,20 @@ const umts_record_desc* const* umts_all_record_descs(size_t* count);
    Returns the number of problems and writes them, one per line, to *report when not null. */
 size_t umts_record_desc_check(const umts_record_desc* desc, std::string* report);
 
+/* The JSON object of the record at `record` into buf, snprintf-style: at most `size` bytes
+   with the null, returns the whole text's length. */
+size_t umts_json_write_record(const umts_record_desc* desc, const void* record, char* buf, size_t size);
+
 /* Appends the JSON object of the record at `record`. */
-void umts_json_append_record(std::string& out, const umts_record_desc* desc, const void* record);
+inline void umts_json_append_record(std::string& out, const umts_record_desc* desc, const void* record) {
+  const size_t at = out.size();
+  out.resize(at + 256);
+  size_t n = umts_json_write_record(desc, record, &out[at], 257);
+  if (n > 256) {
+    out.resize(at + n);
+    umts_json_write_record(desc, record, &out[at], n + 1);
+  }
+  out.resize(at + n);
+}
 
 #endif /* UMTS_RECORD_DESC_H */

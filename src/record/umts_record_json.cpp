@@ -1,10 +1,12 @@
 /*
- * JSON of a flat record from its description, and the layout check of the descriptions.
+ * JSON of a flat record from its description, written straight into the caller's buffer, and
+ * the layout check of the descriptions.
  */
 #include <charconv>
 #include <cstring>
 
 #include "umts_record_desc.h"
+#include "umts_sib_json.h"
 
 namespace {
 
@@ -59,17 +61,38 @@ int64_t load_signed(const uint8_t* p, uint32_t size) {
   }
 }
 
-void append_integer(std::string& out, const uint8_t* p, uint32_t size, bool is_signed) {
+/* The JSON text, snprintf-style: bytes beyond the buffer are counted, not written. `lim`
+   leaves room for the null. */
+struct JsonOut {
+  char* cur;
+  char* lim;
+  size_t dropped;
+
+  void put_slow(const char* s, size_t n) {
+    const size_t room = static_cast<size_t>(lim - cur);
+    std::memcpy(cur, s, room);
+    cur = lim;
+    dropped += n - room;
+  }
+  void put(const char* s, size_t n) {
+    if (n <= static_cast<size_t>(lim - cur)) {
+      std::memcpy(cur, s, n);
+      cur += n;
+    } else {
+      put_slow(s, n);
+    }
+  }
+  void put(char c) {
+    if (cur < lim) *cur++ = c;
+    else dropped++;
+  }
+};
+
+void put_integer(JsonOut& out, const uint8_t* p, uint32_t size, bool is_signed) {
   char text[24];
   std::to_chars_result r = is_signed ? std::to_chars(text, text + sizeof text, load_signed(p, size))
                                      : std::to_chars(text, text + sizeof text, load_unsigned(p, size));
-  out.append(text, static_cast<size_t>(r.ptr - text));
-}
-
-void append_name(std::string& out, const char* name) {
-  out += '"';
-  out += name;
-  out += "\":";
+  out.put(text, static_cast<size_t>(r.ptr - text));
 }
 
 bool field_present(const umts_record_desc* desc, const uint8_t* record, int32_t cond) {
@@ -87,58 +110,70 @@ const umts_field_desc* union_member(const umts_record_desc* desc, uint64_t tag) 
   return nullptr;
 }
 
-void append_record(std::string& out, const umts_record_desc* desc, const uint8_t* record);
+void put_record(JsonOut& out, const umts_record_desc* desc, const uint8_t* record);
+
+void put_hex(JsonOut& out, const uint8_t* p, uint32_t n) {
+  static const char kHex[] = "0123456789abcdef";
+  char text[64];
+  out.put('"');
+  while (n > 0) {
+    const uint32_t k = n < sizeof text / 2 ? n : static_cast<uint32_t>(sizeof text / 2);
+    for (uint32_t i = 0; i < k; i++) {
+      text[2 * i] = kHex[p[i] >> 4];
+      text[2 * i + 1] = kHex[p[i] & 0x0Fu];
+    }
+    out.put(text, 2u * k);
+    p += k;
+    n -= k;
+  }
+  out.put('"');
+}
 
 /* The value of field `f` of the record or union at `base`. */
-void append_value(std::string& out, const umts_field_desc& f, const uint8_t* base) {
-  static const char kHex[] = "0123456789abcdef";
+void put_value(JsonOut& out, const umts_field_desc& f, const uint8_t* base) {
   const uint8_t* p = base + f.offset;
   switch (f.kind) {
     case umts_field_scalar:
-      append_integer(out, p, f.elem_size, f.elem_signed != 0);
+      put_integer(out, p, f.elem_size, f.elem_signed != 0);
       break;
     case umts_field_bool:
-      out += *p != 0 ? "true" : "false";
+      if (*p != 0) out.put("true", 4);
+      else out.put("false", 5);
       break;
     case umts_field_record:
-      append_record(out, f.elem_desc, p);
+      put_record(out, f.elem_desc, p);
       break;
     case umts_field_union: {
       const umts_field_desc* m = union_member(f.elem_desc, load_unsigned(base + f.aux_offset, f.aux_size));
-      out += '{';
+      out.put('{');
       if (m != nullptr) {
-        append_name(out, m->name);
-        append_value(out, *m, p);
+        out.put(m->json_key, m->json_key_length);
+        put_value(out, *m, p);
       }
-      out += '}';
+      out.put('}');
       break;
     }
     case umts_field_array: {
       uint64_t count = load_unsigned(base + f.aux_offset, f.aux_size);
       if (count > f.dim) count = f.dim;
-      out += '[';
+      out.put('[');
       for (uint64_t i = 0; i < count; i++) {
-        if (i != 0) out += ',';
+        if (i != 0) out.put(',');
         const uint8_t* e = p + i * f.elem_size;
-        if (f.elem_desc != nullptr) append_record(out, f.elem_desc, e);
-        else append_integer(out, e, f.elem_size, f.elem_signed != 0);
+        if (f.elem_desc != nullptr) put_record(out, f.elem_desc, e);
+        else put_integer(out, e, f.elem_size, f.elem_signed != 0);
       }
-      out += ']';
+      out.put(']');
       break;
     }
     case umts_field_bytes:
-      out += '"';
-      for (uint32_t i = 0; i < f.dim; i++) {
-        out += kHex[p[i] >> 4];
-        out += kHex[p[i] & 0x0Fu];
-      }
-      out += '"';
+      put_hex(out, p, f.dim);
       break;
   }
 }
 
-void append_record(std::string& out, const umts_record_desc* desc, const uint8_t* record) {
-  out += '{';
+void put_record(JsonOut& out, const umts_record_desc* desc, const uint8_t* record) {
+  out.put('{');
   /* A union reached without its tag has no member to show. */
   if (!desc->is_union) {
     bool first = true;
@@ -148,13 +183,13 @@ void append_record(std::string& out, const umts_record_desc* desc, const uint8_t
       if (f.kind == umts_field_union &&
           union_member(f.elem_desc, load_unsigned(record + f.aux_offset, f.aux_size)) == nullptr)
         continue;
-      if (!first) out += ',';
+      if (!first) out.put(',');
       first = false;
-      append_name(out, f.name);
-      append_value(out, f, record);
+      out.put(f.json_key, f.json_key_length);
+      put_value(out, f, record);
     }
   }
-  out += '}';
+  out.put('}');
 }
 
 void note(std::string* report, size_t& problems, const umts_record_desc* desc, const char* field,
@@ -187,8 +222,64 @@ bool integer_field_at(const umts_record_desc* desc, const char* name, int32_t of
 
 }  // namespace
 
-void umts_json_append_record(std::string& out, const umts_record_desc* desc, const void* record) {
-  append_record(out, desc, static_cast<const uint8_t*>(record));
+size_t umts_json_write_record(const umts_record_desc* desc, const void* record, char* buf, size_t size) {
+  char none = 0;
+  if (buf == nullptr || size == 0) {
+    buf = &none;
+    size = 1;
+  }
+  JsonOut out{buf, buf + size - 1, 0};
+  put_record(out, desc, static_cast<const uint8_t*>(record));
+  *out.cur = '\0';
+  return static_cast<size_t>(out.cur - buf) + out.dropped;
+}
+
+/* ---- The exported writers ------------------------------------------------------------- */
+
+namespace {
+
+/* The field of umts_sib_set that holds block `id`: the one whose presence bit is `id`. */
+const umts_field_desc* set_field(umts_sib_id id) {
+  const umts_record_desc* set = describe_umts_sib_set();
+  for (uint32_t i = 0; i < set->field_count; i++)
+    if (set->fields[i].cond >= 0 && static_cast<uint32_t>(set->fields[i].cond) == static_cast<uint32_t>(id))
+      return &set->fields[i];
+  return nullptr;
+}
+
+}  // namespace
+
+const char* umts_sib_name(umts_sib_id id) {
+  const umts_field_desc* f = set_field(id);
+  return f != nullptr ? f->name : nullptr;
+}
+
+umts_sib_id umts_sib_id_of_name(const char* name, size_t length) {
+  const umts_record_desc* set = describe_umts_sib_set();
+  if (name == nullptr) return umts_sib_count;
+  for (uint32_t i = 0; i < set->field_count; i++) {
+    const umts_field_desc& f = set->fields[i];
+    if (f.cond >= 0 && std::strlen(f.name) == length && std::memcmp(f.name, name, length) == 0)
+      return static_cast<umts_sib_id>(f.cond);
+  }
+  return umts_sib_count;
+}
+
+size_t umts_sib_record_json(const umts_sib_set* set, umts_sib_id id, char* buf, size_t size) {
+  const umts_field_desc* f = set != nullptr ? set_field(id) : nullptr;
+  if (f == nullptr) {
+    if (buf != nullptr && size > 0) buf[0] = '\0';
+    return 0;
+  }
+  return umts_json_write_record(f->elem_desc, reinterpret_cast<const uint8_t*>(set) + f->offset, buf, size);
+}
+
+size_t umts_sib_set_json(const umts_sib_set* set, char* buf, size_t size) {
+  if (set == nullptr) {
+    if (buf != nullptr && size > 0) buf[0] = '\0';
+    return 0;
+  }
+  return umts_json_write_record(describe_umts_sib_set(), set, buf, size);
 }
 
 size_t umts_record_desc_check(const umts_record_desc* desc, std::string* report) {
