@@ -342,6 +342,22 @@ TEST_F(FrameReassembly, Sb1ScheduledSib19IsNotASib11bis) {
   EXPECT_EQ(out.find("SysInfoType11bis"), std::string::npos);
   EXPECT_EQ(result->presence_bitmask, 0);
   EXPECT_EQ(slot(umts_sib_sib11bis).buffer, nullptr);
+  EXPECT_EQ(g_umts_ctxt.sib11bis_schedules[umts_schedule_sb1].scheduled, 0);
+
+  // The same block with SIB11bis in its v6b0 list, sent whole as an SB2, schedules it there.
+  sb.v6b0NonCriticalExtensions.sysInfoTypeSB1_v6b0ext.m = 1;
+  ExtSIBTypeInfoSchedulingInfo sib11bis{{1, {}}, scheduling(4, 9, 2, {3}), {1, {}}};  // rep32, 18, 26
+  rtxDListNode node;
+  append(sb.v6b0NonCriticalExtensions.sysInfoTypeSB1_v6b0ext.extSIBTypeInfoSchedulingInfo_List, node, sib11bis);
+  ASSERT_EQ(whole(umts_sib_sb2, encode(asn1PE_UMTS_SysInfoTypeSB1, sb)), 1);
+  const umts_sib11bis_schedule& sb2 = g_umts_ctxt.sib11bis_schedules[umts_schedule_sb2];
+  EXPECT_EQ(sb2.scheduled, 1);
+  EXPECT_EQ(sb2.rep, 32);
+  EXPECT_EQ(sb2.seg_count, 2);
+  EXPECT_EQ(sb2.frame[0], 18);
+  EXPECT_EQ(sb2.frame[1], 26);
+  EXPECT_EQ(umts_sib11bis_scheduled_at(13, 1), 1);  // frame 26
+  g_umts_ctxt.sib11bis_schedules[umts_schedule_sb2] = umts_sib11bis_schedule{};
 
   // The real extension block, at SFN 2580: refused as well, until a MIB places SIB11bis there.
   EXPECT_EQ(feed(fromHex(kExtensionBlock), &out), 0);
