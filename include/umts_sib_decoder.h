@@ -44,17 +44,36 @@ typedef enum umts_sib_id {
   umts_sib_count = 12 /* number of slots, and "invalid" */
 } umts_sib_id;
 
-/* Bytes of one SIB between calls. An empty slot has all four fields zero. */
+/* Bytes of one SIB between calls. An empty slot has all its fields zero. The segments of a
+   SIB are joined bit by bit: each starts at the bit after the last one of the segment before. */
 typedef struct umts_sib_slot {
   uint8_t* buffer;             /* base of the SIB's bytes, owned by the slot */
-  uint8_t* write_cursor;       /* where the next segment's bytes go */
+  uint8_t* write_cursor;       /* the octet where the next segment's bits go */
   uint8_t total_segments;      /* SEG-COUNT of the first segment */
   uint8_t remaining_segments;  /* segments still to come */
+  uint8_t write_bit;           /* bits of *write_cursor that the segments before took, 0 to 7 */
 } umts_sib_slot;
+
+/* Where one scheduling block (MIB, SB1 or SB2), as last converted, has the cell send SIB11bis:
+   the SIB's first segment in the frames with SFN mod rep = frame[0], segment i in those with
+   SFN mod rep = frame[i]. */
+typedef struct umts_sib11bis_schedule {
+  uint8_t scheduled;           /* 1 when the block schedules SIB11bis */
+  uint8_t seg_count;           /* SEG_COUNT of the schedule */
+  uint16_t rep;                /* SIB_REP, in frames */
+  uint16_t frame[16];          /* SIB_POS of each segment, below rep */
+} umts_sib11bis_schedule;
+
+/* Sources of umts_sib11bis_schedule entries. */
+enum { umts_schedule_mib = 0, umts_schedule_sb1 = 1, umts_schedule_sb2 = 2, umts_schedule_count = 3 };
 
 typedef struct umts_decoder_ctxt {
   uint32_t request_bitmask;    /* bit n: the SIB of slot n is complete and waits for conversion */
   umts_sib_slot slots[umts_sib_count];
+  uint16_t sfn_prime;          /* SFN' of the transport block being filed */
+  /* What the MIB, SB1 and SB2 converted last schedule of SIB11bis: a segment of SIB-Type
+     extensionType is SIB11bis only where one of them places it. */
+  umts_sib11bis_schedule sib11bis_schedules[umts_schedule_count];
 } umts_decoder_ctxt;
 
 /* The library's one global: zero at load, never reset as a whole. */
@@ -94,7 +113,8 @@ UMTS_RECORD(umts_sib_set)
 /* ---- Entries ------------------------------------------------------------------------- */
 
 /* One BCH transport block of `length` bytes. Returns 1 when the block's segments were filed
-   and the SIBs they completed were converted, 0 otherwise. */
+   and the SIBs they completed were converted, 0 otherwise. With a null `result` the segments
+   are filed all the same, and the SIBs they complete wait for a call with a record. */
 uint8_t umts_sib_decoder(const uint8_t* data, umts_sib_set* result, uint32_t length);
 
 /* One complete SIB of `length` bytes (1 to 2048) for slot `sib_id`. Clears
@@ -103,7 +123,8 @@ uint8_t umts_sib_msg_decoder(umts_sib_id sib_id, const uint8_t* data, umts_sib_s
 
 /* ---- Driver -------------------------------------------------------------------------- */
 
-/* Runs the conversions requested in g_umts_ctxt, MIB first; 0 at the first failure. */
+/* Runs the conversions requested in g_umts_ctxt, MIB first; 0 at the first failure. A
+   null `result` converts nothing: 1 when nothing waits, else 0 with the requests kept. */
 uint8_t decode_system_info_msg(umts_sib_set* result);
 /* Raises the request bit of one SIB. */
 void umts_sib_decoder_set_gb_ctxt_bitmask(umts_sib_id sib_id);

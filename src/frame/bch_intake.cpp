@@ -5,9 +5,20 @@
  * Diagnostics of this unit go to standard output with puts or printf, unguarded.
  *
  * Slot invariant: write_cursor is null or points into `buffer`, which then came from a first
- * segment and holds UMTS_SIB_DECODE_LENGTH bytes. A complete SIB that replaces the buffer of
- * a collection under way detaches the cursor: the later segments of that collection are
- * still counted, but their bytes go nowhere and the complete SIB's bytes stay as they came.
+ * segment and holds UMTS_SIB_DECODE_LENGTH bytes; write_bit is below 8. A complete SIB that
+ * replaces the buffer of a collection under way detaches the cursor: the later segments of
+ * that collection are still counted, but their bits go nowhere and the complete SIB's bytes
+ * stay as they came.
+ *
+ * Two choices here follow what cells broadcast:
+ *  - The segments of a SIB are joined bit by bit. The cell cuts the SIB's encoding as one bit
+ *    string into pieces of 222 bits (SIB-Data-fixed) and a last one of 1 to 214
+ *    (SIB-Data-variable) or up to 222; joining each piece's whole octets instead would move
+ *    every bit after the first 222 by two places.
+ *  - Each part of a block stands on its own: a last part that is refused (its first segments
+ *    never came, as at the start of any capture) or a list entry of a type that is not kept
+ *    does not keep the block's other parts from being filed. The handlers' results are those
+ *    of the parts that decided them before.
  */
 #include <cstdio>
 #include <cstdlib>
@@ -31,6 +42,13 @@ inline uint32_t octets_within(uint32_t numbits, uint32_t capacity) {
   return n < capacity ? n : capacity;
 }
 
+/* The bits of a decoded bit string within those octets: all of them for any string that the
+   decoder delivers. */
+inline uint32_t bits_within(uint32_t numbits, uint32_t capacity) {
+  const uint32_t bits = 8u * octets_within(numbits, capacity);
+  return numbits < bits ? numbits : bits;
+}
+
 uint8_t* new_slot_buffer() { return static_cast<uint8_t*>(std::calloc(UMTS_SIB_DECODE_LENGTH, 1)); }
 
 void empty_slot(umts_sib_slot* slot) {
@@ -44,18 +62,47 @@ void take_complete(umts_sib_slot* slot, uint8_t* bytes) {
   std::free(slot->buffer);
   slot->buffer = bytes;
   slot->write_cursor = nullptr;
+  slot->write_bit = 0;
 }
 
-/* Copies `n` octets to the write cursor, and moves it past them when `advance` is set. A
+/* The slot of a part of SIB-Type `sib_type` that is segment `segment` of its SIB (0 for a
+   first segment or a whole SIB), or umts_sib_count when the part is not kept. extensionType
+   names every extension SIB alike; such a part is SIB11bis only where the cell's scheduling
+   has SIB11bis in the frames of this block, and is otherwise refused like any type that is
+   not kept (filing every one as SIB11bis would decode, say, a SIB19 as a SIB11bis). */
+umts_sib_id slot_of(uint32_t sib_type, uint32_t segment) {
+  const umts_sib_id id = get_sib_type(sib_type);
+  if (id == umts_sib_sib11bis && umts_sib11bis_scheduled_at(g_umts_ctxt.sfn_prime, segment) == 0) return umts_sib_count;
+  return id;
+}
+
+/* Joins the first `numbits` bits of `data` (first bit at the top of data[0]) to the slot's
+   SIB at its write position, and moves the position past them when `advance` is set. A
    detached cursor takes nothing. The index test admits at most 15 segments after the first,
    so decoded segments always end within the buffer; the bound is tested all the same for
    callers that build their own segments. */
-void put_at_cursor(umts_sib_slot* slot, const uint8_t* data, uint32_t n, bool advance) {
+void put_at_cursor(umts_sib_slot* slot, const uint8_t* data, uint32_t numbits, bool advance) {
   uint8_t* at = slot->write_cursor;
   if (at == nullptr) return;
-  if (static_cast<size_t>(at - slot->buffer) + n > UMTS_SIB_DECODE_LENGTH) return;
-  std::memcpy(at, data, n);
-  if (advance) slot->write_cursor = at + n;
+  const uint32_t shift = slot->write_bit & 7u;
+  const uint32_t n = (numbits + 7u) / 8u;
+  /* Bits that start within an octet reach into one octet more. */
+  if (static_cast<size_t>(at - slot->buffer) + n + (shift != 0 ? 1u : 0u) > UMTS_SIB_DECODE_LENGTH) return;
+  for (uint32_t i = 0; i < n; i++) {
+    uint8_t v = data[i];
+    if (i + 1u == n && (numbits & 7u) != 0) v = static_cast<uint8_t>(v & (0xFFu << (8u - (numbits & 7u))));
+    if (shift == 0) {
+      at[i] = v;
+    } else {
+      at[i] = static_cast<uint8_t>((at[i] & (0xFFu << (8u - shift))) | (v >> shift));
+      at[i + 1u] = static_cast<uint8_t>(v << (8u - shift));
+    }
+  }
+  if (advance) {
+    const uint32_t end = shift + numbits;
+    slot->write_cursor = at + end / 8u;
+    slot->write_bit = static_cast<uint8_t>(end % 8u);
+  }
 }
 
 enum SegmentResult { kSegmentRefused, kSegmentFiled, kSegmentPending };
@@ -63,10 +110,10 @@ enum SegmentResult { kSegmentRefused, kSegmentFiled, kSegmentPending };
 /* A subsequent or last segment. kSegmentRefused for an unknown type or an index that does
    not follow the slot's (the slot is then emptied, silently); kSegmentPending for a last
    segment whose SIB still misses segments; kSegmentFiled otherwise. A last segment leaves
-   the cursor where it was, so that a further segment overwrites its bytes. */
+   the write position where it was, so that a further segment overwrites its bits. */
 SegmentResult file_segment(uint32_t sib_type, uint8_t index, uint32_t numbits, const uint8_t* data,
                            uint32_t capacity, bool subsequent, const char* invalid_text) {
-  const umts_sib_id id = get_sib_type(sib_type);
+  const umts_sib_id id = slot_of(sib_type, index);
   if (id == umts_sib_count) {
     std::puts(invalid_text);
     return kSegmentRefused;
@@ -77,7 +124,7 @@ SegmentResult file_segment(uint32_t sib_type, uint8_t index, uint32_t numbits, c
     return kSegmentRefused;
   }
   slot->remaining_segments = static_cast<uint8_t>(slot->remaining_segments - 1u);
-  put_at_cursor(slot, data, octets_within(numbits, capacity), subsequent);
+  put_at_cursor(slot, data, bits_within(numbits, capacity), subsequent);
   if (subsequent) return kSegmentFiled;
   if (slot->remaining_segments != 0) return kSegmentPending;
   umts_sib_decoder_set_gb_ctxt_bitmask(id);
@@ -89,7 +136,7 @@ SegmentResult file_segment(uint32_t sib_type, uint8_t index, uint32_t numbits, c
    text (the long first segment) the old buffer is dropped as well. Returns 1 when filed. */
 uint8_t file_first_segment(uint32_t sib_type, uint8_t seg_count, uint32_t numbits, const uint8_t* data,
                            uint32_t capacity, const char* invalid_text, const char* alloc_text) {
-  const umts_sib_id id = get_sib_type(sib_type);
+  const umts_sib_id id = slot_of(sib_type, 0);
   if (id == umts_sib_count) {
     std::puts(invalid_text);
     return 0;
@@ -99,6 +146,7 @@ uint8_t file_first_segment(uint32_t sib_type, uint8_t seg_count, uint32_t numbit
   slot->remaining_segments = static_cast<uint8_t>(seg_count - 1u);
   uint8_t* bytes = new_slot_buffer();
   slot->write_cursor = bytes;
+  slot->write_bit = 0;
   if (bytes == nullptr) {
     if (alloc_text != nullptr) {
       std::puts(alloc_text);
@@ -112,29 +160,32 @@ uint8_t file_first_segment(uint32_t sib_type, uint8_t seg_count, uint32_t numbit
   }
   std::free(slot->buffer);
   slot->buffer = bytes;
-  put_at_cursor(slot, data, octets_within(numbits, capacity), true);
+  put_at_cursor(slot, data, bits_within(numbits, capacity), true);
   return 1;
 }
 
-enum ListResult { kListAborted, kListEmpty, kListFiled, kListLastRefused };
+/* What became of the entries of a CompleteSIB-List. */
+struct ListOutcome {
+  bool empty;         /* no entry at all */
+  bool all_filed;     /* every entry was filed (so also when empty) */
+  bool last_filed;    /* the last entry was filed */
+  bool out_of_memory; /* an entry found no memory */
+};
 
 /* The entries of a CompleteSIB-List, each into a fresh buffer of its slot and marked. An
-   unknown type aborts the list, or with `skip_unknown` is passed over, and then only the
-   last entry decides between kListFiled and kListLastRefused. Entries marked before an
-   abort stay marked. */
-ListResult file_complete_list(const CompleteSIB_List* list, bool skip_unknown, const char* invalid_text,
-                              const char* alloc_text) {
+   entry that is refused (a type not kept) or finds no memory prints its message and is
+   passed over; the others are filed all the same. */
+ListOutcome file_complete_list(const CompleteSIB_List* list, const char* invalid_text, const char* alloc_text) {
   complete_sib_list_copy copy;
   convert_completesib_info_list(list, &copy);
-  if (copy.entry_count == 0) return kListEmpty;
-  bool last_filed = true;
+  ListOutcome outcome{copy.entry_count == 0, true, false, false};
   for (unsigned i = 0; i < copy.entry_count; i++) {
     const complete_sib_entry* entry = &copy.entries[i];
-    const umts_sib_id id = get_sib_type(entry->sib_Type);
+    outcome.last_filed = false;
+    const umts_sib_id id = slot_of(entry->sib_Type, 0);
     if (id == umts_sib_count) {
       std::puts(invalid_text);
-      if (!skip_unknown) return kListAborted;
-      last_filed = false;
+      outcome.all_filed = false;
       continue;
     }
     umts_sib_slot* slot = &g_umts_ctxt.slots[id];
@@ -142,14 +193,16 @@ ListResult file_complete_list(const CompleteSIB_List* list, bool skip_unknown, c
     take_complete(slot, bytes);
     if (bytes == nullptr) {
       std::puts(alloc_text);
-      return kListAborted;
+      outcome.all_filed = false;
+      outcome.out_of_memory = true;
+      continue;
     }
     std::memcpy(bytes, entry->sib_Data_variable.data,
                 octets_within(entry->sib_Data_variable.numbits, sizeof entry->sib_Data_variable.data));
     umts_sib_decoder_set_gb_ctxt_bitmask(id);
-    last_filed = true;
+    outcome.last_filed = true;
   }
-  return last_filed ? kListFiled : kListLastRefused;
+  return outcome;
 }
 
 }  // namespace
@@ -211,11 +264,14 @@ uint8_t file_first_short(const FirstSegmentShort* segment, const char* invalid_t
 
 }  // namespace
 
+/* In the combined handlers below the last part is filed first, whatever becomes of it, and
+   the list and first parts follow on their own. */
+
 uint8_t check_decode_last_and_first(const SystemInformation_BCH_payload_lastAndFirst* payload) {
   static const char kInvalid[] = "check_decode_last_and_first:Invalid sib type";
   static const char kAlloc[] = "check_decode_last_and_first: Memory Allocation Failure";
   if (payload == nullptr) return 0;
-  if (file_last_short(&payload->lastSegmentShort, kInvalid) == kSegmentRefused) return 0;
+  file_last_short(&payload->lastSegmentShort, kInvalid);
   return file_first_short(&payload->firstSegment, kInvalid, kAlloc);
 }
 
@@ -223,36 +279,41 @@ uint8_t check_decode_last_and_complete(const SystemInformation_BCH_payload_lastA
   static const char kInvalid[] = "check_decode_last_and_complete:Invalid sib type";
   static const char kAlloc[] = "check_decode_last_and_complete: Memory Allocation Failure";
   if (payload == nullptr) return 0;
-  if (file_last_short(&payload->lastSegmentShort, kInvalid) == kSegmentRefused) return 0;
-  return file_complete_list(&payload->completeSIB_List, false, kInvalid, kAlloc) == kListFiled;
+  file_last_short(&payload->lastSegmentShort, kInvalid);
+  const ListOutcome list = file_complete_list(&payload->completeSIB_List, kInvalid, kAlloc);
+  return !list.empty && list.all_filed ? 1 : 0;
 }
 
 uint8_t check_decode_last_and_complete_and_first(const SystemInformation_BCH_payload_lastAndCompleteAndFirst* payload) {
   static const char kInvalid[] = "check_decode_last_and_complete_and_first:Invalid sib type";
   static const char kAlloc[] = "check_decode_last_and_complete_and_first: Memory Allocation Failure";
   if (payload == nullptr) return 0;
-  if (file_last_short(&payload->lastSegmentShort, kInvalid) == kSegmentRefused) return 0;
-  if (file_complete_list(&payload->completeSIB_List, false, kInvalid, kAlloc) == kListAborted) return 0;
-  return file_first_short(&payload->firstSegment, kInvalid, kAlloc);
+  file_last_short(&payload->lastSegmentShort, kInvalid);
+  const ListOutcome list = file_complete_list(&payload->completeSIB_List, kInvalid, kAlloc);
+  const uint8_t first = file_first_short(&payload->firstSegment, kInvalid, kAlloc);
+  /* An entry that was not filed makes the result 0, as an empty list does not. */
+  return list.all_filed ? first : 0;
 }
 
 uint8_t check_decode_completeSIB_list(const CompleteSIB_List* list) {
   if (list == nullptr) return 0;
-  return file_complete_list(list, true, "check_decode_completeSIB_list:Invalid sib type",
-                            "check_decode_completeSIB_list: Memory Allocation Failure") == kListFiled;
+  const ListOutcome outcome = file_complete_list(list, "check_decode_completeSIB_list:Invalid sib type",
+                                                 "check_decode_completeSIB_list: Memory Allocation Failure");
+  return !outcome.empty && !outcome.out_of_memory && outcome.last_filed ? 1 : 0;
 }
 
 uint8_t check_decode_complete_and_first(const SystemInformation_BCH_payload_completeAndFirst* payload) {
   static const char kInvalid[] = "check_decode_complete_and_first:Invalid sib type";
   static const char kAlloc[] = "check_decode_complete_and_first: Memory Allocation Failure";
   if (payload == nullptr) return 0;
-  if (file_complete_list(&payload->completeSIB_List, false, kInvalid, kAlloc) == kListAborted) return 0;
-  return file_first_short(&payload->firstSegment, kInvalid, kAlloc);
+  const ListOutcome list = file_complete_list(&payload->completeSIB_List, kInvalid, kAlloc);
+  const uint8_t first = file_first_short(&payload->firstSegment, kInvalid, kAlloc);
+  return list.all_filed ? first : 0;
 }
 
 uint8_t check_decode_complete_SIB(const CompleteSIB* sib) {
   if (sib == nullptr) return 0;
-  const umts_sib_id id = get_sib_type(sib->sib_Type);
+  const umts_sib_id id = slot_of(sib->sib_Type, 0);
   if (id == umts_sib_count) {
     std::puts("check_decode_complete_SIB:invalid sib type");
     return 0;
@@ -270,7 +331,9 @@ uint8_t check_decode_complete_SIB(const CompleteSIB* sib) {
 
 uint8_t umts_check_and_decode_sibs(rtxContext* context, const BCCH_BCH_Message* message, umts_sib_set* result) {
   (void)context;
-  if (message == nullptr || result == nullptr) return 0;
+  if (message == nullptr) return 0;
+  /* The frames of the block tell which extension SIB its extensionType parts carry. */
+  g_umts_ctxt.sfn_prime = static_cast<uint16_t>(message->message.sfn_Prime & 0x7FFu);
   const SystemInformation_BCH_payload* payload = &message->message.payload;
   uint8_t status = 0;
   bool completes = true; /* whether the alternative can complete a SIB */
@@ -305,14 +368,15 @@ uint8_t umts_check_and_decode_sibs(rtxContext* context, const BCCH_BCH_Message* 
   }
   if (completes && status == 1) status = decode_system_info_msg(result);
   /* SIBs marked before a refusal, and those left by a failed pass, are converted all the
-     same; each pass clears at least one request, so this ends. */
-  while (g_umts_ctxt.request_bitmask != 0) decode_system_info_msg(result);
+     same; each pass clears at least one request, so this ends. Without a record the segments
+     are filed all the same, and completed SIBs wait in their slots for a call with one. */
+  if (result != nullptr) {
+    while (g_umts_ctxt.request_bitmask != 0) decode_system_info_msg(result);
+  }
   return status;
 }
 
 uint8_t umts_sib_decoder(const uint8_t* data, umts_sib_set* result, uint32_t length) {
-  /* Without a result no conversion could be stored; nothing is decoded or filed. */
-  if (result == nullptr) return 0;
   rtxContext ctx;
   if (rtInitContextUsingKey(&ctx, nullptr, 0) != 0) {
     std::puts("ASN context initialisation failed ");

@@ -17,7 +17,8 @@ umts_decoder_ctxt g_umts_ctxt;
 namespace {
 
 /* Slot of each SIB-Type value (TS 25.331 order); umts_sib_count for the types not kept.
-   Every extensionType segment counts as SIB11bis, the one extension SIB kept here. */
+   extensionType maps to the slot of SIB11bis, the one extension SIB kept here; the BCH intake
+   files such a segment there only where the cell's scheduling places SIB11bis. */
 const uint8_t kSlotOfSibType[32] = {
     umts_sib_mib,     umts_sib_sib1,  umts_sib_sib2,  umts_sib_sib3,  umts_sib_count, /* 4 */
     umts_sib_sib5,    umts_sib_count, umts_sib_sib7,  umts_sib_count, umts_sib_count, /* 9 */
@@ -64,6 +65,34 @@ void log_conversion_failure(unsigned id) {
   }
 }
 
+/* The extension list of a converted MIB (v6b0 level), or null when it has none. */
+const umts_ext_sib_type_info_scheduling_info_list* extension_list(const umts_mib_info& mib) {
+  if ((mib.presence_bitmask & 1u) == 0) return nullptr;
+  const umts_mib_v690_nce& v690 = mib.v690NonCriticalExtensions;
+  if ((v690.presence_bitmask & 1u) == 0) return nullptr;
+  const umts_mib_v6b0_ext_ie& v6b0 = v690.v6b0NonCriticalExtensions.masterInformationBlock_v6b0ext;
+  return (v6b0.presence_bitmask & 1u) != 0 ? &v6b0.extSIBTypeInfoSchedulingInfo_List : nullptr;
+}
+
+/* The same of a converted SB1 or SB2. */
+template <typename SchedulingBlock>
+const umts_ext_sib_type_info_scheduling_info_list* extension_list(const SchedulingBlock& sb) {
+  if ((sb.presence_bitmask & 1u) == 0) return nullptr;
+  const umts_sb_v6b0_ext& v6b0 = sb.v6b0NonCriticalExtensions.sysInfoTypeSB_v6b0ext;
+  return (v6b0.presence_bitmask & 1u) != 0 ? &v6b0.extSIBTypeInfoSchedulingInfo_List : nullptr;
+}
+
+/* After a scheduling block has been converted, what it says of SIB11bis is kept for the BCH
+   intake (SIB11bis is scheduled in the v6b0 lists only). */
+void note_schedule(unsigned id, const umts_sib_set* result) {
+  switch (id) {
+    case umts_sib_mib: umts_note_sib11bis_schedule(umts_schedule_mib, extension_list(result->mib)); break;
+    case umts_sib_sb1: umts_note_sib11bis_schedule(umts_schedule_sb1, extension_list(result->sb1)); break;
+    case umts_sib_sb2: umts_note_sib11bis_schedule(umts_schedule_sb2, extension_list(result->sb2)); break;
+    default: break;
+  }
+}
+
 /* The value of a umts_sib_id parameter as the caller passed it. A C caller may pass any
    value of the enumeration's integer type, while reading the parameter as the C++
    enumeration is undefined for values beyond the enumeration's range (0 to 15): its bytes
@@ -94,7 +123,9 @@ void umts_sib_decoder_set_gb_ctxt_bitmask(umts_sib_id sib_id) {
 }
 
 uint8_t decode_system_info_msg(umts_sib_set* result) {
-  if (result == nullptr) return 0;
+  /* Without a record the conversions have nowhere to go: the waiting SIBs stay in their
+     slots, requested, for a call that brings one. With nothing waiting this is a success. */
+  if (result == nullptr) return g_umts_ctxt.request_bitmask == 0 ? 1 : 0;
   /* The conversions read their slots only, so the mask read here stays valid for the pass. */
   const uint32_t requests = g_umts_ctxt.request_bitmask;
   for (unsigned id = 0; id < umts_sib_count; id++) {
@@ -110,6 +141,7 @@ uint8_t decode_system_info_msg(umts_sib_set* result) {
       return 0;
     }
     result->presence_bitmask = static_cast<uint16_t>(result->presence_bitmask | bit);
+    note_schedule(id, result);
   }
   g_umts_ctxt.request_bitmask = 0;
   return 1;
@@ -146,6 +178,7 @@ uint8_t umts_sib_msg_decoder(umts_sib_id sib_id, const uint8_t* data, umts_sib_s
   std::free(slot->buffer);
   slot->buffer = bytes;
   slot->write_cursor = nullptr;
+  slot->write_bit = 0;
   if (bytes == nullptr) {
     UMTS_LOG_ERROR("Memory allocation failure");
     rtFreeContext(&ctx);

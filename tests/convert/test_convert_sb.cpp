@@ -38,8 +38,7 @@ struct Builder {
   unsigned used = 0;
 
   // Entry i has the alternative i + 1 (every alternative of SIB-TypeAndTag) and every
-  // repetition period at its largest position. (The offsets of every tenth entry happen to
-  // give an encoding that the segmenter can cut for the library's octet join.)
+  // repetition period at its largest position; every tenth entry has offsets.
   explicit Builder(uint32_t n, bool extensions) {
     std::memset(&sb, 0, sizeof sb);
     for (uint32_t i = 0; i < n; i++) {

@@ -54,10 +54,9 @@ const Sib1Case kCases[] = {
     {"v860 without its extensions or t-323", {{0, 6, 2, 1, 0x80}, {1, 7, 2, 255, 0x01}}, 5, 1, 1, 1, 0, true},
     {"idle timers only", {{0, 9, 1, 8, 0xF0}}, 2, 0, 0, 0, 0, true},
     // Longer than the 256 octets that the record keeps of a count of bits: all 256 are the
-    // string's, and the entry after it is whole. (Sent whole only: octets of arbitrary
-    // content cannot be cut into BCH segments that the library joins by octets.)
-    {"ansi-41 of 2048 bits", {{1, 9, 2, 2048, 0x01}, {0, 6, 1, 2, 0x44}}, 0, 0, 0, 0, 0, false},
-    {"ansi-41 of 2047 and 257 bits", {{0, 7, 2, 2047, 0x80}, {1, 8, 2, 257, 0x33}}, 1, 0, 0, 0, 0, false},
+    // string's, and the entry after it is whole.
+    {"ansi-41 of 2048 bits", {{1, 9, 2, 2048, 0x01}, {0, 6, 1, 2, 0x44}}, 0, 0, 0, 0, 0, true},
+    {"ansi-41 of 2047 and 257 bits", {{0, 7, 2, 2047, 0x80}, {1, 8, 2, 257, 0x33}}, 1, 0, 0, 0, 0, true},
 };
 
 struct Sib1Builder {

@@ -216,8 +216,7 @@ TEST_F(ConvertSib18, WholeAndOverBchGivesTheValuesBuilt) {
     expectSib18(b.s, result->sib18);
     if (!c.bch) continue;
 
-    // Behind a short SIB7, so that the first segment may share a block and be cut where the
-    // library's octet join needs it.
+    // Behind a short SIB7, so that the first segment shares a block.
     const umts_sib18_info expected = result->sib18;
     std::memset(&result->sib18, 0xEE, sizeof result->sib18);
     result->presence_bitmask = 0;

@@ -49,9 +49,10 @@ void putSlot(umts_sib_id id, const std::vector<uint8_t>& bytes) {
   g_umts_ctxt.request_bitmask |= 1u << id;
 }
 
-std::vector<uint8_t> encodeBch(uint32_t t, const void* alternative) {
+std::vector<uint8_t> encodeBch(uint32_t t, const void* alternative, uint16_t sfnPrime) {
   BCCH_BCH_Message message;
   std::memset(&message, 0, sizeof message);
+  message.message.sfn_Prime = sfnPrime;
   message.message.payload.t = t;
   std::memcpy(&message.message.payload.u, &alternative, sizeof alternative);
   return encode(asn1PE_UMTS_BCCH_BCH_Message, message);

@@ -53,6 +53,14 @@ std::string captureStdout(Fn fn) {
   return captureFd(1, fn);
 }
 
+// A handler's result on `value`, what it printed dropped.
+template <typename T>
+uint8_t quietly(uint8_t (*handler)(const T*), const T& value) {
+  uint8_t ret = 0xEE;
+  captureStdout([&] { ret = handler(&value); });
+  return ret;
+}
+
 // The codec's unaligned PER encoding of `value`; `bits` gets its length in bits.
 template <typename T>
 std::vector<uint8_t> encode(int (*encoder)(rtxContext*, const T*), const T& value, uint32_t* bits = nullptr) {
@@ -69,8 +77,8 @@ std::vector<uint8_t> encode(int (*encoder)(rtxContext*, const T*), const T& valu
   return bytes;
 }
 
-// A transport block (sfn-Prime 0) carrying one payload alternative.
-std::vector<uint8_t> encodeBch(uint32_t t, const void* alternative);
+// A transport block carrying one payload alternative.
+std::vector<uint8_t> encodeBch(uint32_t t, const void* alternative, uint16_t sfnPrime = 0);
 
 // A bit string field: `numbits` bits of `bytes` from bit `start` (a multiple of 8).
 // A record that holds nothing but zero bytes.

@@ -25,14 +25,16 @@ std::vector<std::vector<uint8_t>> seedBlocks() {
           encodeBch(3, &ss), encodeBch(4, &ls), encodeBch(7, &lacf)};
 }
 
-// Cursors stay within the first segment's buffer: a first segment and at most 15 more.
+// Cursors stay within the first segment's buffer: a first segment and at most 15 more, of
+// 222 bits each.
 void expectSoundSlots() {
   ASSERT_EQ(g_umts_ctxt.request_bitmask & ~0xFFFu, 0u);
   for (const umts_sib_slot& s : g_umts_ctxt.slots) {
+    ASSERT_LT(s.write_bit, 8);
     if (s.write_cursor == nullptr) continue;
     ASSERT_NE(s.buffer, nullptr);
     ASSERT_GE(s.write_cursor - s.buffer, 0);
-    ASSERT_LE(s.write_cursor - s.buffer, 16 * 28);
+    ASSERT_LE(8 * (s.write_cursor - s.buffer) + s.write_bit, 16 * 222);
   }
 }
 

@@ -59,10 +59,11 @@ void resetContext() {
   std::memset(&g_umts_ctxt, 0, sizeof g_umts_ctxt);
 }
 
-// Every write cursor lies within its slot's buffer.
+// Every write cursor lies within its slot's buffer, at a bit of its octet.
 std::string checkSlots() {
   for (unsigned id = 0; id < umts_sib_count; id++) {
     const umts_sib_slot& s = g_umts_ctxt.slots[id];
+    if (s.write_bit > 7) return "slot " + std::to_string(id) + ": write bit beyond its octet";
     if (s.write_cursor == nullptr) continue;
     if (s.buffer == nullptr || s.write_cursor < s.buffer || s.write_cursor > s.buffer + UMTS_SIB_DECODE_LENGTH)
       return "slot " + std::to_string(id) + ": write cursor outside its buffer";

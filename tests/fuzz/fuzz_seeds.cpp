@@ -4,7 +4,8 @@
 //   fuzz_seeds <out-dir> <samples-dir> [<vector-file>...]
 //
 // <out-dir>/bch: each sample transport block, every run of three, and the whole cycle;
-// the BCCH-BCH-Message vectors. <out-dir>/sib_msg: each sample SIB and the vectors of the
+// the BCCH-BCH-Message vectors; SIBs over two blocks of a live network, and a MIB that
+// schedules SIB11bis with the SIB11bis at its place. <out-dir>/sib_msg: each sample SIB and the vectors of the
 // twelve SIB types, behind their umts_sib_id. <out-dir>/codec: every vector and every sample
 // behind the registry index of its type. A missing vector file is skipped. Files are named
 // after a hash of their contents, so that a seed written twice is one file.
@@ -122,6 +123,23 @@ int main(int argc, char** argv) {
     putCodec(codec, "BCCH_BCH_Message", blocks[i]);
   }
   bch.put(cycle);
+  // Sequences beyond the sample cell: SIB1 and SIB18 of a live network, each over two blocks
+  // beside whole SIBs; the first segment of one of its extension SIBs; a MIB whose extension
+  // list schedules SIB11bis at SFN' 1 mod 32, then a SIB11bis at SFN' 33.
+  const std::vector<std::vector<const char*>> sequences = {
+      {"0090209850820205075c220405162289e464204604a81b9c400500110de4bc",
+       "00aa107546423c02440404100163aa54d866a0042605e8c000000000000000"},
+      {"8e7003a48242b85042fbdda052691200014afffffaddc0a22e847e7b800000",
+       "8ea7a04a120001208088a80000000000000000000000000000000000000001"},
+      {"a143f686e52a22282f36928cc1852026d2519830afacda4a330614909b4944"},
+      {"040e0054a098802007f91ff900102000000000000000000000000000000000",
+       "042e1f03000000000000000000000000000000000000000000000000000000"},
+  };
+  for (const auto& sequence : sequences) {
+    Bytes input;
+    for (const char* hex : sequence) appendBlock(input, fromHex(hex));
+    bch.put(input);
+  }
   std::ifstream sibs(samples + "/fdd_cell_sibs.txt");
   for (std::string line; std::getline(sibs, line);) {
     if (line.empty() || line[0] == '#') continue;

@@ -85,6 +85,7 @@ Bytes mutate(const std::vector<Bytes>& samples, std::mt19937& rng) {
 bool contextSound() {
   if (g_umts_ctxt.request_bitmask != 0) return false;
   for (const umts_sib_slot& s : g_umts_ctxt.slots) {
+    if (s.write_bit > 7) return false;
     if (s.write_cursor == nullptr) continue;
     if (s.buffer == nullptr || s.write_cursor < s.buffer || s.write_cursor > s.buffer + UMTS_SIB_DECODE_LENGTH) return false;
   }

@@ -1,7 +1,7 @@
 /*
  * The BCH segmenter: every block is decoded again with the codec and the segments are joined
- * the way libsibdecoder_umts joins them (by octets, ceil(bits / 8) per segment, the cursor
- * left in place by a last segment); the join must give back each SIB's encoding.
+ * as a receiver joins them, bit by bit in the order of their indices; the join must give back
+ * each SIB's encoding, with nothing but zero padding after it.
  */
 #include <gtest/gtest.h>
 
@@ -24,15 +24,13 @@ struct TestSib {
   uint8_t own_block;
 };
 
-/* Pseudo-random octets; `spare_pairs` clears the two low bits of each octet, so that any
-   fixed segment may end anywhere. Bits beyond numbits are zero, as an encoder leaves them. */
-TestSib make_sib(uint32_t type, uint32_t numbits, uint32_t seed, bool spare_pairs, uint8_t own_block = 0) {
+/* Pseudo-random octets. Bits beyond numbits are zero, as an encoder leaves them. */
+TestSib make_sib(uint32_t type, uint32_t numbits, uint32_t seed, uint8_t own_block = 0) {
   TestSib s{type, std::vector<uint8_t>((numbits + 7) / 8), numbits, own_block};
   uint32_t x = seed * 2654435761u + 12345u;
   for (uint8_t& b : s.bytes) {
     x = x * 1103515245u + 12345u;
     b = static_cast<uint8_t>(x >> 16);
-    if (spare_pairs) b &= 0xFC;
   }
   if (numbits % 8 != 0) s.bytes.back() &= static_cast<uint8_t>(0xFF << (8 - numbits % 8));
   return s;
@@ -62,47 +60,47 @@ Cut cut(const std::vector<TestSib>& sibs, uint16_t first_sfn_prime = 0, uint32_t
   return c;
 }
 
-/* The library's byte count of a bit string. */
-uint32_t octets_of(uint32_t numbits) { return (numbits & 7u) != 0 ? ((numbits >> 3) + 1) & 0xFF : (numbits >> 3) & 0xFF; }
+using Bits = std::vector<bool>;
 
-/* The segment collection of the library, one slot per SIB-Type. */
+Bits bits_of(const uint8_t* data, uint32_t numbits) {
+  Bits b(numbits);
+  for (uint32_t i = 0; i < numbits; i++) b[i] = ((data[i / 8] >> (7 - i % 8)) & 1) != 0;
+  return b;
+}
+
+/* A receiver's reassembly, one slot per SIB-Type: segments in the order of their indices,
+   joined bit by bit. */
 struct Join {
   struct Slot {
-    std::vector<uint8_t> buffer;
-    size_t cursor = 0;
+    Bits bits;
     int total = 0;
-    int remaining = 0;
+    int next = 0;
   };
   std::map<uint32_t, Slot> slots;
-  std::vector<std::pair<uint32_t, std::vector<uint8_t>>> completed;
+  std::vector<std::pair<uint32_t, Bits>> completed;
   std::set<uint32_t> payloads;
 
   void first(uint32_t type, uint32_t count, uint32_t numbits, const uint8_t* data) {
     Slot& s = slots[type];
-    s.buffer.assign(count * 28u, 0);
+    s.bits = bits_of(data, numbits);
     s.total = static_cast<int>(count);
-    s.remaining = static_cast<int>(count) - 1;
-    std::memcpy(s.buffer.data(), data, octets_of(numbits));
-    s.cursor = octets_of(numbits);
+    s.next = 1;
   }
   void next(uint32_t type, uint32_t index, uint32_t numbits, const uint8_t* data, bool last) {
     Slot& s = slots[type];
-    ASSERT_EQ(static_cast<int>(index), s.total - s.remaining) << "segment out of order";
-    s.remaining--;
-    ASSERT_LE(s.cursor + octets_of(numbits), s.buffer.size());
-    std::memcpy(s.buffer.data() + s.cursor, data, octets_of(numbits));
-    if (!last) s.cursor += octets_of(numbits);
-    else if (s.remaining == 0) completed.push_back({type, s.buffer});
+    ASSERT_EQ(static_cast<int>(index), s.next) << "segment out of order";
+    ASSERT_LT(s.next, s.total);
+    const Bits more = bits_of(data, numbits);
+    s.bits.insert(s.bits.end(), more.begin(), more.end());
+    s.next++;
+    ASSERT_EQ(last, s.next == s.total) << "segment kind against the count";
+    if (last) completed.push_back({type, s.bits});
   }
-  void whole(uint32_t type, uint32_t capacity, uint32_t numbits, const uint8_t* data) {
-    std::vector<uint8_t> b(capacity, 0);
-    std::memcpy(b.data(), data, octets_of(numbits));
-    completed.push_back({type, b});
-  }
+  void whole(uint32_t type, uint32_t numbits, const uint8_t* data) { completed.push_back({type, bits_of(data, numbits)}); }
   void list(const CompleteSIB_List& l) {
     for (const rtxDListNode* n = l.head; n != nullptr; n = n->next) {
       const CompleteSIBshort* c = static_cast<const CompleteSIBshort*>(n->data);
-      whole(c->sib_Type, 28, c->sib_Data_variable.numbits, c->sib_Data_variable.data);
+      whole(c->sib_Type, c->sib_Data_variable.numbits, c->sib_Data_variable.data);
     }
   }
   void last_short(const LastSegmentShort& l) {
@@ -162,7 +160,7 @@ struct Join {
         first_short(u.completeAndFirst->firstSegment);
         break;
       case 10:
-        whole(u.completeSIB->sib_Type, 29, u.completeSIB->sib_Data_fixed.numbits, u.completeSIB->sib_Data_fixed.data);
+        whole(u.completeSIB->sib_Type, u.completeSIB->sib_Data_fixed.numbits, u.completeSIB->sib_Data_fixed.data);
         break;
       case 11:
         next(u.lastSegment->sib_Type, u.lastSegment->segmentIndex, u.lastSegment->sib_Data_fixed.numbits,
@@ -176,8 +174,8 @@ struct Join {
   }
 };
 
-/* Joins every block and compares each SIB with its encoding: the joined octets start with
-   the encoding and are zero beyond it. */
+/* Joins every block and compares each SIB with its encoding: the joined bits start with the
+   encoding and are zero beyond it (the padding of a lastSegment or completeSIB). */
 void expect_round_trip(const std::vector<TestSib>& sibs, const Cut& c, uint16_t first_sfn_prime, Join* join) {
   for (size_t i = 0; i < c.blocks.size(); i++)
     join->block(c.blocks[i], static_cast<uint16_t>((first_sfn_prime + i) & 0x7FF));
@@ -185,9 +183,11 @@ void expect_round_trip(const std::vector<TestSib>& sibs, const Cut& c, uint16_t 
   for (size_t i = 0; i < sibs.size(); i++) {
     const auto& got = join->completed[i];
     EXPECT_EQ(got.first, sibs[i].sib_type);
-    ASSERT_GE(got.second.size(), sibs[i].bytes.size());
-    EXPECT_TRUE(std::equal(sibs[i].bytes.begin(), sibs[i].bytes.end(), got.second.begin())) << "SIB " << i;
-    for (size_t k = sibs[i].bytes.size(); k < got.second.size(); k++) EXPECT_EQ(got.second[k], 0) << "SIB " << i;
+    const Bits want = bits_of(sibs[i].bytes.data(), sibs[i].numbits);
+    ASSERT_GE(got.second.size(), want.size());
+    EXPECT_TRUE(std::equal(want.begin(), want.end(), got.second.begin())) << "SIB " << i;
+    EXPECT_LE(got.second.size(), want.size() + 11) << "SIB " << i; /* 215 bits in a completeSIB */
+    for (size_t k = want.size(); k < got.second.size(); k++) EXPECT_FALSE(got.second[k]) << "SIB " << i;
   }
 }
 
@@ -198,15 +198,15 @@ TEST(BchSegmenter, EverySegmentKindJoinsBack) {
     std::set<uint32_t> payloads;
   };
   const std::vector<Scenario> scenarios = {
-      {"MIB in a block of its own", {make_sib(0, 205, 1, false, 1), make_sib(1, 40, 2, false)}, {8}},
-      {"226-bit completeSIB", {make_sib(3, 220, 3, false)}, {10}},
-      {"first, subsequent, last short", {make_sib(11, 600, 4, true)}, {2, 3, 4}},
-      {"last segment of 222 bits", {make_sib(5, 444, 5, true)}, {2, 11}},
-      {"complete and first", {make_sib(7, 50, 6, false), make_sib(11, 600, 7, true)}, {9, 3, 4}},
-      {"last and first", {make_sib(11, 600, 8, true), make_sib(12, 600, 9, true)}, {2, 3, 5, 4}},
-      {"last and complete", {make_sib(11, 600, 10, true), make_sib(7, 20, 11, false)}, {2, 3, 6}},
+      {"MIB in a block of its own", {make_sib(0, 205, 1, 1), make_sib(1, 40, 2)}, {8}},
+      {"226-bit completeSIB", {make_sib(3, 220, 3)}, {10}},
+      {"first, subsequent, last short", {make_sib(11, 600, 4)}, {2, 3, 4}},
+      {"last segment of 222 bits", {make_sib(5, 444, 5)}, {2, 11}},
+      {"complete and first", {make_sib(7, 50, 6), make_sib(11, 600, 7)}, {9, 3, 4}},
+      {"last and first", {make_sib(11, 600, 8), make_sib(12, 600, 9)}, {2, 3, 5, 4}},
+      {"last and complete", {make_sib(11, 600, 10), make_sib(7, 20, 11)}, {2, 3, 6}},
       {"last, complete and first",
-       {make_sib(11, 500, 12, true), make_sib(7, 20, 13, false), make_sib(12, 600, 14, true)},
+       {make_sib(11, 500, 12), make_sib(7, 20, 13), make_sib(12, 600, 14)},
        {2, 3, 7, 4}},
   };
   std::set<uint32_t> seen;
@@ -222,49 +222,16 @@ TEST(BchSegmenter, EverySegmentKindJoinsBack) {
   EXPECT_EQ(seen, (std::set<uint32_t>{2, 3, 4, 5, 6, 7, 8, 9, 10, 11}));
 }
 
-/* Where the last two bits of the first 28 octets are set, a 222-bit firstSegment would lose
-   them: the SIB must start with a FirstSegmentShort beside other content. */
-TEST(BchSegmenter, CutAvoidsLosingBits) {
-  std::vector<TestSib> sibs = {make_sib(7, 40, 20, false), make_sib(11, 700, 21, true)};
-  sibs[1].bytes[27] |= 0x03;
-  const Cut c = cut(sibs);
-  ASSERT_EQ(c.status, umts_bch_ok);
-  ASSERT_FALSE(c.blocks.empty());
-  EXPECT_EQ(c.blocks[0].payload, 9u); /* completeAndFirst */
-  Join join;
-  expect_round_trip(sibs, c, 0, &join);
-
-  /* Alone, with nothing to share a block with, it cannot be carried. */
-  const Cut alone = cut({sibs[1]});
-  EXPECT_EQ(alone.status, umts_bch_no_cut);
-  EXPECT_EQ(alone.failed, 0u);
-}
-
-/* Random content: a cut, when one is found, always joins back. */
-TEST(BchSegmenter, RandomSibsJoinBackOrAreRefused) {
-  /* Octets whose two low bits are clear can end a fixed segment anywhere: every such cycle is
-     carried. Arbitrary octets are carried only where some first-segment length puts zeros at
-     every fixed segment's end; the others are refused, never mangled. */
-  for (bool spare_pairs : {true, false}) {
-    int carried = 0;
-    for (uint32_t seed = 1; seed <= 150; seed++) {
-      std::vector<TestSib> sibs;
-      for (uint32_t k = 0; k < 3; k++)
-        sibs.push_back(make_sib(k + 1, 100 + (seed * 97 + k * 331) % 1600, seed * 3 + k, spare_pairs));
-      const Cut c = cut(sibs, static_cast<uint16_t>(seed));
-      if (c.status == umts_bch_ok) {
-        carried++;
-        Join join;
-        expect_round_trip(sibs, c, static_cast<uint16_t>(seed), &join);
-      } else {
-        EXPECT_FALSE(spare_pairs) << umts_bch_status_text(c.status) << " seed " << seed;
-        EXPECT_TRUE(c.status == umts_bch_no_cut || c.status == umts_bch_too_long) << umts_bch_status_text(c.status);
-        EXPECT_LT(c.failed, sibs.size());
-      }
-      if (HasFatalFailure()) return;
-    }
-    if (spare_pairs) EXPECT_EQ(carried, 150);
-    else EXPECT_GT(carried, 0);
+/* Random content of random lengths: every cycle is carried and joins back. */
+TEST(BchSegmenter, RandomSibsJoinBack) {
+  for (uint32_t seed = 1; seed <= 150; seed++) {
+    std::vector<TestSib> sibs;
+    for (uint32_t k = 0; k < 3; k++) sibs.push_back(make_sib(k + 1, 1 + (seed * 97 + k * 331) % 1800, seed * 3 + k));
+    const Cut c = cut(sibs, static_cast<uint16_t>(seed));
+    ASSERT_EQ(c.status, umts_bch_ok) << umts_bch_status_text(c.status) << " seed " << seed;
+    Join join;
+    expect_round_trip(sibs, c, static_cast<uint16_t>(seed), &join);
+    if (HasFatalFailure()) return;
   }
 }
 
@@ -277,19 +244,18 @@ TEST(BchSegmenter, Refusals) {
     uint32_t failed;
   };
   const std::vector<Case> cases = {
-      {"SIB-Type above 31", {make_sib(0, 40, 1, false), make_sib(32, 40, 1, false)}, 8, umts_bch_bad_sib, 1},
-      {"no bits", {make_sib(3, 0, 1, false)}, 8, umts_bch_bad_sib, 0},
-      {"more than 16 segments", {filled(5, 3600, 0)}, 64, umts_bch_too_long, 0},
-      {"every fixed segment would lose bits", {filled(5, 600, 0xFF)}, 64, umts_bch_no_cut, 0},
-      {"too few blocks", {make_sib(11, 600, 4, true)}, 2, umts_bch_out_of_blocks, 0},
+      {"SIB-Type above 31", {make_sib(0, 40, 1), make_sib(32, 40, 1)}, 8, umts_bch_bad_sib, 1},
+      {"no bits", {make_sib(3, 0, 1)}, 8, umts_bch_bad_sib, 0},
+      {"more than 16 segments", {filled(5, 16 * 222 + 1, 0xFF)}, 64, umts_bch_too_long, 0},
+      {"too few blocks", {make_sib(11, 600, 4)}, 2, umts_bch_out_of_blocks, 0},
   };
   for (const Case& k : cases) {
     const Cut c = cut(k.sibs, 0, k.max_blocks);
     EXPECT_EQ(c.status, k.status) << k.what;
     EXPECT_EQ(c.failed, k.failed) << k.what;
   }
-  /* The largest SIB of 16 segments is carried. */
-  const std::vector<TestSib> largest = {filled(5, 28 * 8 * 15 + 214, 0)};
+  /* The largest SIB of 16 segments is carried: 16 times 222 bits. */
+  const std::vector<TestSib> largest = {filled(5, 16 * 222, 0xA5)};
   const Cut c = cut(largest);
   ASSERT_EQ(c.status, umts_bch_ok);
   EXPECT_EQ(c.blocks.size(), 16u);
@@ -307,8 +273,9 @@ TEST(BchSegmenter, ReproducesARealTransportBlock) {
   for (const char* p = first; *p != '\0'; p += 2) data.push_back(static_cast<uint8_t>(std::stoul(std::string(p, 2), nullptr, 16)));
 
   TestSib sib{31, data, 0, 0};
-  sib.bytes.resize(6 * 28 + 10, 0);
-  sib.numbits = 6 * 28 * 8 + 80;
+  sib.numbits = 6 * 222 + 80;
+  sib.bytes.resize((sib.numbits + 7) / 8, 0);
+  sib.bytes[27] &= 0xFC; /* the first 222 bits only */
   const Cut c = cut({sib}, 1290);
   ASSERT_EQ(c.status, umts_bch_ok);
   ASSERT_EQ(c.blocks.size(), 7u);

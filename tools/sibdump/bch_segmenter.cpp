@@ -1,5 +1,5 @@
 /*
- * BCH segmenter. See bch_segmenter.h for the cut and why it is made on octets.
+ * BCH segmenter. See bch_segmenter.h for the cut.
  */
 #include "bch_segmenter.h"
 
@@ -14,10 +14,8 @@ namespace {
 constexpr uint32_t kSfnPrimeBits = 11;
 constexpr uint32_t kPayloadTagBits = 4;
 constexpr uint32_t kFixedBits = 222;         /* SIB-Data-fixed */
-constexpr uint32_t kFixedOctets = 28;        /* what the library appends for it */
 constexpr uint32_t kCompleteBits = 226;      /* sib-Data-fixed of CompleteSIB */
 constexpr uint32_t kVariableMaxBits = 214;   /* SIB-Data-variable */
-constexpr uint32_t kShortFirstMaxOctets = 26; /* whole octets within 214 bits */
 constexpr uint32_t kMaxSegments = 16;        /* SegCount */
 constexpr uint32_t kMaxListEntries = 16;     /* CompleteSIB-List */
 /* SIB-Type, SegCount or SegmentIndex, and the length of a SIB-Data-variable. */
@@ -60,47 +58,43 @@ struct Run {
   Pending pending;
 };
 
-/* How a SIB too long for one block is cut. */
+/* How a SIB too long for one block is cut: a first segment of `first_bits`, then 222-bit
+   subsequent segments, then the last segment with the rest. */
 struct Plan {
-  uint32_t first_octets; /* octets of the first segment: 1..26 short, 28 fixed */
+  uint32_t first_bits;
   uint32_t segments;
-  bool last_fixed;
 };
 
-uint32_t octets_of(uint32_t bits) { return (bits + 7u) / 8u; }
+/* Segments of a SIB of `numbits` bits whose first segment takes `first_bits`. */
+uint32_t segments_after(uint32_t numbits, uint32_t first_bits) {
+  return 1u + (numbits - first_bits + kFixedBits - 1u) / kFixedBits;
+}
 
 bool bit_of(const umts_bch_sib& sib, uint32_t bit) {
   return bit < sib.numbits && ((sib.data[bit >> 3] >> (7u - (bit & 7u))) & 1u) != 0;
 }
 
-/* A fixed segment over the 28 octets from `octet` loses their last two bits. */
-bool fixed_window_ok(const umts_bch_sib& sib, uint32_t octet) {
-  const uint32_t lost = octet * 8u + kFixedBits;
-  return !bit_of(sib, lost) && !bit_of(sib, lost + 1u);
-}
-
 umts_bch_piece make_piece(uint32_t index, const umts_bch_sib& sib, umts_bch_piece_kind kind, uint32_t segment,
-                          uint32_t seg_count, uint32_t offset, uint32_t numbits) {
+                          uint32_t seg_count, uint32_t first_bit, uint32_t numbits) {
   umts_bch_piece p;
   p.sib = index;
   p.sib_type = sib.sib_type;
   p.kind = static_cast<uint8_t>(kind);
   p.segment = static_cast<uint8_t>(segment);
   p.seg_count = static_cast<uint8_t>(seg_count);
-  p.offset = static_cast<uint16_t>(offset);
+  p.first_bit = static_cast<uint16_t>(first_bit);
   p.numbits = static_cast<uint16_t>(numbits);
   return p;
 }
 
-/* Bits of the carried part of `piece` into `dst` of `capacity` octets; the rest zero. */
+/* The bits of the carried part of `piece` into `dst` of `capacity` octets, from the top of
+   dst[0]; the rest zero. */
 void copy_bits(const Run& run, const umts_bch_piece& piece, uint8_t* dst, uint32_t capacity) {
   const umts_bch_sib& sib = run.sibs[piece.sib];
-  const uint32_t total = octets_of(sib.numbits);
-  const uint32_t n = octets_of(piece.numbits);
   std::memset(dst, 0, capacity);
-  for (uint32_t i = 0; i < n && i < capacity && piece.offset + i < total; i++) dst[i] = sib.data[piece.offset + i];
-  const uint32_t used = piece.numbits & 7u;
-  if (used != 0 && n <= capacity) dst[n - 1] &= static_cast<uint8_t>(0xFFu << (8u - used));
+  for (uint32_t i = 0; i < piece.numbits && i < 8u * capacity; i++) {
+    if (bit_of(sib, piece.first_bit + i)) dst[i >> 3] = static_cast<uint8_t>(dst[i >> 3] | (0x80u >> (i & 7u)));
+  }
 }
 
 void put_fixed(const Run& run, const umts_bch_piece& piece, SIB_Data_fixed* d) {
@@ -283,62 +277,29 @@ umts_bch_status flush(Run& run) {
   return emit(run, payload, pieces, n);
 }
 
-/* Cut of the SIB after a first segment of `first_octets`, or why there is none. */
-umts_bch_status plan_from(const umts_bch_sib& sib, uint32_t first_octets, Plan* plan) {
-  uint32_t octet = first_octets;
-  uint32_t segments = 1;
-  for (;;) {
-    const uint32_t remaining = sib.numbits - octet * 8u;
-    segments++;
-    if (segments > kMaxSegments) return umts_bch_too_long;
-    /* The last segment: a fixed one may also end the SIB where the bits it drops are
-       zero (a remainder of 223 or 224 bits). */
-    if (remaining <= kFixedBits || (remaining <= kFixedOctets * 8u && fixed_window_ok(sib, octet))) {
-      plan->first_octets = first_octets;
-      plan->segments = segments;
-      plan->last_fixed = remaining > kVariableMaxBits;
-      return umts_bch_ok;
-    }
-    if (!fixed_window_ok(sib, octet)) return umts_bch_no_cut;
-    octet += kFixedOctets;
-  }
-}
-
 umts_bch_status carry_segmented(Run& run, uint32_t index) {
   const umts_bch_sib& sib = run.sibs[index];
   Pending& p = run.pending;
-  bool too_long = false;
 
   /* A FirstSegmentShort in the block being filled saves a block. */
-  Plan best_short{0, 0, false};
+  Plan plan{0, 0};
   if (!pending_empty(p) && !p.has_first) {
     const uint32_t free_bits = UMTS_BCH_BLOCK_BITS - pending_bits(p);
-    uint32_t max_octets = free_bits > kShortSegmentOverhead ? (free_bits - kShortSegmentOverhead) / 8u : 0u;
-    if (max_octets > kShortFirstMaxOctets) max_octets = kShortFirstMaxOctets;
-    for (uint32_t octets = max_octets; octets >= 1; octets--) {
-      Plan plan;
-      umts_bch_status st = plan_from(sib, octets, &plan);
-      if (st == umts_bch_too_long) too_long = true;
-      if (st == umts_bch_ok && (best_short.segments == 0 || plan.segments < best_short.segments)) best_short = plan;
-    }
+    uint32_t first_bits = free_bits > kShortSegmentOverhead ? free_bits - kShortSegmentOverhead : 0u;
+    if (first_bits > kVariableMaxBits) first_bits = kVariableMaxBits;
+    if (first_bits != 0 && segments_after(sib.numbits, first_bits) <= kMaxSegments)
+      plan = Plan{first_bits, segments_after(sib.numbits, first_bits)};
   }
-  Plan best_fixed{0, 0, false};
-  if (fixed_window_ok(sib, 0)) {
-    Plan plan;
-    umts_bch_status st = plan_from(sib, kFixedOctets, &plan);
-    if (st == umts_bch_too_long) too_long = true;
-    if (st == umts_bch_ok) best_fixed = plan;
+  const bool use_short = plan.segments != 0;
+  if (!use_short) {
+    if (segments_after(sib.numbits, kFixedBits) > kMaxSegments) return umts_bch_too_long;
+    plan = Plan{kFixedBits, segments_after(sib.numbits, kFixedBits)};
   }
-  if (best_short.segments == 0 && best_fixed.segments == 0) return too_long ? umts_bch_too_long : umts_bch_no_cut;
 
-  /* New blocks taken: all segments for a firstSegment, one fewer for a shared first. */
-  const bool use_short =
-      best_short.segments != 0 && (best_fixed.segments == 0 || best_short.segments - 1u <= best_fixed.segments);
-  const Plan plan = use_short ? best_short : best_fixed;
   umts_bch_status st;
   if (use_short) {
     p.has_first = true;
-    p.first = make_piece(index, sib, umts_bch_first_short, 0, plan.segments, 0, plan.first_octets * 8u);
+    p.first = make_piece(index, sib, umts_bch_first_short, 0, plan.segments, 0, plan.first_bits);
     st = flush(run);
   } else {
     st = flush(run);
@@ -347,21 +308,23 @@ umts_bch_status carry_segmented(Run& run, uint32_t index) {
       st = emit(run, kFirstSegment, &piece, 1);
     }
   }
-  uint32_t octet = plan.first_octets;
+  uint32_t bit = plan.first_bits;
   for (uint32_t segment = 1; st == umts_bch_ok && segment + 1u < plan.segments; segment++) {
-    umts_bch_piece piece = make_piece(index, sib, umts_bch_subsequent, segment, plan.segments, octet, kFixedBits);
+    umts_bch_piece piece = make_piece(index, sib, umts_bch_subsequent, segment, plan.segments, bit, kFixedBits);
     st = emit(run, kSubsequentSegment, &piece, 1);
-    octet += kFixedOctets;
+    bit += kFixedBits;
   }
   if (st != umts_bch_ok) return st;
 
-  const uint32_t remaining = sib.numbits - octet * 8u;
-  if (plan.last_fixed) {
-    umts_bch_piece piece = make_piece(index, sib, umts_bch_last, plan.segments - 1u, plan.segments, octet, remaining);
+  /* The rest, 1 to 222 bits: a lastSegment from 215 bits, else a lastSegmentShort that the
+     next content may share a block with. */
+  const uint32_t remaining = sib.numbits - bit;
+  if (remaining > kVariableMaxBits) {
+    umts_bch_piece piece = make_piece(index, sib, umts_bch_last, plan.segments - 1u, plan.segments, bit, remaining);
     return emit(run, kLastSegment, &piece, 1);
   }
   p.has_last = true;
-  p.last = make_piece(index, sib, umts_bch_last_short, plan.segments - 1u, plan.segments, octet, remaining);
+  p.last = make_piece(index, sib, umts_bch_last_short, plan.segments - 1u, plan.segments, bit, remaining);
   return umts_bch_ok;
 }
 
@@ -442,8 +405,6 @@ const char* umts_bch_status_text(umts_bch_status status) {
       return "bad SIB (SIB-Type above 31, no bits or no data)";
     case umts_bch_too_long:
       return "SIB needs more than 16 segments";
-    case umts_bch_no_cut:
-      return "no cut of the SIB survives the octet join of segments";
     case umts_bch_out_of_blocks:
       return "more transport blocks needed than room was given for";
     case umts_bch_encode_failed:

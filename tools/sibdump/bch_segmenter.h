@@ -7,33 +7,23 @@
  * segments of the SIBs in the order given:
  *
  *   completeSIB-List   1 to 16 CompleteSIBshort, each a whole SIB of at most 214 bits
- *   completeSIB        a whole SIB of 215 to 226 bits
+ *   completeSIB        a whole SIB of 215 to 226 bits, padded with zero bits to 226
  *   firstSegment       the first 222 bits of a SIB, in a block of its own
  *   subsequentSegment  the next 222 bits
- *   lastSegment        the last at most 222 bits, padded with zero bits to 222
- *   lastSegmentShort   the last at most 214 bits
+ *   lastSegment        the last 215 to 222 bits, padded with zero bits to 222
+ *   lastSegmentShort   the last 1 to 214 bits
  *   lastAndFirst, lastAndComplete, lastAndCompleteAndFirst, completeAndFirst
- *                      a lastSegmentShort, a completeSIB-List and a FirstSegmentShort (at
- *                      most 214 bits) sharing one block, in that order
+ *                      a lastSegmentShort, a completeSIB-List and a FirstSegmentShort (1 to
+ *                      214 bits) sharing one block, in that order
  *
  * Every block takes 246 bits at most and is delivered as 31 octets, its last bits zero.
  *
- * The cut follows how libsibdecoder_umts joins the segments of a SIB: by OCTETS, not by
- * bits. Each segment contributes ceil(bits / 8) octets, appended at the next free octet; a
- * 222-bit fixed segment thus contributes 28 octets whose last two bits are padding. So:
- *   - every segment but the last starts and ends on an octet boundary of the encoding: a
- *     FirstSegmentShort carries whole octets (at most 26, i.e. 208 bits);
- *   - a firstSegment or subsequentSegment covers the next 28 octets of the encoding but
- *     carries only their first 222 bits. It may only be used where the last two bits of
- *     those 28 octets are 0, since the library puts zeros there;
- *   - the last segment carries the remaining bits; a lastSegment pads them to 222 bits, so
- *     the joined octets may end in zero octets beyond the encoding, which a PER decoder
- *     never reads.
- * The segmenter chooses the length of the first segment (a FirstSegmentShort of 1 to 26
- * octets when the block before it has content to share it with, else a 28-octet
- * firstSegment) so that every fixed segment after it ends on two zero bits, preferring the
- * fewest segments. When no choice works, or the SIB needs more than 16 segments, it reports
- * the SIB as one that cannot be carried for this library.
+ * The cut is that of TS 25.331: the SIB's encoding is one bit string, cut into consecutive
+ * pieces with no regard for octets, and a receiver joins the pieces bit by bit in the order
+ * of their segment indices. A SIB that does not fit a block whole starts with a
+ * FirstSegmentShort that takes the room left in the block being filled, when there is any,
+ * and otherwise with a firstSegment of 222 bits; 222-bit subsequent segments follow, and the
+ * rest goes into the last segment. A SIB that would need more than 16 segments is refused.
  */
 #ifndef UMTS_BCH_SEGMENTER_H
 #define UMTS_BCH_SEGMENTER_H
@@ -70,7 +60,7 @@ typedef struct umts_bch_piece {
   uint8_t kind;        /* umts_bch_piece_kind */
   uint8_t segment;     /* 0 for the first (or only) piece, else its SegmentIndex */
   uint8_t seg_count;   /* pieces of this SIB, 1 when it is carried whole */
-  uint16_t offset;     /* first octet of the encoding carried here */
+  uint16_t first_bit;  /* first bit of the encoding carried here */
   uint16_t numbits;    /* bits of the encoding carried here, before any padding */
 } umts_bch_piece;
 
@@ -86,7 +76,6 @@ typedef enum umts_bch_status {
   umts_bch_ok = 0,
   umts_bch_bad_sib,       /* SIB-Type above 31, no bits, or no data */
   umts_bch_too_long,      /* the SIB needs more than 16 segments */
-  umts_bch_no_cut,        /* no cut of the SIB survives the octet join of the library */
   umts_bch_out_of_blocks, /* more blocks needed than the caller's array holds */
   umts_bch_encode_failed  /* the codec refused a message */
 } umts_bch_status;
