@@ -29,7 +29,7 @@
  *   }
  *
  * The steps, and what each leaves behind:
- *   umts_frame_open    zeroes the context and initialises it through the licence-keyed call;
+ *   umts_frame_open    initialises the context through the licence-keyed call (no clearing);
  *                      on failure: init_failed, context freed, 0. Otherwise initialised,
  *                      and the slot's buffer becomes the decode buffer with the fixed length
  *                      UMTS_SIB_DECODE_LENGTH (every slot buffer holds that many bytes). An
