@@ -1,0 +1,30 @@
+/*
+ * Print output of the runtime (beside the print operations of umts_rrc_rt.h).
+ *
+ * Print text is gathered in one process-wide buffer and handed to the print stream
+ * (rtxPrintSetStream; standard output unless set) with fwrite whenever a top-level record is
+ * closed or the buffer fills: the stream's own buffering then decides when the system is
+ * called, and text that the process writes to the same stream stays in order with it.
+ * rtxPrintFlush hands over what is gathered and flushes the stream.
+ *
+ * Only rtxPrintIndent and the braces write indentation: a value operation (rtxPrintUnsigned
+ * and the others) writes "name = value" where its caller has put the indentation.
+ */
+#ifndef UMTS_RRC_RT_PRINT_H
+#define UMTS_RRC_RT_PRINT_H
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Printing on (nonzero, the default) or off for the whole process. Off, the print operations
+   write nothing, and callers that print whole records (the conversions, the BCH entry) skip
+   the print functions altogether, so that no text is formatted. */
+void rtxPrintSetOn(int on);
+int rtxPrintIsOn(void);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* UMTS_RRC_RT_PRINT_H */
