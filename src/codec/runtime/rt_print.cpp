@@ -56,23 +56,36 @@ void put(const char* s, size_t n) {
   done(p + n);
 }
 
-/* Names and labels are short: they are copied byte by byte into room reserved for this
-   many, and only a longer one is measured first. */
-constexpr size_t kShortName = 256;
+/* A short piece of n bytes: two overlapping moves of a fixed size instead of a call. */
+inline void copyShort(char* d, const char* s, size_t n) {
+  if (n >= 16) {
+    if (n > 32) {
+      std::memcpy(d, s, n);
+      return;
+    }
+    std::memcpy(d, s, 16);
+    std::memcpy(d + n - 16, s + n - 16, 16);
+  } else if (n >= 8) {
+    std::memcpy(d, s, 8);
+    std::memcpy(d + n - 8, s + n - 8, 8);
+  } else if (n >= 4) {
+    std::memcpy(d, s, 4);
+    std::memcpy(d + n - 4, s + n - 4, 4);
+  } else {
+    for (size_t i = 0; i < n; i++) d[i] = s[i];
+  }
+}
 
 /* `name`, then room for `extra` more bytes (extra is small): returns where they go. */
 inline char* putName(const char* name, size_t extra) {
-  if (name == nullptr) return room(extra);
-  char* p = room(kShortName + extra);
-  char* const stop = p + kShortName;
-  const char* s = name;
-  while (*s != '\0' && p < stop) *p++ = *s++;
-  if (*s == '\0') return p;
-  /* A long name: what was copied stays, the rest follows. */
-  done(p);
-  const size_t rest = std::strlen(s);
-  put(s, rest);
-  return room(extra);
+  const size_t n = name != nullptr ? std::strlen(name) : 0;
+  if (n + extra > kBufSize) {
+    put(name, n);
+    return room(extra);
+  }
+  char* p = room(n + extra);
+  copyShort(p, name, n);
+  return p + n;
 }
 
 /* The digits of v at p; returns the end. */
@@ -257,13 +270,16 @@ char* rtxStrJoin(char* dest, size_t size, const char* s1, const char* s2, const 
                  const char* s4, const char* s5) {
   if (dest == nullptr || size == 0) return dest;
   const char* parts[5] = {s1, s2, s3, s4, s5};
-  char* p = dest;
-  char* const stop = dest + size - 1;
+  size_t len = 0;
   for (const char* s : parts) {
     if (s == nullptr) break;
-    while (*s != '\0' && p < stop) *p++ = *s++;
-    if (p == stop) break;
+    size_t n = std::strlen(s);
+    const size_t room_left = size - 1 - len;
+    if (n > room_left) n = room_left;
+    copyShort(dest + len, s, n);
+    len += n;
+    if (len == size - 1) break;
   }
-  *p = '\0';
+  dest[len] = '\0';
   return dest;
 }
