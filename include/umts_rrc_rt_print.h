@@ -1,11 +1,12 @@
 /*
  * Print output of the runtime (beside the print operations of umts_rrc_rt.h).
  *
- * Print text is gathered in one process-wide buffer and handed to the print stream
- * (rtxPrintSetStream; standard output unless set) with fwrite whenever a top-level record is
- * closed or the buffer fills: the stream's own buffering then decides when the system is
- * called, and text that the process writes to the same stream stays in order with it.
- * rtxPrintFlush hands over what is gathered and flushes the stream.
+ * Print text is gathered in one process-wide buffer of 64 KB and handed to the print stream
+ * (rtxPrintSetStream; standard output unless set) with fwrite when the buffer fills, when
+ * the stream is changed and on rtxPrintFlush, which also flushes the stream; on standard
+ * output also whenever a top-level record is closed, so that what the process writes there
+ * with puts or printf stays in order with it. The stream's own buffering decides when the
+ * system is called.
  *
  * Only rtxPrintIndent and the braces write indentation: a value operation (rtxPrintUnsigned
  * and the others) writes "name = value" where its caller has put the indentation.

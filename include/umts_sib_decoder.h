@@ -109,16 +109,16 @@ uint8_t umts_sib_msg_decoder(umts_sib_id sib_id, const uint8_t* data, umts_sib_s
 
 /* Where the ASN.1 text of the decoded blocks goes: `stream` (standard output until this is
    called), or, with a null stream, nowhere: the library then formats no text at all. The
-   text is gathered and handed to the stream with fwrite after each decoded value, so the
-   stream's own buffering decides when it reaches the system (give a file a large buffer with
-   setvbuf); text that the host writes to the same stream between calls stays in order with
-   it. Text gathered for the previous stream is handed to that stream first. The library's
-   messages (puts and printf on standard output) are not affected; with the text going to
-   standard output they stay in order with it. */
+   text is gathered in the library's buffer of 64 KB. On standard output it is handed to the
+   stream with fwrite after each decoded value, so that the library's messages (puts and
+   printf on standard output) and the host's own writes stay in order with it, and the
+   stream's own buffering decides when it reaches the system. On any other stream it is
+   handed over only when the buffer is full, on umts_sib_print_flush and when another stream
+   is chosen: call umts_sib_print_flush before writing to that stream yourself, before
+   closing it and before the process ends. Give a file a large buffer with setvbuf. */
 void umts_sib_print_to(FILE* stream);
 
-/* Hands the gathered text to the stream and flushes the stream. Call it before closing a
-   stream given to umts_sib_print_to. */
+/* Hands the gathered text to the stream and flushes the stream. */
 void umts_sib_print_flush(void);
 
 /* ---- Driver -------------------------------------------------------------------------- */

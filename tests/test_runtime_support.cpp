@@ -1,6 +1,7 @@
 // Context life cycle, context heap, name path, error record, printing, text helpers and
 // enumerated-name lookup.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cstring>
 #include <string>
@@ -251,7 +252,7 @@ struct Capture {
   }
 };
 
-TEST(Print, LayoutAndFlushAtTopLevelClose) {
+TEST(Print, LayoutAndHandOver) {
   Capture cap;
   ASSERT_NE(nullptr, cap.f);
   const uint8_t bits[] = {0x86, 0xE5};
@@ -284,6 +285,8 @@ TEST(Print, LayoutAndFlushAtTopLevelClose) {
   rtxPrintCloseBrace();
   rtxPrintCloseBrace();  // never below level 0
   rtxPrintUnsigned("top", 0);
+  EXPECT_EQ("", cap.text());  // a stream other than standard output gets large pieces
+  rtxPrintFlush();
   EXPECT_EQ(
       "Decoded MIB\n {\n"
       "   sfn-Prefix = 4294967295\n"
@@ -361,6 +364,7 @@ TEST(Print, NestedValueAtEveryDepth) {
       rtxPrintCloseBrace();
       want += std::string(3 * d, ' ') + "}\n";
     }
+    rtxPrintFlush();
     EXPECT_EQ(want, cap.text()) << "depth " << depth;
   }
 }
@@ -379,7 +383,34 @@ TEST(Print, SwitchedOff) {
   rtxPrintSetOn(1);
   EXPECT_EQ("", cap.text());
   asn1Print_UMTS_MIB_ValueTag("mib_ValueTag", &tag);
+  rtxPrintFlush();
   EXPECT_EQ("mib_ValueTag = 5\n", cap.text());
+}
+
+// On standard output each finished top-level record goes to the stream at once, so that
+// what the process writes there itself stays in order with it.
+TEST(Print, StandardOutputGetsEachTopLevelRecord) {
+  std::fflush(stdout);
+  FILE* tmp = std::tmpfile();
+  ASSERT_NE(nullptr, tmp);
+  const int saved = dup(1);
+  dup2(fileno(tmp), 1);
+  rtxPrintSetStream(stdout);
+  rtxPrintOpenBrace("first");
+  rtxPrintCloseBrace();
+  std::fputs("between\n", stdout);
+  rtxPrintOpenBrace("second");
+  std::fputs("inside\n", stdout);  // a record still open is still gathered
+  rtxPrintCloseBrace();
+  std::fflush(stdout);
+  dup2(saved, 1);
+  close(saved);
+  rtxPrintSetStream(nullptr);
+  std::string text(static_cast<size_t>(std::ftell(tmp)), '\0');
+  std::rewind(tmp);
+  text.resize(std::fread(&text[0], 1, text.size(), tmp));
+  std::fclose(tmp);
+  EXPECT_EQ("first {\n}\nbetween\ninside\nsecond {\n}\n", text);
 }
 
 TEST(Print, OutputLargerThanTheBuffer) {
@@ -400,6 +431,7 @@ TEST(Print, OutputLargerThanTheBuffer) {
   EXPECT_FALSE(cap.text().empty());  // the full buffer went out early
   rtxPrintCloseBrace();
   want += "}\n";
+  rtxPrintFlush();
   EXPECT_EQ(want, cap.text());
 }
 

@@ -3,10 +3,11 @@
  *
  * Layout: three spaces per level; "name {" opens a record and "}" closes it; fields are
  * "name = value". Only rtxPrintIndent and the braces write indentation. Output is collected
- * in one process-wide buffer and handed to the print stream with fwrite when a top-level
- * record closes, when a line is finished at level 0 and when the buffer would overflow; the
- * stream itself is flushed only by rtxPrintFlush (and by its own buffering), so that printing
- * makes no system call per record. The print state is process-wide and not synchronised:
+ * in one process-wide buffer and handed to the print stream with fwrite when the buffer
+ * would overflow, when the stream changes and on rtxPrintFlush, and on standard output also
+ * when a line is finished at level 0 (a top-level record closed); the stream itself is
+ * flushed only by rtxPrintFlush (and by its own buffering), so that printing makes no
+ * system call per record. The print state is process-wide and not synchronised:
  * print from one thread at a time.
  */
 #include <cstring>
@@ -138,11 +139,12 @@ void putIndent() {
   }
 }
 
-/* End of a line at p; a finished top-level line goes to the stream. */
+/* End of a line at p. A finished top-level line goes to standard output at once, where the
+   process's puts and printf write too; another stream gets the text in large pieces. */
 inline void lineEnd(char* p) {
   *p++ = '\n';
   done(p);
-  if (g_level == 0) handOver();
+  if (g_level == 0 && outStream() == stdout) handOver();
 }
 
 /* "name = " where the caller has put the indentation, then room for `extra` bytes. */
