@@ -231,13 +231,9 @@ class JsonLines {
     while (n > 0) *p++ = digits[--n];
     std::memcpy(p, ",\"block\":\"", 10);
     p += 10;
-    const size_t name_length = std::strlen(name);
-    if (name_length > 40) return; /* the blocks' names are short */
-    std::memcpy(p, name, name_length);
-    p += name_length;
-    std::memcpy(p, "\",\"record\":", 11);
-    p += 11;
     put(head, static_cast<size_t>(p - head));
+    put(name, std::strlen(name));
+    put("\",\"record\":", 11);
   }
 
   /* Everything gathered goes to the stream. */
