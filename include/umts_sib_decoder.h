@@ -8,11 +8,15 @@
  * presence_bitmask says that sub-record n was filled (the numbering of umts_sib_id).
  *
  * Calls are to come from one thread at a time: the collected segments live in one global.
+ *
+ * Text: the library prints the ASN.1 value of every block that it decodes, and a few
+ * messages, on standard output by default (umts_sib_print_to chooses another stream, or none).
  */
 #ifndef UMTS_SIB_DECODER_H
 #define UMTS_SIB_DECODER_H
 
 #include <stdint.h>
+#include <stdio.h>
 
 #include "umts_sib_mib.h"
 #include "umts_sib_sb.h"
@@ -120,6 +124,22 @@ uint8_t umts_sib_decoder(const uint8_t* data, umts_sib_set* result, uint32_t len
 /* One complete SIB of `length` bytes (1 to 2048) for slot `sib_id`. Clears
    result->presence_bitmask first; returns 1 when every conversion that ran succeeded. */
 uint8_t umts_sib_msg_decoder(umts_sib_id sib_id, const uint8_t* data, umts_sib_set* result, uint32_t length);
+
+/* ---- Printed text --------------------------------------------------------------------- */
+
+/* Where the ASN.1 text of the decoded blocks goes: `stream` (standard output until this is
+   called), or, with a null stream, nowhere: the library then formats no text at all. The
+   text is gathered in the library's buffer of 64 KB. On standard output it is handed to the
+   stream with fwrite after each decoded value, so that the library's messages (puts and
+   printf on standard output) and the host's own writes stay in order with it, and the
+   stream's own buffering decides when it reaches the system. On any other stream it is
+   handed over only when the buffer is full, on umts_sib_print_flush and when another stream
+   is chosen: call umts_sib_print_flush before writing to that stream yourself, before
+   closing it and before the process ends. Give a file a large buffer with setvbuf. */
+void umts_sib_print_to(FILE* stream);
+
+/* Hands the gathered text to the stream and flushes the stream. */
+void umts_sib_print_flush(void);
 
 /* ---- Driver -------------------------------------------------------------------------- */
 

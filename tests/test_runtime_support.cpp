@@ -1,12 +1,15 @@
 // Context life cycle, context heap, name path, error record, printing, text helpers and
 // enumerated-name lookup.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cstring>
 #include <string>
 #include <vector>
 
 #include "runtime_test_util.h"
+#include "umts_rrc.h"
+#include "umts_rrc_rt_print.h"
 
 using namespace rt_test;
 
@@ -249,29 +252,41 @@ struct Capture {
   }
 };
 
-TEST(Print, LayoutAndFlushAtTopLevelClose) {
+TEST(Print, LayoutAndHandOver) {
   Capture cap;
   ASSERT_NE(nullptr, cap.f);
   const uint8_t bits[] = {0x86, 0xE5};
   const uint8_t octs[] = {0x0A, 0x0B, 0xFF};
   rtxPrintOpenBrace("Decoded MIB\n");  // a label is written as it is
+  // The value operations write where the indentation was put, as the print functions do.
+  rtxPrintIndent();
   rtxPrintUnsigned("sfn-Prefix", 4294967295u);
+  rtxPrintIndent();
   rtxPrintInteger("offset", -7);
+  rtxPrintIndent();
   rtxPrintInteger("least", INT32_MIN);
+  rtxPrintIndent();
   rtxPrintBoolean("flag", 1);
+  rtxPrintIndent();
   rtxPrintBoolean("other", 0);
+  rtxPrintIndent();
   rtxPrintNull("nothing");
+  rtxPrintIndent();
   rtxPrintEnum("mode", "tfci-bits-8");
   rtxPrintOpenBrace("inner");
+  rtxPrintIndent();
   rtPrintBitStrBraceText("cellIdentity", 12, bits);
+  rtxPrintIndent();
   rtxPrintHexStr("octets", 3, octs);
-  rtxPrintHexStr("empty", 0, nullptr);
+  rtxPrintHexStr("empty", 0, nullptr);  // no indentation of its own
   rtxPrintIndent();
   rtxPrintCloseBrace();
-  EXPECT_EQ("", cap.text());  // still buffered
+  EXPECT_EQ("", cap.text());  // still gathered
   rtxPrintCloseBrace();
   rtxPrintCloseBrace();  // never below level 0
   rtxPrintUnsigned("top", 0);
+  EXPECT_EQ("", cap.text());  // a stream other than standard output gets large pieces
+  rtxPrintFlush();
   EXPECT_EQ(
       "Decoded MIB\n {\n"
       "   sfn-Prefix = 4294967295\n"
@@ -284,7 +299,7 @@ TEST(Print, LayoutAndFlushAtTopLevelClose) {
       "   inner {\n"
       "      cellIdentity = { numbits = 12, data = 0x86e5 }\n"
       "      octets = 0x0a0bff\n"
-      "      empty = 0x\n"
+      "empty = 0x\n"
       "         }\n"
       "}\n"
       "}\n"
@@ -292,15 +307,123 @@ TEST(Print, LayoutAndFlushAtTopLevelClose) {
       cap.text());
 }
 
+// The text of generated print functions, whole, with the value nested at depth 1 to 4: each
+// line stands three spaces deeper per level, scalars as deep as the records beside them.
+TEST(Print, NestedValueAtEveryDepth) {
+  PLMN_Type_gsm_MAP gsm;
+  std::memset(&gsm, 0, sizeof gsm);
+  gsm.plmn_Identity.mcc.n = 3;
+  gsm.plmn_Identity.mcc.elem[0] = 2;
+  gsm.plmn_Identity.mcc.elem[1] = 6;
+  gsm.plmn_Identity.mcc.elem[2] = 2;
+  gsm.plmn_Identity.mnc.n = 2;
+  gsm.plmn_Identity.mnc.elem[0] = 0;
+  gsm.plmn_Identity.mnc.elem[1] = 1;
+  PLMN_Type plmn;
+  std::memset(&plmn, 0, sizeof plmn);
+  plmn.t = 1;
+  plmn.u.gsm_MAP = &gsm;
+  CellIdentity cell;
+  std::memset(&cell, 0, sizeof cell);
+  cell.numbits = 28;
+  cell.data[0] = 0x12;
+  cell.data[1] = 0x34;
+  cell.data[2] = 0x56;
+  cell.data[3] = 0x70;
+  const RAT rat = 2;
+  const MIB_ValueTag tag = 5;
+
+  // The value's lines at depth 0, then indented per level.
+  const char* const lines[] = {"rat = gsm",
+                               "cellIdentity = { numbits = 28, data = 0x12345670 }",
+                               "plmn_Type {",
+                               "   gsm-MAP {",
+                               "      plmn_Identity {",
+                               "         mcc[0] = 2",
+                               "         mcc[1] = 6",
+                               "         mcc[2] = 2",
+                               "         mnc[0] = 0",
+                               "         mnc[1] = 1",
+                               "      }",
+                               "   }",
+                               "}",
+                               "mib_ValueTag = 5"};
+  for (int depth = 1; depth <= 4; depth++) {
+    Capture cap;
+    std::string want;
+    for (int d = 0; d < depth; d++) {
+      rtxPrintOpenBrace(("level" + std::to_string(d)).c_str());
+      want += std::string(3 * d, ' ') + "level" + std::to_string(d) + " {\n";
+    }
+    asn1Print_UMTS_RAT("rat", &rat);
+    asn1Print_UMTS_CellIdentity("cellIdentity", &cell);
+    asn1Print_UMTS_PLMN_Type("plmn_Type", &plmn);
+    asn1Print_UMTS_MIB_ValueTag("mib_ValueTag", &tag);
+    for (const char* line : lines) want += std::string(3 * depth, ' ') + line + "\n";
+    for (int d = depth - 1; d >= 0; d--) {
+      rtxPrintCloseBrace();
+      want += std::string(3 * d, ' ') + "}\n";
+    }
+    rtxPrintFlush();
+    EXPECT_EQ(want, cap.text()) << "depth " << depth;
+  }
+}
+
+// Off, nothing is written and nothing is gathered; on again, printing goes on as before.
+TEST(Print, SwitchedOff) {
+  Capture cap;
+  EXPECT_EQ(1, rtxPrintIsOn());
+  rtxPrintSetOn(0);
+  EXPECT_EQ(0, rtxPrintIsOn());
+  const MIB_ValueTag tag = 5;
+  rtxPrintOpenBrace("top");
+  asn1Print_UMTS_MIB_ValueTag("mib_ValueTag", &tag);
+  rtxPrintCloseBrace();
+  rtxPrintFlush();
+  rtxPrintSetOn(1);
+  EXPECT_EQ("", cap.text());
+  asn1Print_UMTS_MIB_ValueTag("mib_ValueTag", &tag);
+  rtxPrintFlush();
+  EXPECT_EQ("mib_ValueTag = 5\n", cap.text());
+}
+
+// On standard output each finished top-level record goes to the stream at once, so that
+// what the process writes there itself stays in order with it.
+TEST(Print, StandardOutputGetsEachTopLevelRecord) {
+  std::fflush(stdout);
+  FILE* tmp = std::tmpfile();
+  ASSERT_NE(nullptr, tmp);
+  const int saved = dup(1);
+  dup2(fileno(tmp), 1);
+  rtxPrintSetStream(stdout);
+  rtxPrintOpenBrace("first");
+  rtxPrintCloseBrace();
+  std::fputs("between\n", stdout);
+  rtxPrintOpenBrace("second");
+  std::fputs("inside\n", stdout);  // a record still open is still gathered
+  rtxPrintCloseBrace();
+  std::fflush(stdout);
+  dup2(saved, 1);
+  close(saved);
+  rtxPrintSetStream(nullptr);
+  std::string text(static_cast<size_t>(std::ftell(tmp)), '\0');
+  std::rewind(tmp);
+  text.resize(std::fread(&text[0], 1, text.size(), tmp));
+  std::fclose(tmp);
+  EXPECT_EQ("first {\n}\nbetween\ninside\nsecond {\n}\n", text);
+}
+
 TEST(Print, OutputLargerThanTheBuffer) {
   Capture cap;
   std::string want = "list {\n";
   rtxPrintOpenBrace("list");
   for (uint32_t i = 0; i < 5000; i++) {
+    rtxPrintIndent();
     rtxPrintUnsigned("value", i * 1000003u);
     want += "   value = " + std::to_string(i * 1000003u) + "\n";
   }
   std::vector<uint8_t> big(40000, 0xAB);
+  rtxPrintIndent();
   rtxPrintHexStr("big", uint32_t(big.size()), big.data());
   want += "   big = 0x";
   for (size_t i = 0; i < big.size(); i++) want += "ab";
@@ -308,6 +431,7 @@ TEST(Print, OutputLargerThanTheBuffer) {
   EXPECT_FALSE(cap.text().empty());  // the full buffer went out early
   rtxPrintCloseBrace();
   want += "}\n";
+  rtxPrintFlush();
   EXPECT_EQ(want, cap.text());
 }
 

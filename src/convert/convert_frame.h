@@ -29,7 +29,7 @@
  *   }
  *
  * The steps, and what each leaves behind:
- *   umts_frame_open    zeroes the context and initialises it through the licence-keyed call;
+ *   umts_frame_open    initialises the context through the licence-keyed call (no clearing);
  *                      on failure: init_failed, context freed, 0. Otherwise initialised,
  *                      and the slot's buffer becomes the decode buffer with the fixed length
  *                      UMTS_SIB_DECODE_LENGTH (every slot buffer holds that many bytes). An
@@ -37,7 +37,8 @@
  *                      decoding then fails at its first bit.
  *   UMTS_FRAME_DECODE  zeroes `decoded` and runs asn1PD_UMTS_<Type>; on a nonzero status:
  *                      decode_failed, context freed, 0, the record untouched. Otherwise
- *                      asn1Print_UMTS_<Type> with the title, decoded, the record zeroed, 1.
+ *                      asn1Print_UMTS_<Type> with the title (unless the host switched the
+ *                      text off), decoded, the record zeroed, 1.
  *   umts_frame_close   closing, context freed, 1.
  * After a 0 from either of the first two the context is already freed: just return 0.
  *
@@ -51,6 +52,7 @@
 #include <string.h>
 
 #include "umts_rrc.h"
+#include "umts_rrc_rt_print.h"
 #include "umts_sib_decoder.h"
 #include "umts_sib_frame.h"
 
@@ -108,7 +110,8 @@ UMTS_FRAME_LOCAL uint8_t umts_frame_close(rtxContext* ctx, const umts_frame_desc
 #define UMTS_FRAME_DECODE(ctx, Type, decoded, desc, record)                                       \
   (memset(&(decoded), 0, sizeof(decoded)),                                                        \
    umts_frame_decoded(&(ctx), asn1PD_UMTS_##Type(&(ctx), &(decoded)), &(desc)) &&                 \
-       (asn1Print_UMTS_##Type((desc).title, &(decoded)), umts_frame_say(&(desc).decoded),        \
+       ((rtxPrintIsOn() ? asn1Print_UMTS_##Type((desc).title, &(decoded)) : (void)0),             \
+        umts_frame_say(&(desc).decoded),                                                          \
         memset((record), 0, sizeof *(record)), 1))
 
 /* An OPTIONAL element copied as it stands: its presence bit, then its value. */

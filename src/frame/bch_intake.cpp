@@ -25,6 +25,7 @@
 #include <cstring>
 
 #include "umts_rrc_rt.h"
+#include "umts_rrc_rt_print.h"
 #include "umts_sib_decoder.h"
 #include "umts_sib_frame.h"
 
@@ -392,7 +393,7 @@ uint8_t umts_sib_decoder(const uint8_t* data, umts_sib_set* result, uint32_t len
     rtFreeContext(&ctx);
     return 0;
   }
-  asn1Print_UMTS_BCCH_BCH_Message("UMTS_BCCH_BCH_Message", &message);
+  if (rtxPrintIsOn()) asn1Print_UMTS_BCCH_BCH_Message("UMTS_BCCH_BCH_Message", &message);
   const uint8_t result_status = umts_check_and_decode_sibs(&ctx, &message, result);
   rtFreeContext(&ctx);
   return result_status;

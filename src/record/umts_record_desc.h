@@ -54,7 +54,7 @@ typedef struct umts_field_desc {
   const char* aux_name; /* ARRAY: the count field; UNION: the tag field; null otherwise */
   int32_t aux_offset;   /* offset of that field in the enclosing record, -1 without one */
   uint32_t aux_size;
-  const char* json_key; /* "\"name\":", as the JSON writes it */
+  const char* json_key; /* ",\"name\":", as the JSON writes it after another field */
   uint32_t json_key_length;
 } umts_field_desc;
 

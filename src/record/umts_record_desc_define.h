@@ -71,8 +71,8 @@ struct presence_of<T, std::void_t<decltype(T::presence_bitmask)>> {
 
 #define UMTS_DESC_NO_AUX nullptr, -1, 0u
 #define UMTS_DESC_AUX(aux) #aux, static_cast<int32_t>(offsetof(self, aux)), static_cast<uint32_t>(sizeof(self::aux))
-/* The field's name as the JSON writes it, with its length. */
-#define UMTS_DESC_KEY(name) "\"" #name "\":", static_cast<uint32_t>(sizeof("\"" #name "\":") - 1)
+/* The field's name as the JSON writes it after another field, with its length. */
+#define UMTS_DESC_KEY(name) ",\"" #name "\":", static_cast<uint32_t>(sizeof(",\"" #name "\":") - 1)
 
 #define UMTS_DESC_FIELD_SCALAR(type, name, dim, cond, aux) \
   {UMTS_DESC_FIELD_COMMON(umts_field_scalar, type, name, 1, cond, nullptr), UMTS_DESC_NO_AUX, UMTS_DESC_KEY(name)}

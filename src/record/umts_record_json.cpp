@@ -76,10 +76,29 @@ struct JsonOut {
   }
   void put(const char* s, size_t n) {
     if (n <= static_cast<size_t>(lim - cur)) {
-      std::memcpy(cur, s, n);
+      copy_short(cur, s, n);
       cur += n;
     } else {
       put_slow(s, n);
+    }
+  }
+  /* Keys and numbers are short: two overlapping moves of a fixed size instead of a call. */
+  static void copy_short(char* d, const char* s, size_t n) {
+    if (n >= 16) {
+      if (n > 32) {
+        std::memcpy(d, s, n);
+        return;
+      }
+      std::memcpy(d, s, 16);
+      std::memcpy(d + n - 16, s + n - 16, 16);
+    } else if (n >= 8) {
+      std::memcpy(d, s, 8);
+      std::memcpy(d + n - 8, s + n - 8, 8);
+    } else if (n >= 4) {
+      std::memcpy(d, s, 4);
+      std::memcpy(d + n - 4, s + n - 4, 4);
+    } else {
+      for (size_t i = 0; i < n; i++) d[i] = s[i];
     }
   }
   void put(char c) {
@@ -89,16 +108,10 @@ struct JsonOut {
 };
 
 void put_integer(JsonOut& out, const uint8_t* p, uint32_t size, bool is_signed) {
-  char text[24];
+  char text[48]; /* beyond the 20 digits: room that the short copy may be thought to reach */
   std::to_chars_result r = is_signed ? std::to_chars(text, text + sizeof text, load_signed(p, size))
                                      : std::to_chars(text, text + sizeof text, load_unsigned(p, size));
   out.put(text, static_cast<size_t>(r.ptr - text));
-}
-
-bool field_present(const umts_record_desc* desc, const uint8_t* record, int32_t cond) {
-  if (cond < 0) return true;
-  if (desc->presence_offset < 0 || static_cast<uint32_t>(cond) >= desc->presence_size * 8u) return false;
-  return ((load_unsigned(record + desc->presence_offset, desc->presence_size) >> cond) & 1u) != 0;
 }
 
 /* The member of a union whose tag is `tag`, or null. */
@@ -129,8 +142,14 @@ void put_hex(JsonOut& out, const uint8_t* p, uint32_t n) {
   out.put('"');
 }
 
-/* The value of field `f` of the record or union at `base`. */
-void put_value(JsonOut& out, const umts_field_desc& f, const uint8_t* base) {
+/* The key of field `f`, with the comma that separates it from the field before. */
+inline void put_key(JsonOut& out, const umts_field_desc& f, bool first) {
+  out.put(f.json_key + (first ? 1 : 0), f.json_key_length - (first ? 1u : 0u));
+}
+
+/* The value of field `f` of the record or union at `base`; `member` is the selected member
+   of a union field. */
+void put_value(JsonOut& out, const umts_field_desc& f, const uint8_t* base, const umts_field_desc* member) {
   const uint8_t* p = base + f.offset;
   switch (f.kind) {
     case umts_field_scalar:
@@ -143,16 +162,15 @@ void put_value(JsonOut& out, const umts_field_desc& f, const uint8_t* base) {
     case umts_field_record:
       put_record(out, f.elem_desc, p);
       break;
-    case umts_field_union: {
-      const umts_field_desc* m = union_member(f.elem_desc, load_unsigned(base + f.aux_offset, f.aux_size));
+    case umts_field_union:
+      if (member == nullptr) member = union_member(f.elem_desc, load_unsigned(base + f.aux_offset, f.aux_size));
       out.put('{');
-      if (m != nullptr) {
-        out.put(m->json_key, m->json_key_length);
-        put_value(out, *m, p);
+      if (member != nullptr) {
+        put_key(out, *member, true);
+        put_value(out, *member, p, nullptr);
       }
       out.put('}');
       break;
-    }
     case umts_field_array: {
       uint64_t count = load_unsigned(base + f.aux_offset, f.aux_size);
       if (count > f.dim) count = f.dim;
@@ -176,17 +194,23 @@ void put_record(JsonOut& out, const umts_record_desc* desc, const uint8_t* recor
   out.put('{');
   /* A union reached without its tag has no member to show. */
   if (!desc->is_union) {
+    const bool has_presence = desc->presence_offset >= 0;
+    const uint64_t presence = has_presence ? load_unsigned(record + desc->presence_offset, desc->presence_size) : 0;
+    const uint32_t presence_bits = desc->presence_size * 8u;
     bool first = true;
     for (uint32_t i = 0; i < desc->field_count; i++) {
       const umts_field_desc& f = desc->fields[i];
-      if (!field_present(desc, record, f.cond)) continue;
-      if (f.kind == umts_field_union &&
-          union_member(f.elem_desc, load_unsigned(record + f.aux_offset, f.aux_size)) == nullptr)
+      if (f.cond >= 0 && (!has_presence || static_cast<uint32_t>(f.cond) >= presence_bits ||
+                          ((presence >> f.cond) & 1u) == 0))
         continue;
-      if (!first) out.put(',');
+      const umts_field_desc* member = nullptr;
+      if (f.kind == umts_field_union) {
+        member = union_member(f.elem_desc, load_unsigned(record + f.aux_offset, f.aux_size));
+        if (member == nullptr) continue;
+      }
+      put_key(out, f, first);
       first = false;
-      out.put(f.json_key, f.json_key_length);
-      put_value(out, f, record);
+      put_value(out, f, record, member);
     }
   }
   out.put('}');
@@ -250,8 +274,13 @@ const umts_field_desc* set_field(umts_sib_id id) {
 }  // namespace
 
 const char* umts_sib_name(umts_sib_id id) {
-  const umts_field_desc* f = set_field(id);
-  return f != nullptr ? f->name : nullptr;
+  static const umts_field_desc* const* fields = [] {
+    static const umts_field_desc* by_id[umts_sib_count];
+    for (uint32_t i = 0; i < umts_sib_count; i++) by_id[i] = set_field(static_cast<umts_sib_id>(i));
+    return by_id;
+  }();
+  if (static_cast<uint32_t>(id) >= umts_sib_count || fields[id] == nullptr) return nullptr;
+  return fields[id]->name;
 }
 
 umts_sib_id umts_sib_id_of_name(const char* name, size_t length) {

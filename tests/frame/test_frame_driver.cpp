@@ -171,3 +171,48 @@ TEST_F(FrameDriver, EveryPendingBlockDecodesItsEncodingAndZeroesItsRecord) {
 }
 
 }  // namespace
+
+namespace {
+
+// The text of the decoded values goes to the stream that the host chose, or nowhere; the
+// library's messages stay on standard output, after the text made before them.
+TEST_F(FrameDriver, TextGoesToTheChosenStreamOrNowhere) {
+  struct Restore {
+    ~Restore() { umts_sib_print_to(stdout); }
+  } restore;
+  const std::string message = "umts_convert_sib3:asn decoding failed\n";
+  // The MIB converts and prints, then SIB3, requested over an empty slot, fails with a message.
+  auto run = [&]() {
+    resetContext();
+    putSlot(umts_sib_mib, MibBuilder().encode());
+    g_umts_ctxt.request_bitmask |= 1u << umts_sib_sib3;
+    return captureStdout([&] { decode_system_info_msg(result); });
+  };
+
+  const std::string both = run();
+  const umts_mib_info mib = result->mib;
+  ASSERT_EQ(both.rfind("Decoded MIB\n {\n", 0), 0u) << both;
+  ASSERT_GT(both.size(), message.size());
+  EXPECT_EQ(both.substr(both.size() - message.size()), message) << "the message follows the text made before it";
+  const std::string text = both.substr(0, both.size() - message.size());
+  EXPECT_EQ(text.substr(text.size() - 2), "}\n");
+
+  umts_sib_print_to(nullptr);
+  std::memset(&result->mib, 0xA5, sizeof result->mib);
+  EXPECT_EQ(run(), message);
+  EXPECT_EQ(std::memcmp(&result->mib, &mib, sizeof mib), 0) << "the record does not depend on the text";
+
+  FILE* f = std::tmpfile();
+  ASSERT_NE(f, nullptr);
+  umts_sib_print_to(f);
+  EXPECT_EQ(run(), message);
+  umts_sib_print_flush();
+  std::string written(static_cast<size_t>(std::ftell(f)), '\0');
+  std::rewind(f);
+  written.resize(std::fread(&written[0], 1, written.size(), f));
+  EXPECT_EQ(written, text);
+  umts_sib_print_to(stdout);
+  std::fclose(f);
+}
+
+}  // namespace

@@ -11,7 +11,6 @@
 #include <cstring>
 #include <string>
 
-#include "umts_rrc_rt.h"
 #include "umts_sib_decoder.h"
 #include "umts_sib_json.h"
 #include "umts_sib_log.h"
@@ -144,12 +143,19 @@ bool parse_args(int argc, char** argv, Options* opt) {
   return true;
 }
 
-int hex_value(unsigned char c) {
-  if (c >= '0' && c <= '9') return c - '0';
-  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-  return -1;
-}
+/* Value of a hex digit, -1 for any other byte. */
+struct HexTable {
+  int8_t value[256];
+  HexTable() {
+    for (int c = 0; c < 256; c++) value[c] = -1;
+    for (int c = '0'; c <= '9'; c++) value[c] = static_cast<int8_t>(c - '0');
+    for (int c = 'a'; c <= 'f'; c++) value[c] = static_cast<int8_t>(c - 'a' + 10);
+    for (int c = 'A'; c <= 'F'; c++) value[c] = static_cast<int8_t>(c - 'A' + 10);
+  }
+};
+const HexTable kHex;
+
+int hex_value(unsigned char c) { return kHex.value[c]; }
 
 bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\v' || c == '\f'; }
 
@@ -159,8 +165,8 @@ bool parse_hex(const char* text, size_t length, uint8_t* out, size_t capacity, s
   size_t digits = 0;
   for (size_t i = 0; i < length; i++) {
     const unsigned char c = static_cast<unsigned char>(text[i]);
-    if (is_blank(static_cast<char>(c))) continue;
     const int v = hex_value(c);
+    if (v < 0 && is_blank(static_cast<char>(c))) continue;
     if (v < 0) {
       if (c >= 0x20 && c < 0x7F) std::snprintf(why, why_size, "bad hex digit '%c' at column %zu", c, i + 1);
       else std::snprintf(why, why_size, "bad hex digit (byte 0x%02x) at column %zu", c, i + 1);
@@ -196,10 +202,7 @@ class JsonLines {
 
   /* {"line":N,"block":"<name>","record":<record>}\n */
   void record(unsigned long line, const umts_sib_set* set, umts_sib_id id) {
-    const char* name = umts_sib_name(id);
-    char head[96];
-    const int n = std::snprintf(head, sizeof head, "{\"line\":%lu,\"block\":\"%s\",\"record\":", line, name);
-    put(head, static_cast<size_t>(n));
+    put_head(line, umts_sib_name(id));
     size_t room = cap_ - len_;
     size_t need = umts_sib_record_json(set, id, buf_ + len_, room);
     if (need >= room) {
@@ -211,6 +214,26 @@ class JsonLines {
     len_ += need;
     put("}\n", 2);
     if (len_ >= kWriteAt) write_out();
+  }
+
+  /* {"line":N,"block":"<name>","record": */
+  void put_head(unsigned long line, const char* name) {
+    char head[96];
+    char* p = head;
+    std::memcpy(p, "{\"line\":", 8);
+    p += 8;
+    char digits[24];
+    size_t n = 0;
+    do {
+      digits[n++] = static_cast<char>('0' + line % 10u);
+      line /= 10u;
+    } while (line != 0);
+    while (n > 0) *p++ = digits[--n];
+    std::memcpy(p, ",\"block\":\"", 10);
+    p += 10;
+    put(head, static_cast<size_t>(p - head));
+    put(name, std::strlen(name));
+    put("\",\"record\":", 11);
   }
 
   /* Everything gathered goes to the stream. */
@@ -259,6 +282,7 @@ struct Dumper {
 
 void bad_line(Dumper& d, unsigned long line, const char* why) {
   /* The library's text may be going to standard error too: keep the order readable. */
+  umts_sib_print_flush();
   std::fflush(stdout);
   std::fprintf(stderr, "sibdump: %s:%lu: %s\n", d.input_name, line, why);
   d.counts.bad++;
@@ -347,7 +371,15 @@ FILE* split_stdout(const char* asn1_text) {
     return nullptr;
   }
   close(target);
-  rtxPrintSetStream(stdout);
+  if (asn1_text == nullptr) {
+    /* Discarded: the library formats no ASN.1 text at all; its few messages still go to
+       standard output, which is /dev/null now. */
+    umts_sib_print_to(nullptr);
+  } else {
+    static char text_buffer[1 << 20];
+    std::setvbuf(stdout, text_buffer, _IOFBF, sizeof text_buffer);
+    umts_sib_print_to(stdout);
+  }
   FILE* json = fdopen(json_fd, "w");
   if (json == nullptr) {
     std::fprintf(stderr, "sibdump: cannot write JSON: %s\n", std::strerror(errno));
@@ -420,7 +452,7 @@ int main(int argc, char** argv) {
   if (in != stdin) std::fclose(in);
 
   lines.write_out();
-  rtxPrintFlush();
+  umts_sib_print_flush();
   std::fflush(stdout);
   const bool write_error = std::fclose(json) != 0;
   std::free(set);
