@@ -11,6 +11,7 @@
 #include <cstring>
 #include <string>
 
+#include "sibdump_inputs.h"
 #include "umts_record_desc.h"
 #include "umts_rrc_rt.h"
 #include "umts_sib_decoder.h"
@@ -23,6 +24,7 @@ constexpr size_t kMaxSibOctets = 2048; /* what umts_sib_msg_decoder accepts */
 
 const char kUsage[] =
     "Usage: sibdump [OPTIONS] [FILE]\n"
+    "       sibdump [OPTIONS] CAPTURE.pcap|CAPTURE.pcapng\n"
     "\n"
     "Decodes the system information of a UMTS cell with libsibdecoder_umts and writes every\n"
     "block that the library converts as one JSON line on standard output.\n"
@@ -31,6 +33,13 @@ const char kUsage[] =
     "  one BCH transport block per line, in hexadecimal; blanks may stand between the digits,\n"
     "  '#' starts a comment, empty lines are ignored. The blocks are handed in order to\n"
     "  umts_sib_decoder, which collects the segments of each SIB across blocks.\n"
+    "\n"
+    "  Or a pcap or pcapng capture (told by its first octets; %s) of\n"
+    "  GSMTAP over UDP (port 4729) on Ethernet, Linux cooked capture (v1, v2) or raw IP. GSMTAP\n"
+    "  UMTS RRC messages of sub-type BCCH-BCH go to umts_sib_decoder as transport blocks, those\n"
+    "  of the whole-SIB sub-types (MIB, SIB1 ... SB2) to umts_sib_msg_decoder; anything else is\n"
+    "  counted and skipped. Each cell (the sender's address and the GSMTAP ARFCN) has its\n"
+    "  segments collected apart.\n"
     "\n"
     "Options:\n"
     "  --sibs             lines are whole SIBs, '<name> <hex>', handed to umts_sib_msg_decoder;\n"
@@ -51,12 +60,19 @@ const char kUsage[] =
     "Messages about bad input lines (bad hex digit, odd digit count, unknown SIB name, empty\n"
     "block, block too long: %u octets for BCH, %u for --sibs) go to standard error with the\n"
     "line number; the line is skipped. A summary ends the run on standard error.\n"
+    "Captures and datagrams: each line starts with the frame (or datagram) number, its time\n"
+    "(UTC), the sender and the ARFCN instead of the line number:\n"
+    "  {\"frame\":3,\"time\":\"2026-01-01T00:00:00.040000Z\",\"source\":\"127.0.0.1\",\"arfcn\":10700,\n"
+    "   \"block\":\"sib1\",\"record\":{...}}\n"
+    "Frames too short for their headers, a damaged capture (reading stops there; the frames\n"
+    "before it are kept) and bad GSMTAP headers are reported with the frame number.\n"
     "\n"
-    "Exit status: 0 all lines read, 1 some lines were bad, 2 usage error or unreadable input.\n"
+    "Exit status: 0 all lines (frames) read, 1 some were bad, 2 usage error or unreadable input.\n"
     "\n"
     "Example:\n"
     "  sibdump samples/fdd_cell.bch\n"
-    "  sibdump --sibs --asn1-text asn1.txt samples/fdd_cell_sibs.txt | grep '\"block\":\"mib\"'\n";
+    "  sibdump --sibs --asn1-text asn1.txt samples/fdd_cell_sibs.txt | grep '\"block\":\"mib\"'\n"
+    "  sibdump samples/fdd_cell.pcapng\n";
 
 struct Options {
   bool sibs = false;
@@ -96,7 +112,8 @@ int sib_id_of(const char* name, size_t length) {
 }
 
 void usage_text(FILE* out) {
-  std::fprintf(out, kUsage, sib_names().c_str(), static_cast<unsigned>(kMaxBchOctets),
+  std::fprintf(out, kUsage, capture_input_available() ? "read through libpcap" : "NOT AVAILABLE: built without libpcap",
+               sib_names().c_str(), static_cast<unsigned>(kMaxBchOctets),
                static_cast<unsigned>(kMaxSibOctets));
 }
 
@@ -205,8 +222,10 @@ void bad_line(Dumper& d, unsigned long line, const char* why) {
   d.counts.bad++;
 }
 
-/* One JSON line per sub-record whose presence bit the last call set. */
-void write_records(Dumper& d, unsigned long line) {
+/* One JSON line per sub-record whose presence bit the last call set, starting with the
+   members `head`. Returns the number of lines. */
+size_t write_records(Dumper& d, const std::string& head) {
+  size_t written = 0;
   const umts_record_desc* set_desc = describe_umts_sib_set();
   const uint8_t* base = reinterpret_cast<const uint8_t*>(d.set);
   for (uint32_t i = 0; i < set_desc->field_count; i++) {
@@ -214,8 +233,8 @@ void write_records(Dumper& d, unsigned long line) {
     if (f.cond < 0 || ((d.set->presence_bitmask >> f.cond) & 1u) == 0) continue;
     std::string& out = d.line_json;
     out.clear();
-    out += "{\"line\":";
-    out += std::to_string(line);
+    out += "{";
+    out += head;
     out += ",\"block\":\"";
     out += f.name;
     out += "\",\"record\":";
@@ -223,8 +242,12 @@ void write_records(Dumper& d, unsigned long line) {
     out += "}\n";
     std::fwrite(out.data(), 1, out.size(), d.json);
     d.counts.records++;
+    written++;
   }
+  return written;
 }
+
+void write_records(Dumper& d, unsigned long line) { write_records(d, "\"line\":" + std::to_string(line)); }
 
 void process_line(Dumper& d, bool sibs, unsigned long line, char* text, size_t length) {
   /* A comment runs to the end of the line. */
@@ -334,24 +357,40 @@ int main(int argc, char** argv) {
     }
     input_name = opt.input;
   }
+  /* A capture is told by its first octets. */
+  bool capture = false;
+  if ((in = peek_input(in, input_name, &capture)) == nullptr) return 2;
 
   /* The result record is large (fixed arrays of SIB5): one, zeroed, for the whole run. */
   umts_sib_set* set = static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)));
   if (set == nullptr) {
     std::fprintf(stderr, "sibdump: out of memory\n");
-    if (in != stdin) std::fclose(in);
+    if (in != nullptr) std::fclose(in);
     return 2;
   }
   FILE* json = split_stdout(opt.asn1_text);
   if (json == nullptr) {
     std::free(set);
-    if (in != stdin) std::fclose(in);
+    if (in != nullptr) std::fclose(in);
     return 2;
   }
   if (opt.log_level_set) zvtLogLevelThreshold = static_cast<unsigned int>(opt.log_level);
 
   Dumper d{json, input_name, set, std::string(), Counts()};
   d.line_json.reserve(1 << 16);
+  if (capture) {
+    RecordOutput output{[&d](const std::string& head) { return write_records(d, head); }, nullptr};
+    /* run_capture closes `in`. */
+    int status = run_capture(in, input_name, set, output);
+    rtxPrintFlush();
+    std::fflush(stdout);
+    if (std::fclose(json) != 0) {
+      std::fprintf(stderr, "sibdump: error writing the JSON output\n");
+      status = 2;
+    }
+    std::free(set);
+    return status;
+  }
   char* text = nullptr;
   size_t capacity = 0;
   unsigned long line = 0;
@@ -362,7 +401,7 @@ int main(int argc, char** argv) {
   }
   const bool read_error = std::ferror(in) != 0;
   std::free(text);
-  if (in != stdin) std::fclose(in);
+  std::fclose(in);
 
   rtxPrintFlush();
   std::fflush(stdout);

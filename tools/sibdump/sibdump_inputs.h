@@ -1,0 +1,26 @@
+/*
+ * sibdump's inputs beside hexadecimal text: pcap and pcapng captures of GSMTAP
+ * (capture_input.cpp).
+ */
+#ifndef UMTS_TOOLS_SIBDUMP_INPUTS_H
+#define UMTS_TOOLS_SIBDUMP_INPUTS_H
+
+#include <stdio.h>
+
+#include "cell_feed.h"
+#include "umts_sib_decoder.h"
+
+/* Looks at the first octets of `in` for the magic number of a pcap or pcapng file. Returns a
+   stream that reads the same octets from the start (and closes `in` when closed, unless it
+   is standard input), or null with a message. */
+FILE* peek_input(FILE* in, const char* name, bool* is_capture);
+
+/* False when sibdump was built without libpcap. */
+bool capture_input_available();
+
+/* Decodes every frame of the capture `in` (which it closes) through `feed`-style per-cell
+   collection; writes the summary on standard error. Returns the exit status: 0, 1 when some
+   frames were bad or the capture was damaged, 2 when it cannot be read at all. */
+int run_capture(FILE* in, const char* name, umts_sib_set* set, const RecordOutput& output);
+
+#endif /* UMTS_TOOLS_SIBDUMP_INPUTS_H */
