@@ -1,6 +1,7 @@
 /*
  * sibdump on GSMTAP: the header and the layers around it, pcap and pcapng captures of the
- * sample cell on every link layer read, cells collected apart, damaged captures.
+ * sample cell on every link layer read, cells collected apart, damaged captures, and live
+ * datagrams over the loopback address.
  */
 #include <gtest/gtest.h>
 #include <poll.h>
@@ -532,6 +533,128 @@ TEST_F(Capture, DamagedFramesAreReportedAndSkipped) {
   expected.erase("sib2");
   expected["mib"].push_back(expected["mib"][0]);
   EXPECT_EQ(records_by_block(parse_lines(r.out)), expected);
+}
+
+/* ---- Live datagrams ----------------------------------------------------------------------- */
+
+struct Child {
+  pid_t pid = -1;
+  int out = -1;
+  int err = -1;
+};
+
+Child spawn_sibdump(const std::vector<std::string>& args) {
+  int out[2], err[2];
+  Child c;
+  if (pipe(out) != 0 || pipe(err) != 0) return c;
+  c.pid = fork();
+  if (c.pid == 0) {
+    dup2(out[1], 1);
+    dup2(err[1], 2);
+    close(out[0]);
+    close(err[0]);
+    std::vector<char*> argv;
+    argv.push_back(const_cast<char*>(kSibdump.c_str()));
+    for (const std::string& a : args) argv.push_back(const_cast<char*>(a.c_str()));
+    argv.push_back(nullptr);
+    execv(argv[0], argv.data());
+    _exit(127);
+  }
+  close(out[1]);
+  close(err[1]);
+  c.out = out[0];
+  c.err = err[0];
+  return c;
+}
+
+/* Reads from `fd` into `text` until `done(text)` or the time is up (10 s). */
+template <class Done>
+bool read_until(int fd, std::string* text, Done done) {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+  while (!done(*text)) {
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
+    if (left.count() <= 0) return false;
+    pollfd p = {fd, POLLIN, 0};
+    if (poll(&p, 1, static_cast<int>(left.count())) <= 0) continue;
+    char buf[4096];
+    const ssize_t n = read(fd, buf, sizeof buf);
+    if (n <= 0) return done(*text);
+    text->append(buf, static_cast<size_t>(n));
+  }
+  return true;
+}
+
+/* The sample cycle in datagrams over the loopback address, a malformed one after the third:
+   the records arrive as they are decoded (before the end of the run), the bad one is named,
+   and an interruption ends the run with the counts. */
+TEST(Live, DatagramsOverLoopback) {
+  Child c = spawn_sibdump({"--udp", "127.0.0.1:0"});
+  ASSERT_GT(c.pid, 0);
+  std::string err, out;
+  ASSERT_TRUE(read_until(c.err, &err, [](const std::string& t) { return t.find(" (interrupt to stop)\n") != std::string::npos; }))
+      << err;
+  const std::string prefix = "sibdump: listening for GSMTAP on 127.0.0.1:";
+  ASSERT_EQ(err.rfind(prefix, 0), 0u) << err;
+  const int port = std::atoi(err.c_str() + prefix.size());
+  ASSERT_GT(port, 0);
+
+  const int fd = socket(AF_INET, SOCK_DGRAM, 0);
+  ASSERT_GE(fd, 0);
+  sockaddr_in to;
+  std::memset(&to, 0, sizeof to);
+  to.sin_family = AF_INET;
+  to.sin_port = htons(static_cast<uint16_t>(port));
+  to.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  auto send_datagram = [&](const Bytes& d) {
+    EXPECT_EQ(sendto(fd, d.data(), d.size(), 0, reinterpret_cast<sockaddr*>(&to), sizeof to),
+              static_cast<ssize_t>(d.size()));
+  };
+  for (size_t k = 0; k < sample_blocks().size(); k++) {
+    capture::GsmtapMessage m;
+    m.arfcn = 10700;
+    m.message = sample_blocks()[k];
+    send_datagram(capture::gsmtap_datagram(m));
+    if (k == 2) {
+      Bytes bad = capture::gsmtap_datagram(m);
+      bad[0] = 3; /* version */
+      send_datagram(bad);
+    }
+  }
+  close(fd);
+  const size_t expected_lines = 10;
+  EXPECT_TRUE(read_until(c.out, &out, [&](const std::string& t) {
+    return static_cast<size_t>(std::count(t.begin(), t.end(), '\n')) >= expected_lines;
+  })) << out;
+
+  kill(c.pid, SIGINT);
+  read_until(c.err, &err, [](const std::string&) { return false; }); /* to the end */
+  read_until(c.out, &out, [](const std::string&) { return false; });
+  int status = 0;
+  waitpid(c.pid, &status, 0);
+  close(c.out);
+  close(c.err);
+  ASSERT_TRUE(WIFEXITED(status));
+  EXPECT_EQ(WEXITSTATUS(status), 1); /* one bad datagram */
+
+  const std::vector<Line> lines = parse_lines(out);
+  EXPECT_EQ(records_by_block(lines), hex_records());
+  for (const Line& l : lines) EXPECT_TRUE(has(l.head, "\"source\":\"127.0.0.1\",\"arfcn\":10700")) << l.head;
+  const std::string where = "sibdump: udp 127.0.0.1:" + std::to_string(port) + ": datagram 4: ";
+  for (const std::string& message : {where + "GSMTAP version 3 (expected 2)", std::string("sibdump: interrupted; counts of this run:"),
+                                     std::string("sibdump: cell 127.0.0.1 ARFCN 10700: 10 blocks, 0 SIBs, 10 records, 0 skipped, 0 errors"),
+                                     std::string("sibdump: 11 datagrams read, 10 blocks, 0 SIBs, 10 records written, 0 skipped, 0 not GSMTAP, 1 bad datagrams")})
+    EXPECT_TRUE(has(err, message)) << message << "\n" << err;
+}
+
+TEST(Live, AddressErrors) {
+  for (const char* args : {"--udp nowhere", "--udp 127.0.0.1:99999", "--udp 127.0.0.1:", "--udp x.bch:1 extra"}) {
+    const Outcome r = run_sibdump(args);
+    EXPECT_EQ(r.status, 2) << args;
+    EXPECT_TRUE(r.out.empty()) << args;
+    EXPECT_FALSE(r.err.empty()) << args;
+  }
+  EXPECT_TRUE(has(run_sibdump("--udp nowhere").err, "--udp needs [ADDRESS:]PORT, not 'nowhere'"));
+  EXPECT_TRUE(has(run_sibdump("--udp --sibs").err, "--udp reads no file and no --sibs"));
 }
 
 }  // namespace

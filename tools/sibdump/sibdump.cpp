@@ -25,6 +25,7 @@ constexpr size_t kMaxSibOctets = 2048; /* what umts_sib_msg_decoder accepts */
 const char kUsage[] =
     "Usage: sibdump [OPTIONS] [FILE]\n"
     "       sibdump [OPTIONS] CAPTURE.pcap|CAPTURE.pcapng\n"
+    "       sibdump [OPTIONS] --udp [[ADDRESS:]PORT]\n"
     "\n"
     "Decodes the system information of a UMTS cell with libsibdecoder_umts and writes every\n"
     "block that the library converts as one JSON line on standard output.\n"
@@ -49,6 +50,10 @@ const char kUsage[] =
     "                     error. Without this option that text is discarded.\n"
     "  --log-level N      threshold of the library's log (zvtLogLevelThreshold): above 1 shows\n"
     "                     errors, above 5 also traces; written to standard error. Default 0.\n"
+    "  --udp [[ADDRESS:]PORT]  listen for GSMTAP datagrams (as a phone-to-GSMTAP bridge sends\n"
+    "                     them) on ADDRESS:PORT, default " SIBDUMP_UDP_DEFAULT "; records are written\n"
+    "                     as they are decoded until SIGINT (Ctrl-C) or SIGTERM, then a count\n"
+    "                     summary per cell goes to standard error\n"
     "  -h, --help         show this help\n"
     "\n"
     "Output: after each input line, one line per block converted by that call, e.g.\n"
@@ -72,7 +77,8 @@ const char kUsage[] =
     "Example:\n"
     "  sibdump samples/fdd_cell.bch\n"
     "  sibdump --sibs --asn1-text asn1.txt samples/fdd_cell_sibs.txt | grep '\"block\":\"mib\"'\n"
-    "  sibdump samples/fdd_cell.pcapng\n";
+    "  sibdump samples/fdd_cell.pcapng\n"
+    "  sibdump --udp 127.0.0.1:4729\n";
 
 struct Options {
   bool sibs = false;
@@ -81,6 +87,8 @@ struct Options {
   const char* asn1_text = nullptr;
   unsigned long log_level = 0;
   bool log_level_set = false;
+  bool udp = false;
+  const char* udp_address = nullptr; /* null: the default */
 };
 
 struct Counts {
@@ -141,6 +149,11 @@ bool parse_args(int argc, char** argv, Options* opt) {
       opt->help = true;
     } else if (std::strcmp(a, "--sibs") == 0) {
       opt->sibs = true;
+    } else if (std::strcmp(a, "--udp") == 0 || std::strncmp(a, "--udp=", 6) == 0) {
+      /* The address is optional: the next argument is it unless it is an option. */
+      opt->udp = true;
+      if (a[5] == '=') opt->udp_address = a + 6;
+      else if (i + 1 < argc && argv[i + 1][0] != '-') opt->udp_address = argv[++i];
     } else if (take_value("--asn1-text")) {
       if (value == nullptr) return false;
       opt->asn1_text = value;
@@ -163,6 +176,10 @@ bool parse_args(int argc, char** argv, Options* opt) {
     } else {
       opt->input = a;
     }
+  }
+  if (opt->udp && (opt->input != nullptr || opt->sibs)) {
+    std::fprintf(stderr, "sibdump: --udp reads no file and no --sibs\n");
+    return false;
   }
   return true;
 }
@@ -357,9 +374,13 @@ int main(int argc, char** argv) {
     }
     input_name = opt.input;
   }
-  /* A capture is told by its first octets. */
+  /* A capture is told by its first octets; live input reads no file. */
   bool capture = false;
-  if ((in = peek_input(in, input_name, &capture)) == nullptr) return 2;
+  if (opt.udp) {
+    in = nullptr;
+  } else if ((in = peek_input(in, input_name, &capture)) == nullptr) {
+    return 2;
+  }
 
   /* The result record is large (fixed arrays of SIB5): one, zeroed, for the whole run. */
   umts_sib_set* set = static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)));
@@ -378,10 +399,11 @@ int main(int argc, char** argv) {
 
   Dumper d{json, input_name, set, std::string(), Counts()};
   d.line_json.reserve(1 << 16);
-  if (capture) {
+  if (opt.udp || capture) {
     RecordOutput output{[&d](const std::string& head) { return write_records(d, head); }, nullptr};
+    if (opt.udp) output.flush = [json] { std::fflush(json); };
     /* run_capture closes `in`. */
-    int status = run_capture(in, input_name, set, output);
+    int status = opt.udp ? run_udp(opt.udp_address, set, output) : run_capture(in, input_name, set, output);
     rtxPrintFlush();
     std::fflush(stdout);
     if (std::fclose(json) != 0) {

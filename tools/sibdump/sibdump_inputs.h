@@ -1,6 +1,6 @@
 /*
  * sibdump's inputs beside hexadecimal text: pcap and pcapng captures of GSMTAP
- * (capture_input.cpp).
+ * (capture_input.cpp) and GSMTAP datagrams received live over UDP (udp_input.cpp).
  */
 #ifndef UMTS_TOOLS_SIBDUMP_INPUTS_H
 #define UMTS_TOOLS_SIBDUMP_INPUTS_H
@@ -9,6 +9,9 @@
 
 #include "cell_feed.h"
 #include "umts_sib_decoder.h"
+
+/* The default address of --udp, where phone-to-GSMTAP bridges send. */
+#define SIBDUMP_UDP_DEFAULT "127.0.0.1:4729"
 
 /* Looks at the first octets of `in` for the magic number of a pcap or pcapng file. Returns a
    stream that reads the same octets from the start (and closes `in` when closed, unless it
@@ -22,5 +25,9 @@ bool capture_input_available();
    collection; writes the summary on standard error. Returns the exit status: 0, 1 when some
    frames were bad or the capture was damaged, 2 when it cannot be read at all. */
 int run_capture(FILE* in, const char* name, umts_sib_set* set, const RecordOutput& output);
+
+/* Listens on [ADDRESS:]PORT (null: SIBDUMP_UDP_DEFAULT) for GSMTAP datagrams until
+   interrupted (SIGINT or SIGTERM), then writes the summary. Returns the exit status. */
+int run_udp(const char* address, umts_sib_set* set, const RecordOutput& output);
 
 #endif /* UMTS_TOOLS_SIBDUMP_INPUTS_H */
