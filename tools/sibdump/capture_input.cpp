@@ -64,17 +64,25 @@ FILE* peek_input(FILE* in, const char* name, bool* is_capture) {
   return f;
 }
 
+int run_capture(FILE* in, const char* name, umts_sib_set* set, const RecordOutput& output) {
+  CellFeed feed(set, output, name, "frame");
+  const long frames = read_capture(in, name, feed, stderr);
+  if (frames < 0) return 2;
+  feed.summary(stderr, static_cast<unsigned long>(frames));
+  return feed.errors() != 0 ? 1 : 0;
+}
+
 #ifndef UMTS_HAVE_PCAP
 
 bool capture_input_available() { return false; }
 
-int run_capture(FILE* in, const char* name, umts_sib_set*, const RecordOutput&) {
+long read_capture(FILE* in, const char* name, CellFeed&, FILE* messages) {
   std::fclose(in);
-  std::fprintf(stderr,
+  std::fprintf(messages,
                "sibdump: %s is a pcap or pcapng capture, but this sibdump was built without capture input "
                "(libpcap was not found when the project was configured)\n",
                name);
-  return 2;
+  return -1;
 }
 
 #else
@@ -116,36 +124,35 @@ bool link_of(int dlt, gsmtap::Link* link) {
 
 }  // namespace
 
-int run_capture(FILE* in, const char* name, umts_sib_set* set, const RecordOutput& output) {
+long read_capture(FILE* in, const char* name, CellFeed& feed, FILE* messages) {
   char error[PCAP_ERRBUF_SIZE] = "";
   pcap_t* pcap = pcap_fopen_offline_with_tstamp_precision(in, PCAP_TSTAMP_PRECISION_MICRO, error);
   if (pcap == nullptr) {
     std::fclose(in);
-    std::fprintf(stderr, "sibdump: %s: not a capture that can be read: %s\n", name, error);
-    return 2;
+    std::fprintf(messages, "sibdump: %s: not a capture that can be read: %s\n", name, error);
+    return -1;
   }
   gsmtap::Link link;
   const int dlt = pcap_datalink(pcap);
   if (!link_of(dlt, &link)) {
     const char* dlt_name = pcap_datalink_val_to_name(dlt);
-    std::fprintf(stderr,
+    std::fprintf(messages,
                  "sibdump: %s: link-layer type %d (%s) is not read: captures on Ethernet, Linux cooked capture "
                  "(v1, v2) or raw IP only\n",
                  name, dlt, dlt_name != nullptr ? dlt_name : "unknown");
     pcap_close(pcap); /* closes `in` */
-    return 2;
+    return -1;
   }
 
-  CellFeed feed(set, output, name, "frame");
-  unsigned long frames = 0;
+  long frames = 0;
   for (;;) {
     struct pcap_pkthdr* header = nullptr;
     const u_char* data = nullptr;
     const int r = pcap_next_ex(pcap, &header, &data);
     if (r == PCAP_ERROR_BREAK) break; /* the end of the file */
     if (r != 1) {
-      feed.bad(frames + 1, std::string("damaged capture, reading stops here (") + pcap_geterr(pcap) +
-                               "); the frames before it are kept");
+      feed.bad(static_cast<unsigned long>(frames) + 1, std::string("damaged capture, reading stops here (") +
+                                                           pcap_geterr(pcap) + "); the frames before it are kept");
       break;
     }
     frames++;
@@ -155,19 +162,18 @@ int run_capture(FILE* in, const char* name, umts_sib_set* set, const RecordOutpu
     std::string why;
     switch (gsmtap::unwrap_frame(link, data, header->caplen, header->len, &d, &why)) {
       case gsmtap::Unwrap::udp:
-        feed.datagram(frames, time_us, d);
+        feed.datagram(static_cast<unsigned long>(frames), time_us, d);
         break;
       case gsmtap::Unwrap::other:
         feed.not_gsmtap();
         break;
       case gsmtap::Unwrap::damaged:
-        feed.bad(frames, why);
+        feed.bad(static_cast<unsigned long>(frames), why);
         break;
     }
   }
   pcap_close(pcap); /* closes `in` */
-  feed.summary(stderr, frames);
-  return feed.errors() != 0 ? 1 : 0;
+  return frames;
 }
 
 #endif /* UMTS_HAVE_PCAP */

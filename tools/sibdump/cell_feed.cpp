@@ -20,8 +20,8 @@ void release_slots(umts_decoder_ctxt* ctxt) {
 
 }  // namespace
 
-CellFeed::CellFeed(umts_sib_set* set, RecordOutput output, std::string messages, const char* unit)
-    : set_(set), output_(std::move(output)), messages_(std::move(messages)), unit_(unit) {}
+CellFeed::CellFeed(umts_sib_set* set, RecordOutput output, std::string input, const char* unit, FILE* messages)
+    : set_(set), output_(std::move(output)), input_(std::move(input)), unit_(unit), messages_(messages) {}
 
 CellFeed::~CellFeed() {
   /* Each cell's copy owns its slot buffers; g_umts_ctxt holds none between calls. */
@@ -40,7 +40,7 @@ std::string CellFeed::time_text(uint64_t time_us) {
 
 void CellFeed::message(unsigned long number, const std::string& why) const {
   std::fflush(stdout); /* the library's text may be going to standard error too */
-  std::fprintf(stderr, "sibdump: %s: %s %lu: %s\n", messages_.c_str(), unit_, number, why.c_str());
+  std::fprintf(messages_, "sibdump: %s: %s %lu: %s\n", input_.c_str(), unit_, number, why.c_str());
 }
 
 void CellFeed::bad(unsigned long number, const std::string& why) {

@@ -38,9 +38,10 @@ struct CellCounts {
 
 class CellFeed {
  public:
-  /* `set` is the caller's result record, reused for every call. `messages` names the input
-     in messages ("sibdump: <messages>: frame N: ..."); `unit` is "frame" or "datagram". */
-  CellFeed(umts_sib_set* set, RecordOutput output, std::string messages, const char* unit);
+  /* `set` is the caller's result record, reused for every call. `input` names the input in
+     the messages ("sibdump: <input>: frame N: ...", written to `messages`); `unit` is "frame"
+     or "datagram". */
+  CellFeed(umts_sib_set* set, RecordOutput output, std::string input, const char* unit, FILE* messages = stderr);
   ~CellFeed(); /* releases the segments still in collection */
   CellFeed(const CellFeed&) = delete;
   CellFeed& operator=(const CellFeed&) = delete;
@@ -73,8 +74,9 @@ class CellFeed {
 
   umts_sib_set* set_;
   RecordOutput output_;
-  std::string messages_;
+  std::string input_;
   const char* unit_;
+  FILE* messages_;
   std::map<Key, Cell> cells_;
   unsigned long not_gsmtap_ = 0; /* frames of other protocols */
   unsigned long bad_ = 0;        /* frames refused before a cell was known */

@@ -21,9 +21,14 @@ FILE* peek_input(FILE* in, const char* name, bool* is_capture);
 /* False when sibdump was built without libpcap. */
 bool capture_input_available();
 
-/* Decodes every frame of the capture `in` (which it closes) through `feed`-style per-cell
-   collection; writes the summary on standard error. Returns the exit status: 0, 1 when some
-   frames were bad or the capture was damaged, 2 when it cannot be read at all. */
+/* Hands every frame of the capture `in` (which it closes) to `feed`; the messages about the
+   capture as a whole go to `messages`. Returns the number of frames read, or -1 when the
+   capture cannot be read at all (or sibdump has no capture input). */
+long read_capture(FILE* in, const char* name, CellFeed& feed, FILE* messages);
+
+/* read_capture with the records written to `output` and the summary on standard error.
+   Returns the exit status: 0, 1 when some frames were bad or the capture was damaged, 2 when
+   it cannot be read at all. */
 int run_capture(FILE* in, const char* name, umts_sib_set* set, const RecordOutput& output);
 
 /* Listens on [ADDRESS:]PORT (null: SIBDUMP_UDP_DEFAULT) for GSMTAP datagrams until
