@@ -3,9 +3,9 @@
 # files twice, through the CMake package and through pkg-config, then runs both on the MIB's
 # transport block of the sample cell; the installed sibdump decodes the sample cycle.
 #
-#   install_test.sh BUILD_DIR SOURCE_DIR WORK_DIR LIBDIR C_COMPILER "C_FLAGS"
+#   install_test.sh BUILD_DIR SOURCE_DIR WORK_DIR LIBDIR C_COMPILER ["C_FLAGS" ["LINK_FLAGS"]]
 set -euo pipefail
-build=$1 source=$2 work=$3 libdir=$4 cc=$5 cflags=${6:-}
+build=$1 source=$2 work=$3 libdir=$4 cc=$5 cflags=${6:-} ldflags=${7:-}
 prefix=$work/prefix
 
 fail() { echo "install_test: $*" >&2; exit 1; }
@@ -45,6 +45,7 @@ check_run() { # name program
 # 1. The CMake package (the consumer project, compiled as C).
 cmake -S "$source/tests/install/consumer" -B "$work/cmake-build" \
   -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_C_COMPILER="$cc" -DCMAKE_C_FLAGS="$cflags" \
+  -DCMAKE_EXE_LINKER_FLAGS="$ldflags" \
   -DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF -DCMAKE_BUILD_TYPE=Release >"$work/cmake.log" 2>&1 ||
   { cat "$work/cmake.log"; fail "the consumer project does not configure"; }
 grep -q "$prefix" "$work/cmake-build/CMakeCache.txt" || fail "the package was not found in the prefix"
@@ -58,7 +59,7 @@ pc_cflags=$(pkg-config --cflags sibdecoder_umts) && pc_libs=$(pkg-config --libs 
   fail "pkg-config does not know sibdecoder_umts"
 # shellcheck disable=SC2086
 "$cc" -std=c99 -Wall -Wextra -Werror $cflags $pc_cflags -o "$work/use_library_pc" \
-  "$source/tests/install/consumer/use_library.c" $pc_libs -Wl,-rpath,"$prefix/$libdir" ||
+  "$source/tests/install/consumer/use_library.c" $pc_libs -Wl,-rpath,"$prefix/$libdir" $ldflags ||
   fail "the C program does not build with pkg-config's flags ($pc_cflags $pc_libs)"
 check_run "pkg-config sibdecoder_umts" "$work/use_library_pc"
 
