@@ -340,6 +340,21 @@ TEST_F(Capture, SamplesGiveTheHexRecords) {
                            "0 bad frames"))
         << r.err;
   }
+  /* A capture on standard input, from a pipe as well. */
+  for (const std::string& how : {"< '" + kSamples + "/fdd_cell.pcapng'", "- < '" + kSamples + "/fdd_cell.pcap'"}) {
+    const Outcome r = run_sibdump(how);
+    EXPECT_EQ(r.status, 0) << how << ": " << r.err;
+    EXPECT_EQ(records_by_block(parse_lines(r.out)), hex_records()) << how;
+  }
+  const std::string piped = "cat '" + kSamples + "/fdd_cell.pcapng' | '" + kSibdump + "'";
+  FILE* p = popen(piped.c_str(), "r");
+  ASSERT_NE(p, nullptr);
+  std::string out;
+  char buf[4096];
+  for (size_t n; (n = std::fread(buf, 1, sizeof buf, p)) > 0;) out.append(buf, n);
+  EXPECT_EQ(pclose(p), 0);
+  EXPECT_EQ(records_by_block(parse_lines(out)), hex_records());
+
   /* The MIB's block is the first, the SIB3's the fourth (at 60 ms). */
   const std::vector<Line> lines = parse_lines(run_sibdump("'" + kSamples + "/fdd_cell.pcap'").out);
   for (const Line& l : lines) {
