@@ -637,10 +637,11 @@ Child spawn_sibdump(const std::vector<std::string>& args) {
   return c;
 }
 
-/* Reads from `fd` into `text` until `done(text)` or the time is up (10 s). */
+/* Reads from `fd` into `text` until `done(text)` or the time is up (60 s: a loaded machine
+   running the sanitizer tree is slow to start the tool). */
 template <class Done>
 bool read_until(int fd, std::string* text, Done done) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
   while (!done(*text)) {
     const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
     if (left.count() <= 0) return false;
