@@ -11,6 +11,8 @@
 #include <cstring>
 #include <string>
 
+#include "sibdump_inputs.h"
+#include "umts_rrc_rt.h"
 #include "umts_sib_decoder.h"
 #include "umts_sib_json.h"
 #include "umts_sib_log.h"
@@ -22,6 +24,8 @@ constexpr size_t kMaxSibOctets = 2048; /* what umts_sib_msg_decoder accepts */
 
 const char kUsage[] =
     "Usage: sibdump [OPTIONS] [FILE]\n"
+    "       sibdump [OPTIONS] CAPTURE.pcap|CAPTURE.pcapng\n"
+    "       sibdump [OPTIONS] --udp [[ADDRESS:]PORT]\n"
     "\n"
     "Decodes the system information of a UMTS cell with libsibdecoder_umts and writes every\n"
     "block that the library converts as one JSON line on standard output.\n"
@@ -31,6 +35,13 @@ const char kUsage[] =
     "  '#' starts a comment, empty lines are ignored. The blocks are handed in order to\n"
     "  umts_sib_decoder, which collects the segments of each SIB across blocks.\n"
     "\n"
+    "  Or a pcap or pcapng capture (told by its first octets; %s) of\n"
+    "  GSMTAP over UDP (port 4729) on Ethernet, Linux cooked capture (v1, v2) or raw IP. GSMTAP\n"
+    "  UMTS RRC messages of sub-type BCCH-BCH go to umts_sib_decoder as transport blocks, those\n"
+    "  of the whole-SIB sub-types (MIB, SIB1 ... SB2) to umts_sib_msg_decoder; anything else is\n"
+    "  counted and skipped. Each cell (the sender's address and the GSMTAP ARFCN) has its\n"
+    "  segments collected apart.\n"
+    "\n"
     "Options:\n"
     "  --sibs             lines are whole SIBs, '<name> <hex>', handed to umts_sib_msg_decoder;\n"
     "                     names: %s\n"
@@ -39,6 +50,10 @@ const char kUsage[] =
     "                     error. Without this option that text is discarded.\n"
     "  --log-level N      threshold of the library's log (zvtLogLevelThreshold): above 1 shows\n"
     "                     errors, above 5 also traces; written to standard error. Default 0.\n"
+    "  --udp [[ADDRESS:]PORT]  listen for GSMTAP datagrams (as a phone-to-GSMTAP bridge sends\n"
+    "                     them) on ADDRESS:PORT, default " SIBDUMP_UDP_DEFAULT "; records are written\n"
+    "                     as they are decoded until SIGINT (Ctrl-C) or SIGTERM, then a count\n"
+    "                     summary per cell goes to standard error\n"
     "  -h, --help         show this help\n"
     "\n"
     "Output: after each input line, one line per block converted by that call, e.g.\n"
@@ -50,12 +65,20 @@ const char kUsage[] =
     "Messages about bad input lines (bad hex digit, odd digit count, unknown SIB name, empty\n"
     "block, block too long: %u octets for BCH, %u for --sibs) go to standard error with the\n"
     "line number; the line is skipped. A summary ends the run on standard error.\n"
+    "Captures and datagrams: each line starts with the frame (or datagram) number, its time\n"
+    "(UTC), the sender and the ARFCN instead of the line number:\n"
+    "  {\"frame\":3,\"time\":\"2026-01-01T00:00:00.040000Z\",\"source\":\"127.0.0.1\",\"arfcn\":10700,\n"
+    "   \"block\":\"sib1\",\"record\":{...}}\n"
+    "Frames too short for their headers, a damaged capture (reading stops there; the frames\n"
+    "before it are kept) and bad GSMTAP headers are reported with the frame number.\n"
     "\n"
-    "Exit status: 0 all lines read, 1 some lines were bad, 2 usage error or unreadable input.\n"
+    "Exit status: 0 all lines (frames) read, 1 some were bad, 2 usage error or unreadable input.\n"
     "\n"
     "Example:\n"
     "  sibdump samples/fdd_cell.bch\n"
-    "  sibdump --sibs --asn1-text asn1.txt samples/fdd_cell_sibs.txt | grep '\"block\":\"mib\"'\n";
+    "  sibdump --sibs --asn1-text asn1.txt samples/fdd_cell_sibs.txt | grep '\"block\":\"mib\"'\n"
+    "  sibdump samples/fdd_cell.pcapng\n"
+    "  sibdump --udp 127.0.0.1:4729\n";
 
 struct Options {
   bool sibs = false;
@@ -64,6 +87,8 @@ struct Options {
   const char* asn1_text = nullptr;
   unsigned long log_level = 0;
   bool log_level_set = false;
+  bool udp = false;
+  const char* udp_address = nullptr; /* null: the default */
 };
 
 struct Counts {
@@ -89,7 +114,8 @@ int sib_id_of(const char* name, size_t length) {
 }
 
 void usage_text(FILE* out) {
-  std::fprintf(out, kUsage, sib_names().c_str(), static_cast<unsigned>(kMaxBchOctets),
+  std::fprintf(out, kUsage, capture_input_available() ? "read through libpcap" : "NOT AVAILABLE: built without libpcap",
+               sib_names().c_str(), static_cast<unsigned>(kMaxBchOctets),
                static_cast<unsigned>(kMaxSibOctets));
 }
 
@@ -117,6 +143,11 @@ bool parse_args(int argc, char** argv, Options* opt) {
       opt->help = true;
     } else if (std::strcmp(a, "--sibs") == 0) {
       opt->sibs = true;
+    } else if (std::strcmp(a, "--udp") == 0 || std::strncmp(a, "--udp=", 6) == 0) {
+      /* The address is optional: the next argument is it unless it is an option. */
+      opt->udp = true;
+      if (a[5] == '=') opt->udp_address = a + 6;
+      else if (i + 1 < argc && argv[i + 1][0] != '-') opt->udp_address = argv[++i];
     } else if (take_value("--asn1-text")) {
       if (value == nullptr) return false;
       opt->asn1_text = value;
@@ -139,6 +170,10 @@ bool parse_args(int argc, char** argv, Options* opt) {
     } else {
       opt->input = a;
     }
+  }
+  if (opt->udp && (opt->input != nullptr || opt->sibs)) {
+    std::fprintf(stderr, "sibdump: --udp reads no file and no --sibs\n");
+    return false;
   }
   return true;
 }
@@ -203,6 +238,22 @@ class JsonLines {
   /* {"line":N,"block":"<name>","record":<record>}\n */
   void record(unsigned long line, const umts_sib_set* set, umts_sib_id id) {
     put_head(line, umts_sib_name(id));
+    put_record(set, id);
+  }
+
+  /* {<head>,"block":"<name>","record":<record>}\n, `head` being members of the object. */
+  void record(const std::string& head, const umts_sib_set* set, umts_sib_id id) {
+    put("{", 1);
+    put(head.data(), head.size());
+    put(",\"block\":\"", 10);
+    const char* name = umts_sib_name(id);
+    put(name, std::strlen(name));
+    put("\",\"record\":", 11);
+    put_record(set, id);
+  }
+
+  /* <record>}\n */
+  void put_record(const umts_sib_set* set, umts_sib_id id) {
     size_t room = cap_ - len_;
     size_t need = umts_sib_record_json(set, id, buf_ + len_, room);
     if (need >= room) {
@@ -296,6 +347,20 @@ void write_records(Dumper& d, unsigned long line) {
     d.json.record(line, d.set, static_cast<umts_sib_id>(i));
     d.counts.records++;
   }
+}
+
+/* The same, each line starting with the members `head` (a capture's frame, time and cell).
+   Returns the number of lines. */
+size_t write_records(Dumper& d, const std::string& head) {
+  size_t written = 0;
+  const uint32_t present = d.set->presence_bitmask;
+  for (uint32_t i = 0; i < umts_sib_count; i++) {
+    if (((present >> i) & 1u) == 0) continue;
+    d.json.record(head, d.set, static_cast<umts_sib_id>(i));
+    d.counts.records++;
+    written++;
+  }
+  return written;
 }
 
 void process_line(Dumper& d, bool sibs, unsigned long line, char* text, size_t length) {
@@ -414,18 +479,25 @@ int main(int argc, char** argv) {
     }
     input_name = opt.input;
   }
+  /* A capture is told by its first octets; live input reads no file. */
+  bool capture = false;
+  if (opt.udp) {
+    in = nullptr;
+  } else if ((in = peek_input(in, input_name, &capture)) == nullptr) {
+    return 2;
+  }
 
   /* The result record is large (fixed arrays of SIB5): one, zeroed, for the whole run. */
   umts_sib_set* set = static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)));
   if (set == nullptr) {
     std::fprintf(stderr, "sibdump: out of memory\n");
-    if (in != stdin) std::fclose(in);
+    if (in != nullptr) std::fclose(in);
     return 2;
   }
   FILE* json = split_stdout(opt.asn1_text);
   if (json == nullptr) {
     std::free(set);
-    if (in != stdin) std::fclose(in);
+    if (in != nullptr) std::fclose(in);
     return 2;
   }
   if (opt.log_level_set) zvtLogLevelThreshold = static_cast<unsigned int>(opt.log_level);
@@ -435,10 +507,29 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "sibdump: out of memory\n");
     std::fclose(json);
     std::free(set);
-    if (in != stdin) std::fclose(in);
+    if (in != nullptr) std::fclose(in);
     return 2;
   }
   Dumper d{lines, input_name, set, Counts()};
+  if (opt.udp || capture) {
+    RecordOutput output{[&d](const std::string& head) { return write_records(d, head); }, nullptr};
+    /* Live records reach the stream as each datagram is decoded. */
+    if (opt.udp) output.flush = [&lines, json] {
+      lines.write_out();
+      std::fflush(json);
+    };
+    /* run_capture closes `in`. */
+    int status = opt.udp ? run_udp(opt.udp_address, set, output) : run_capture(in, input_name, set, output);
+    lines.write_out();
+    umts_sib_print_flush();
+    std::fflush(stdout);
+    if (std::fclose(json) != 0) {
+      std::fprintf(stderr, "sibdump: error writing the JSON output\n");
+      status = 2;
+    }
+    std::free(set);
+    return status;
+  }
   char* text = nullptr;
   size_t capacity = 0;
   unsigned long line = 0;
@@ -449,7 +540,7 @@ int main(int argc, char** argv) {
   }
   const bool read_error = std::ferror(in) != 0;
   std::free(text);
-  if (in != stdin) std::fclose(in);
+  std::fclose(in);
 
   lines.write_out();
   umts_sib_print_flush();

@@ -1,0 +1,731 @@
+/*
+ * sibdump on GSMTAP: the header and the layers around it, pcap and pcapng captures of the
+ * sample cell on every link layer read, cells collected apart, damaged captures, and live
+ * datagrams over the loopback address.
+ */
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <signal.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <netinet/in.h>
+#include <arpa/inet.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "capture_writer.h"
+#include "gsmtap.h"
+#include "json_check.h"
+#include "sibdump_inputs.h"
+#include "umts_rrc_rt.h"
+#include "umts_sib_decoder.h"
+
+namespace {
+
+using capture::Bytes;
+using gsmtap::Link;
+
+const std::string kSibdump = SIBDUMP_PATH;
+const std::string kMkcaptures = MKCAPTURES_PATH;
+const std::string kSamples = UMTS_SAMPLES_DIR;
+constexpr uint64_t kT0 = 1767225600ull * 1000000u; /* 2026-01-01T00:00:00Z */
+
+std::string temp_dir() {
+  static std::string dir;
+  if (dir.empty()) {
+    std::string pattern = ::testing::TempDir() + "sibdump_capture_XXXXXX";
+    std::vector<char> buf(pattern.begin(), pattern.end());
+    buf.push_back('\0');
+    if (mkdtemp(buf.data()) != nullptr) dir = buf.data();
+  }
+  return dir;
+}
+
+std::string read_file(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::stringstream s;
+  s << in.rdbuf();
+  return s.str();
+}
+
+std::vector<std::string> lines_of(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream in(text);
+  for (std::string l; std::getline(in, l);) lines.push_back(l);
+  return lines;
+}
+
+Bytes hex_bytes(const std::string& hex) {
+  Bytes b;
+  for (size_t i = 0; i + 1 < hex.size(); i += 2) b.push_back(static_cast<uint8_t>(std::stoul(hex.substr(i, 2), nullptr, 16)));
+  return b;
+}
+
+/* The transport blocks of the sample cycle, and its SIBs whole as (name, bytes). */
+const std::vector<Bytes>& sample_blocks() {
+  static std::vector<Bytes> blocks;
+  if (blocks.empty())
+    for (const std::string& l : lines_of(read_file(kSamples + "/fdd_cell.bch")))
+      if (!l.empty() && l[0] != '#') blocks.push_back(hex_bytes(l));
+  return blocks;
+}
+
+std::vector<std::pair<std::string, Bytes>> sample_sibs() {
+  std::vector<std::pair<std::string, Bytes>> sibs;
+  for (const std::string& l : lines_of(read_file(kSamples + "/fdd_cell_sibs.txt"))) {
+    if (l.empty() || l[0] == '#') continue;
+    const size_t blank = l.find(' ');
+    sibs.emplace_back(l.substr(0, blank), hex_bytes(l.substr(blank + 1)));
+  }
+  return sibs;
+}
+
+struct Outcome {
+  int status;
+  std::string out;
+  std::string err;
+};
+
+Outcome run_sibdump(const std::string& args) {
+  const std::string err_path = temp_dir() + "/stderr.txt";
+  const std::string cmd = "'" + kSibdump + "' " + args + " 2>'" + err_path + "'";
+  Outcome r{-1, "", ""};
+  FILE* p = popen(cmd.c_str(), "r");
+  if (p == nullptr) return r;
+  char buf[4096];
+  size_t n;
+  while ((n = std::fread(buf, 1, sizeof buf, p)) > 0) r.out.append(buf, n);
+  const int status = pclose(p);
+  r.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  r.err = read_file(err_path);
+  return r;
+}
+
+Outcome run_on(const std::string& name, const Bytes& file) {
+  const std::string path = temp_dir() + "/" + name;
+  EXPECT_TRUE(capture::write_file(path, file));
+  return run_sibdump("'" + path + "'");
+}
+
+/* A JSON line split into its head (members before "block") and the rest. */
+struct Line {
+  std::string head;
+  std::string block;
+  std::string record; /* from ,"record": on */
+};
+
+std::vector<Line> parse_lines(const std::string& out) {
+  std::vector<Line> lines;
+  for (const std::string& l : lines_of(out)) {
+    EXPECT_TRUE(json_check::valid(l)) << l;
+    const size_t b = l.find(",\"block\":\"");
+    const size_t r = l.find(",\"record\":");
+    if (b == std::string::npos || r == std::string::npos) {
+      ADD_FAILURE() << l;
+      continue;
+    }
+    lines.push_back({l.substr(1, b - 1), l.substr(b + 10, l.find('"', b + 10) - b - 10), l.substr(r)});
+  }
+  return lines;
+}
+
+/* block name -> record part, of the lines whose head contains `cell` (all when empty). */
+std::map<std::string, std::vector<std::string>> records_by_block(const std::vector<Line>& lines,
+                                                                 const std::string& cell = "") {
+  std::map<std::string, std::vector<std::string>> m;
+  for (const Line& l : lines)
+    if (cell.empty() || l.head.find(cell) != std::string::npos) m[l.block].push_back(l.record);
+  return m;
+}
+
+/* The records of the hexadecimal sample, the reference for every capture of the cycle. */
+const std::map<std::string, std::vector<std::string>>& hex_records() {
+  static std::map<std::string, std::vector<std::string>> m;
+  if (m.empty()) {
+    const Outcome r = run_sibdump("'" + kSamples + "/fdd_cell.bch'");
+    EXPECT_EQ(r.status, 0) << r.err;
+    m = records_by_block(parse_lines(r.out));
+    EXPECT_EQ(m.size(), 10u);
+  }
+  return m;
+}
+
+capture::Frame gsmtap_frame(Link link, uint64_t time_us, const Bytes& message, uint16_t arfcn = 10700,
+                            uint8_t sub_type = gsmtap::kSubBcchBch, const capture::Route& route = capture::Route(),
+                            uint8_t type = gsmtap::kTypeUmtsRrc) {
+  capture::GsmtapMessage m;
+  m.type = type;
+  m.sub_type = sub_type;
+  m.arfcn = arfcn;
+  m.message = message;
+  return {time_us, capture::udp_frame(link, route, capture::gsmtap_datagram(m)), 0};
+}
+
+std::vector<capture::Frame> cycle_frames(Link link, const capture::Route& route = capture::Route()) {
+  std::vector<capture::Frame> frames;
+  for (size_t k = 0; k < sample_blocks().size(); k++)
+    frames.push_back(gsmtap_frame(link, kT0 + 20000 * k, sample_blocks()[k], 10700, gsmtap::kSubBcchBch, route));
+  return frames;
+}
+
+bool has(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
+
+/* ---- GSMTAP and the layers around it ------------------------------------------------------ */
+
+TEST(Gsmtap, HeaderFields) {
+  /* version 2, 4 words, type 12, timeslot 1, ARFCN 10700 with the uplink flag, -80 dBm,
+     SNR 5, frame 0x01020304, sub-type 19 (SIB3), antenna 0, sub-slot 2; then the message. */
+  const Bytes d = hex_bytes("02040c01" "69cc" "b005" "01020304" "13000200" "aa");
+  gsmtap::Header h;
+  size_t at = 0;
+  std::string why;
+  ASSERT_TRUE(gsmtap::parse_header(d.data(), d.size(), &h, &at, &why)) << why;
+  EXPECT_EQ(at, 16u);
+  EXPECT_EQ(h.type, 12);
+  EXPECT_EQ(h.timeslot, 1);
+  EXPECT_EQ(h.arfcn, 0x69CC);
+  EXPECT_EQ(gsmtap::arfcn_number(h.arfcn), 10700);
+  EXPECT_EQ(h.signal_dbm, -80);
+  EXPECT_EQ(h.snr_db, 5);
+  EXPECT_EQ(h.frame_number, 0x01020304u);
+  EXPECT_EQ(h.sub_type, 19);
+  EXPECT_EQ(h.sub_slot, 2);
+
+  const struct {
+    const char* hex;
+    const char* why;
+  } bad[] = {
+      {"02040c0129cc0000000000000800", "UDP payload of 14 octets is shorter than the GSMTAP header (16)"},
+      {"03040c0129cc00000000000008000000", "GSMTAP version 3 (expected 2)"},
+      {"02030c0129cc00000000000008000000", "GSMTAP header length 12 octets does not fit its 16-octet datagram"},
+      {"02050c0129cc00000000000008000000", "GSMTAP header length 20 octets does not fit its 16-octet datagram"},
+  };
+  for (const auto& b : bad) {
+    const Bytes x = hex_bytes(b.hex);
+    EXPECT_FALSE(gsmtap::parse_header(x.data(), x.size(), &h, &at, &why)) << b.hex;
+    EXPECT_EQ(why, b.why);
+  }
+  /* A longer header is skipped whole. */
+  const Bytes longer = hex_bytes("02050c0129cc0000000000000800000011223344aa");
+  ASSERT_TRUE(gsmtap::parse_header(longer.data(), longer.size(), &h, &at, &why));
+  EXPECT_EQ(at, 20u);
+}
+
+TEST(Gsmtap, SubTypes) {
+  const struct {
+    uint8_t sub_type;
+    gsmtap::Use use;
+    int sib_id;
+  } table[] = {
+      {8, gsmtap::Use::transport_block, -1},    {16, gsmtap::Use::whole_sib, umts_sib_mib},
+      {17, gsmtap::Use::whole_sib, umts_sib_sib1}, {18, gsmtap::Use::whole_sib, umts_sib_sib2},
+      {19, gsmtap::Use::whole_sib, umts_sib_sib3}, {21, gsmtap::Use::whole_sib, umts_sib_sib5},
+      {24, gsmtap::Use::whole_sib, umts_sib_sib7}, {28, gsmtap::Use::whole_sib, umts_sib_sib11},
+      {29, gsmtap::Use::whole_sib, umts_sib_sib11bis}, {30, gsmtap::Use::whole_sib, umts_sib_sib12},
+      {53, gsmtap::Use::whole_sib, umts_sib_sib18}, {58, gsmtap::Use::whole_sib, umts_sib_sb1},
+      {59, gsmtap::Use::whole_sib, umts_sib_sb2},  {51, gsmtap::Use::not_converted, -1},
+      {54, gsmtap::Use::not_converted, -1},      {20, gsmtap::Use::other, -1} /* SIB4 */,
+      {13, gsmtap::Use::other, -1},              {0, gsmtap::Use::other, -1},
+      {255, gsmtap::Use::other, -1},
+  };
+  for (const auto& t : table) {
+    int id = -1;
+    EXPECT_EQ(gsmtap::use_of(t.sub_type, &id), t.use) << int(t.sub_type);
+    if (t.use == gsmtap::Use::whole_sib) {
+      EXPECT_EQ(id, t.sib_id) << int(t.sub_type);
+    }
+  }
+}
+
+/* The writer's Ethernet frame, octet by octet (the IPv4 checksum computed by hand). */
+TEST(Gsmtap, WrittenFrameAsOnTheWire) {
+  capture::GsmtapMessage m;
+  m.arfcn = 10700;
+  m.frame_number = 6;
+  m.message = {0xAB, 0xCD};
+  const Bytes frame = capture::udp_frame(Link::ethernet, capture::Route(), capture::gsmtap_datagram(m));
+  const Bytes expected = hex_bytes(
+      "000000000000000000000000" "0800"                                  /* Ethernet */
+      "4500002e00004000" "40113cbd" "7f000001" "7f000001"                /* IPv4 */
+      "9c40127900" "1a0000"                                              /* UDP, 26 octets */
+      "02040c0029cc0000" "00000006" "08000000"                           /* GSMTAP */
+      "abcd");
+  EXPECT_EQ(frame, expected);
+}
+
+/* Every link layer, IPv4 and IPv6, gives the datagram back; other protocols are not GSMTAP. */
+TEST(Gsmtap, UnwrapEveryLink) {
+  capture::Route v6;
+  v6.source = "2001:db8::7";
+  v6.destination = "::1";
+  const Bytes payload = {1, 2, 3, 4, 5};
+  const struct {
+    Link link;
+    const capture::Route& route;
+    const char* source;
+  } cases[] = {
+      {Link::ethernet, capture::Route(), "127.0.0.1"}, {Link::linux_sll, capture::Route(), "127.0.0.1"},
+      {Link::linux_sll2, capture::Route(), "127.0.0.1"}, {Link::raw_ip, capture::Route(), "127.0.0.1"},
+      {Link::ipv4, capture::Route(), "127.0.0.1"},     {Link::ethernet, v6, "2001:db8::7"},
+      {Link::linux_sll2, v6, "2001:db8::7"},           {Link::raw_ip, v6, "2001:db8::7"},
+      {Link::ipv6, v6, "2001:db8::7"},
+  };
+  for (const auto& c : cases) {
+    Bytes frame = capture::udp_frame(c.link, c.route, payload);
+    gsmtap::Datagram d;
+    std::string why;
+    ASSERT_EQ(gsmtap::unwrap_frame(c.link, frame.data(), frame.size(), frame.size(), &d, &why), gsmtap::Unwrap::udp)
+        << why;
+    EXPECT_EQ(Bytes(d.payload, d.payload + d.length), payload);
+    EXPECT_EQ(d.source, c.source);
+    EXPECT_EQ(d.destination_port, gsmtap::kPort);
+    /* Every cut inside the headers is damaged. */
+    for (size_t n = 0; n < frame.size() - payload.size(); n++)
+      EXPECT_EQ(gsmtap::unwrap_frame(c.link, frame.data(), n, frame.size(), &d, &why), gsmtap::Unwrap::damaged) << n;
+  }
+  /* Ethernet padding after the datagram is not part of it. */
+  Bytes padded = capture::udp_frame(Link::ethernet, capture::Route(), payload);
+  padded.resize(60, 0);
+  gsmtap::Datagram d;
+  std::string why;
+  ASSERT_EQ(gsmtap::unwrap_frame(Link::ethernet, padded.data(), padded.size(), 60, &d, &why), gsmtap::Unwrap::udp);
+  EXPECT_EQ(d.length, payload.size());
+
+  capture::Route dns;
+  dns.destination_port = 53;
+  dns.source_port = 53;
+  const Bytes other = capture::udp_frame(Link::ethernet, dns, payload);
+  EXPECT_EQ(gsmtap::unwrap_frame(Link::ethernet, other.data(), other.size(), other.size(), &d, &why),
+            gsmtap::Unwrap::other);
+  Bytes arp = hex_bytes("ffffffffffff0000000000000806");
+  arp.resize(42, 0);
+  EXPECT_EQ(gsmtap::unwrap_frame(Link::ethernet, arp.data(), arp.size(), arp.size(), &d, &why), gsmtap::Unwrap::other);
+}
+
+/* ---- Captures ----------------------------------------------------------------------------- */
+
+class Capture : public ::testing::Test {
+ protected:
+  void SetUp() override {
+#ifndef UMTS_HAVE_PCAP
+    GTEST_SKIP() << "sibdump is built without capture input (no libpcap)";
+#endif
+  }
+};
+
+/* The committed sample captures give the hex sample's records, each line with its frame and
+   time; the captures are what mkcaptures writes from samples/fdd_cell.bch. */
+TEST_F(Capture, SamplesGiveTheHexRecords) {
+  for (const char* name : {"fdd_cell.pcap", "fdd_cell.pcapng"}) {
+    const Outcome r = run_sibdump("'" + kSamples + "/" + name + "'");
+    EXPECT_EQ(r.status, 0) << r.err;
+    const std::vector<Line> lines = parse_lines(r.out);
+    EXPECT_EQ(records_by_block(lines), hex_records()) << name;
+    ASSERT_FALSE(lines.empty());
+    EXPECT_EQ(lines[0].head, "\"frame\":1,\"time\":\"2026-01-01T00:00:00.000000Z\",\"source\":\"127.0.0.1\",\"arfcn\":10700")
+        << name;
+    EXPECT_TRUE(has(r.err, "sibdump: cell 127.0.0.1 ARFCN 10700: 10 blocks, 0 SIBs, 10 records, 0 skipped, 0 errors"))
+        << r.err;
+    EXPECT_TRUE(has(r.err, "sibdump: 10 frames read, 10 blocks, 0 SIBs, 10 records written, 0 skipped, 0 not GSMTAP, "
+                           "0 bad frames"))
+        << r.err;
+  }
+  /* A capture on standard input, from a pipe as well. */
+  for (const std::string& how : {"< '" + kSamples + "/fdd_cell.pcapng'", "- < '" + kSamples + "/fdd_cell.pcap'"}) {
+    const Outcome r = run_sibdump(how);
+    EXPECT_EQ(r.status, 0) << how << ": " << r.err;
+    EXPECT_EQ(records_by_block(parse_lines(r.out)), hex_records()) << how;
+  }
+  const std::string piped = "cat '" + kSamples + "/fdd_cell.pcapng' | '" + kSibdump + "'";
+  FILE* p = popen(piped.c_str(), "r");
+  ASSERT_NE(p, nullptr);
+  std::string out;
+  char buf[4096];
+  for (size_t n; (n = std::fread(buf, 1, sizeof buf, p)) > 0;) out.append(buf, n);
+  EXPECT_EQ(pclose(p), 0);
+  EXPECT_EQ(records_by_block(parse_lines(out)), hex_records());
+
+  /* The MIB's block is the first, the SIB3's the fourth (at 60 ms). */
+  const std::vector<Line> lines = parse_lines(run_sibdump("'" + kSamples + "/fdd_cell.pcap'").out);
+  for (const Line& l : lines) {
+    if (l.block == "sib3") {
+      EXPECT_TRUE(has(l.head, "\"frame\":4,\"time\":\"2026-01-01T00:00:00.060000Z\"")) << l.head;
+    }
+  }
+
+  const std::string dir = temp_dir() + "/samples";
+  ASSERT_EQ(std::system(("mkdir -p '" + dir + "' && cp '" + kSamples + "/fdd_cell.bch' '" + dir + "/' && '" +
+                         kMkcaptures + "' '" + dir + "' >/dev/null")
+                            .c_str()),
+            0);
+  for (const char* name : {"/fdd_cell.pcap", "/fdd_cell.pcapng"})
+    EXPECT_EQ(read_file(dir + name), read_file(kSamples + name)) << name << ": run 'make samples'";
+}
+
+TEST_F(Capture, EveryLinkLayerInBothFormats) {
+  capture::Route v6;
+  v6.source = "fe80::1";
+  v6.destination = "fe80::2";
+  const struct {
+    Link link;
+    bool ipv6;
+    const char* name;
+  } cases[] = {
+      {Link::ethernet, false, "ethernet"}, {Link::linux_sll, false, "sll"}, {Link::linux_sll2, false, "sll2"},
+      {Link::raw_ip, false, "raw"},        {Link::ipv4, false, "ipv4"},     {Link::linux_sll2, true, "sll2_v6"},
+      {Link::raw_ip, true, "raw_v6"},      {Link::ipv6, true, "ipv6"},
+  };
+  for (const auto& c : cases) {
+    const std::vector<capture::Frame> frames = cycle_frames(c.link, c.ipv6 ? v6 : capture::Route());
+    for (bool ng : {false, true}) {
+      const std::string name = std::string(c.name) + (ng ? ".pcapng" : ".pcap");
+      const Outcome r = run_on(name, ng ? capture::pcapng_file(c.link, frames) : capture::pcap_file(c.link, frames));
+      EXPECT_EQ(r.status, 0) << name << ": " << r.err;
+      const std::vector<Line> lines = parse_lines(r.out);
+      EXPECT_EQ(records_by_block(lines), hex_records()) << name;
+      for (const Line& l : lines)
+        EXPECT_TRUE(has(l.head, c.ipv6 ? "\"source\":\"fe80::1\"" : "\"source\":\"127.0.0.1\"")) << l.head;
+    }
+  }
+  /* Other link layers are refused as a whole. */
+  const Outcome wifi = run_on("wifi.pcap", [] {
+    Bytes f = capture::pcap_file(Link::ethernet, {});
+    f[20] = 105; /* IEEE 802.11 */
+    return f;
+  }());
+  EXPECT_EQ(wifi.status, 2);
+  EXPECT_TRUE(has(wifi.err, "link-layer type 105 (IEEE802_11) is not read")) << wifi.err;
+}
+
+/* Two cells whose segments interleave frame by frame: each cell's records come whole. Cells
+   differ by ARFCN, or by sender on one ARFCN. Whole SIBs and skipped messages mix in. */
+TEST_F(Capture, CellsAreCollectedApart) {
+  capture::Route other_sender;
+  other_sender.source = "127.0.0.2";
+  const struct {
+    const char* name;
+    uint16_t arfcn_b;
+    const capture::Route* route_b;
+    const char* cell_a;
+    const char* cell_b;
+  } pairs[] = {
+      {"two_arfcns", 10713, nullptr, "\"source\":\"127.0.0.1\",\"arfcn\":10700",
+       "\"source\":\"127.0.0.1\",\"arfcn\":10713"},
+      {"two_senders", 10700, &other_sender, "\"source\":\"127.0.0.1\",\"arfcn\":10700",
+       "\"source\":\"127.0.0.2\",\"arfcn\":10700"},
+  };
+  for (const auto& p : pairs) {
+    std::vector<capture::Frame> frames;
+    uint64_t t = kT0;
+    for (const Bytes& block : sample_blocks()) {
+      frames.push_back(gsmtap_frame(Link::ethernet, t += 10000, block));
+      frames.push_back(gsmtap_frame(Link::ethernet, t += 10000, block, p.arfcn_b, gsmtap::kSubBcchBch,
+                                    p.route_b != nullptr ? *p.route_b : capture::Route()));
+    }
+    const Outcome r = run_on(std::string(p.name) + ".pcapng", capture::pcapng_file(Link::ethernet, frames));
+    EXPECT_EQ(r.status, 0) << r.err;
+    const std::vector<Line> lines = parse_lines(r.out);
+    EXPECT_EQ(lines.size(), 20u);
+    EXPECT_EQ(records_by_block(lines, p.cell_a), hex_records()) << p.name;
+    EXPECT_EQ(records_by_block(lines, p.cell_b), hex_records()) << p.name;
+  }
+
+  /* One cell through the whole-SIB sub-types, with a GSM message (type 1), a SIB16 and a DNS
+     datagram among them: the records of the --sibs path, the rest counted. */
+  const std::map<std::string, uint8_t> sub_type = {
+      {"mib", 16}, {"sib1", 17}, {"sib2", 18}, {"sib3", 19}, {"sib5", 21},  {"sib7", 24},
+      {"sib11", 28}, {"sib12", 30}, {"sib18", 53}, {"sb1", 58}, {"sb2", 59}, {"sib11bis", 29}};
+  std::vector<capture::Frame> frames;
+  uint64_t t = kT0;
+  for (const auto& sib : sample_sibs()) {
+    ASSERT_EQ(sub_type.count(sib.first), 1u) << sib.first;
+    frames.push_back(gsmtap_frame(Link::linux_sll, t += 1000, sib.second, 10700, sub_type.at(sib.first)));
+  }
+  frames.push_back(gsmtap_frame(Link::linux_sll, t += 1000, {0x01, 0x02}, 10700, 1, capture::Route(), 1));
+  frames.push_back(gsmtap_frame(Link::linux_sll, t += 1000, {0x01, 0x02}, 10700, gsmtap::kSubSib16));
+  capture::Route dns;
+  dns.destination_port = 53;
+  frames.push_back({t += 1000, capture::udp_frame(Link::linux_sll, dns, {1, 2, 3}), 0});
+  const Outcome whole = run_on("whole_sibs.pcap", capture::pcap_file(Link::linux_sll, frames));
+  EXPECT_EQ(whole.status, 0) << whole.err;
+  const Outcome by_text = run_sibdump("--sibs '" + kSamples + "/fdd_cell_sibs.txt'");
+  EXPECT_EQ(records_by_block(parse_lines(whole.out)), records_by_block(parse_lines(by_text.out)));
+  EXPECT_TRUE(has(whole.err, "ARFCN 10700: 0 blocks, 10 SIBs, 10 records, 2 skipped, 0 errors")) << whole.err;
+  EXPECT_TRUE(has(whole.err, "13 frames read, 0 blocks, 10 SIBs, 10 records written, 2 skipped, 1 not GSMTAP")) << whole.err;
+}
+
+/* What the first `count` blocks of the cycle give through the hex path. */
+std::map<std::string, std::vector<std::string>> hex_records_of_first(size_t count) {
+  std::string text;
+  for (size_t k = 0; k < count; k++) {
+    for (uint8_t b : sample_blocks()[k]) {
+      char h[3];
+      std::snprintf(h, sizeof h, "%02x", b);
+      text += h;
+    }
+    text += "\n";
+  }
+  const std::string path = temp_dir() + "/first.bch";
+  std::ofstream(path) << text;
+  return records_by_block(parse_lines(run_sibdump("'" + path + "'").out));
+}
+
+/* A capture read in this process, as sibdump reads it: the blocks converted, in order, and
+   the messages. The library's ASN.1 text is discarded meanwhile. */
+struct InProcess {
+  long frames;
+  std::vector<std::string> blocks;
+  std::string messages;
+};
+
+InProcess read_in_process(const std::string& name, Bytes file) {
+  static const char* const kBlock[umts_sib_count] = {"mib",      "sib1",  "sib2",  "sib3", "sib5", "sib7",
+                                                     "sib11",    "sib11bis", "sib12", "sib18", "sb1", "sb2"};
+  static umts_sib_set* set = static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)));
+  static FILE* discard = std::fopen("/dev/null", "w");
+  InProcess r{-1, {}, ""};
+  if (file.empty()) file.push_back(0); /* fmemopen needs a buffer */
+  FILE* in = fmemopen(file.data(), file.size(), "r");
+  char* text = nullptr;
+  size_t text_size = 0;
+  FILE* messages = open_memstream(&text, &text_size);
+  if (in == nullptr || messages == nullptr || set == nullptr || discard == nullptr) return r;
+  RecordOutput output{[&r](const std::string&) {
+                        size_t n = 0;
+                        for (int id = 0; id < umts_sib_count; id++)
+                          if ((set->presence_bitmask >> id) & 1u) r.blocks.push_back(kBlock[id]), n++;
+                        return n;
+                      },
+                      nullptr};
+  rtxPrintSetStream(discard);
+  {
+    CellFeed feed(set, output, name, "frame", messages);
+    r.frames = read_capture(in, name.c_str(), feed, messages);
+  }
+  rtxPrintFlush();
+  rtxPrintSetStream(stdout);
+  std::fclose(messages);
+  r.messages.assign(text, text_size);
+  std::free(text);
+  return r;
+}
+
+/* A capture cut at every length of its last frame: the message names frame 10 and the
+   frames before it are kept; cut at the frame's start it simply ends after frame 9. */
+TEST_F(Capture, CutAtEveryLengthOfTheLastFrame) {
+  const std::vector<capture::Frame> frames = cycle_frames(Link::ethernet);
+  const std::vector<capture::Frame> first9(frames.begin(), frames.begin() + 9);
+  /* What the first nine blocks give, through sibdump on the same blocks in hexadecimal. */
+  const auto nine = hex_records_of_first(9);
+  ASSERT_FALSE(nine.empty());
+  std::vector<std::string> nine_blocks;
+  for (const auto& b : nine) nine_blocks.insert(nine_blocks.end(), b.second.size(), b.first);
+  std::sort(nine_blocks.begin(), nine_blocks.end());
+
+  for (bool ng : {false, true}) {
+    const std::string name = ng ? "cut.pcapng" : "cut.pcap";
+    const Bytes whole = ng ? capture::pcapng_file(Link::ethernet, frames) : capture::pcap_file(Link::ethernet, frames);
+    const size_t end9 = (ng ? capture::pcapng_file(Link::ethernet, first9) : capture::pcap_file(Link::ethernet, first9)).size();
+    ASSERT_LT(end9, whole.size());
+    EXPECT_EQ(read_in_process(name, whole).blocks.size(), 10u);
+    for (size_t cut = end9; cut < whole.size(); cut++) {
+      InProcess r = read_in_process(name, Bytes(whole.begin(), whole.begin() + cut));
+      EXPECT_EQ(r.frames, 9) << name << " cut at " << cut;
+      std::sort(r.blocks.begin(), r.blocks.end());
+      EXPECT_EQ(r.blocks, nine_blocks) << name << " cut at " << cut;
+      if (cut == end9) {
+        EXPECT_EQ(r.messages, "") << cut;
+      } else {
+        EXPECT_EQ(r.messages.rfind("sibdump: " + name + ": frame 10: damaged capture, reading stops here (", 0), 0u)
+            << name << " cut at " << cut << ": " << r.messages;
+        EXPECT_TRUE(has(r.messages, "); the frames before it are kept\n")) << r.messages;
+      }
+    }
+    /* One cut through sibdump itself: the status, the message and the records. */
+    const Outcome r = run_on(name, Bytes(whole.begin(), whole.begin() + (end9 + whole.size()) / 2));
+    EXPECT_EQ(r.status, 1);
+    EXPECT_TRUE(has(r.err, name + ": frame 10: damaged capture, reading stops here (")) << r.err;
+    EXPECT_TRUE(has(r.err, "sibdump: 9 frames read, 9 blocks")) << r.err;
+    EXPECT_EQ(records_by_block(parse_lines(r.out)), nine);
+  }
+  /* A file cut inside its own header is no capture at all. */
+  const Bytes whole = capture::pcap_file(Link::ethernet, frames);
+  const Outcome header = run_on("header.pcap", Bytes(whole.begin(), whole.begin() + 10));
+  EXPECT_EQ(header.status, 2);
+  EXPECT_TRUE(has(header.err, "header.pcap: not a capture that can be read")) << header.err;
+  EXPECT_TRUE(header.out.empty());
+}
+
+/* Frames that cannot be read are reported with their number; the others are decoded. */
+TEST_F(Capture, DamagedFramesAreReportedAndSkipped) {
+  std::vector<capture::Frame> frames = cycle_frames(Link::ethernet);
+  const size_t gsmtap_at = 14 + 20 + 8;
+  /* Frame 3 (SIB1 and SIB2): GSMTAP version 1. */
+  frames[2].bytes[gsmtap_at] = 1;
+  /* Frame 11: a UDP payload of 10 octets, shorter than the GSMTAP header. */
+  frames.push_back({kT0 + 300000, capture::udp_frame(Link::ethernet, capture::Route(), Bytes(10, 0x02)), 0});
+  /* Frame 12: a frame too short for its IPv4 header. */
+  frames.push_back({kT0 + 320000, Bytes(frames[0].bytes.begin(), frames[0].bytes.begin() + 24), 0});
+  /* Frame 13: the capture kept 50 of the 89 octets. */
+  capture::Frame cut = frames[0];
+  cut.bytes.resize(50);
+  cut.on_wire = 89;
+  cut.time_us = kT0 + 340000;
+  frames.push_back(cut);
+  /* Frame 14: a transport block longer than 64 octets. */
+  frames.push_back(gsmtap_frame(Link::ethernet, kT0 + 360000, Bytes(65, 0)));
+  /* Frame 15: the MIB again, after all of that. */
+  frames.push_back(gsmtap_frame(Link::ethernet, kT0 + 380000, sample_blocks()[0]));
+
+  const Outcome r = run_on("damaged.pcap", capture::pcap_file(Link::ethernet, frames));
+  EXPECT_EQ(r.status, 1);
+  for (const char* message : {
+           "damaged.pcap: frame 3: GSMTAP version 1 (expected 2)",
+           "damaged.pcap: frame 11: UDP payload of 10 octets is shorter than the GSMTAP header (16)",
+           "damaged.pcap: frame 12: frame too short for its IPv4 header (10 octets)",
+           "damaged.pcap: frame 13: IPv4 packet of 75 octets cut to 36 (the capture kept 50 of the frame's 89 octets)",
+           "damaged.pcap: frame 14: transport block of 65 octets (ARFCN 10700): expected 1 to 64",
+           "sibdump: cell 127.0.0.1 ARFCN 10700: 10 blocks, 0 SIBs, 9 records, 0 skipped, 1 errors",
+           "sibdump: 15 frames read, 10 blocks, 0 SIBs, 9 records written, 0 skipped, 0 not GSMTAP, 5 bad frames"})
+    EXPECT_TRUE(has(r.err, message)) << message << "\n" << r.err;
+  auto expected = hex_records();
+  expected.erase("sib1");
+  expected.erase("sib2");
+  expected["mib"].push_back(expected["mib"][0]);
+  EXPECT_EQ(records_by_block(parse_lines(r.out)), expected);
+}
+
+/* ---- Live datagrams ----------------------------------------------------------------------- */
+
+struct Child {
+  pid_t pid = -1;
+  int out = -1;
+  int err = -1;
+};
+
+Child spawn_sibdump(const std::vector<std::string>& args) {
+  int out[2], err[2];
+  Child c;
+  if (pipe(out) != 0 || pipe(err) != 0) return c;
+  c.pid = fork();
+  if (c.pid == 0) {
+    dup2(out[1], 1);
+    dup2(err[1], 2);
+    close(out[0]);
+    close(err[0]);
+    std::vector<char*> argv;
+    argv.push_back(const_cast<char*>(kSibdump.c_str()));
+    for (const std::string& a : args) argv.push_back(const_cast<char*>(a.c_str()));
+    argv.push_back(nullptr);
+    execv(argv[0], argv.data());
+    _exit(127);
+  }
+  close(out[1]);
+  close(err[1]);
+  c.out = out[0];
+  c.err = err[0];
+  return c;
+}
+
+/* Reads from `fd` into `text` until `done(text)` or the time is up (60 s: a loaded machine
+   running the sanitizer tree is slow to start the tool). */
+template <class Done>
+bool read_until(int fd, std::string* text, Done done) {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+  while (!done(*text)) {
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
+    if (left.count() <= 0) return false;
+    pollfd p = {fd, POLLIN, 0};
+    if (poll(&p, 1, static_cast<int>(left.count())) <= 0) continue;
+    char buf[4096];
+    const ssize_t n = read(fd, buf, sizeof buf);
+    if (n <= 0) return done(*text);
+    text->append(buf, static_cast<size_t>(n));
+  }
+  return true;
+}
+
+/* The sample cycle in datagrams over the loopback address, a malformed one after the third:
+   the records arrive as they are decoded (before the end of the run), the bad one is named,
+   and an interruption ends the run with the counts. */
+TEST(Live, DatagramsOverLoopback) {
+  Child c = spawn_sibdump({"--udp", "127.0.0.1:0"});
+  ASSERT_GT(c.pid, 0);
+  std::string err, out;
+  ASSERT_TRUE(read_until(c.err, &err, [](const std::string& t) { return t.find(" (interrupt to stop)\n") != std::string::npos; }))
+      << err;
+  const std::string prefix = "sibdump: listening for GSMTAP on 127.0.0.1:";
+  ASSERT_EQ(err.rfind(prefix, 0), 0u) << err;
+  const int port = std::atoi(err.c_str() + prefix.size());
+  ASSERT_GT(port, 0);
+
+  const int fd = socket(AF_INET, SOCK_DGRAM, 0);
+  ASSERT_GE(fd, 0);
+  sockaddr_in to;
+  std::memset(&to, 0, sizeof to);
+  to.sin_family = AF_INET;
+  to.sin_port = htons(static_cast<uint16_t>(port));
+  to.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  auto send_datagram = [&](const Bytes& d) {
+    EXPECT_EQ(sendto(fd, d.data(), d.size(), 0, reinterpret_cast<sockaddr*>(&to), sizeof to),
+              static_cast<ssize_t>(d.size()));
+  };
+  for (size_t k = 0; k < sample_blocks().size(); k++) {
+    capture::GsmtapMessage m;
+    m.arfcn = 10700;
+    m.message = sample_blocks()[k];
+    send_datagram(capture::gsmtap_datagram(m));
+    if (k == 2) {
+      Bytes bad = capture::gsmtap_datagram(m);
+      bad[0] = 3; /* version */
+      send_datagram(bad);
+    }
+  }
+  close(fd);
+  const size_t expected_lines = 10;
+  EXPECT_TRUE(read_until(c.out, &out, [&](const std::string& t) {
+    return static_cast<size_t>(std::count(t.begin(), t.end(), '\n')) >= expected_lines;
+  })) << out;
+
+  kill(c.pid, SIGINT);
+  read_until(c.err, &err, [](const std::string&) { return false; }); /* to the end */
+  read_until(c.out, &out, [](const std::string&) { return false; });
+  int status = 0;
+  waitpid(c.pid, &status, 0);
+  close(c.out);
+  close(c.err);
+  ASSERT_TRUE(WIFEXITED(status));
+  EXPECT_EQ(WEXITSTATUS(status), 1); /* one bad datagram */
+
+  const std::vector<Line> lines = parse_lines(out);
+  EXPECT_EQ(records_by_block(lines), hex_records());
+  for (const Line& l : lines) EXPECT_TRUE(has(l.head, "\"source\":\"127.0.0.1\",\"arfcn\":10700")) << l.head;
+  const std::string where = "sibdump: udp 127.0.0.1:" + std::to_string(port) + ": datagram 4: ";
+  for (const std::string& message : {where + "GSMTAP version 3 (expected 2)", std::string("sibdump: interrupted; counts of this run:"),
+                                     std::string("sibdump: cell 127.0.0.1 ARFCN 10700: 10 blocks, 0 SIBs, 10 records, 0 skipped, 0 errors"),
+                                     std::string("sibdump: 11 datagrams read, 10 blocks, 0 SIBs, 10 records written, 0 skipped, 0 not GSMTAP, 1 bad datagrams")})
+    EXPECT_TRUE(has(err, message)) << message << "\n" << err;
+}
+
+TEST(Live, AddressErrors) {
+  for (const char* args : {"--udp nowhere", "--udp 127.0.0.1:99999", "--udp 127.0.0.1:", "--udp x.bch:1 extra"}) {
+    const Outcome r = run_sibdump(args);
+    EXPECT_EQ(r.status, 2) << args;
+    EXPECT_TRUE(r.out.empty()) << args;
+    EXPECT_FALSE(r.err.empty()) << args;
+  }
+  EXPECT_TRUE(has(run_sibdump("--udp nowhere").err, "--udp needs [ADDRESS:]PORT, not 'nowhere'"));
+  EXPECT_TRUE(has(run_sibdump("--udp --sibs").err, "--udp reads no file and no --sibs"));
+}
+
+}  // namespace

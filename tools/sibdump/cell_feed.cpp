@@ -1,0 +1,126 @@
+/*
+ * GSMTAP datagrams of several cells through the library, each cell's segments apart.
+ */
+#include "cell_feed.h"
+
+#include <time.h>
+
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+
+constexpr size_t kMaxBchOctets = 64;   /* as for hexadecimal input */
+constexpr size_t kMaxSibOctets = 2048; /* what umts_sib_msg_decoder accepts */
+
+void release_slots(umts_decoder_ctxt* ctxt) {
+  for (umts_sib_slot& slot : ctxt->slots) std::free(slot.buffer);
+  std::memset(ctxt, 0, sizeof *ctxt);
+}
+
+}  // namespace
+
+CellFeed::CellFeed(umts_sib_set* set, RecordOutput output, std::string input, const char* unit, FILE* messages)
+    : set_(set), output_(std::move(output)), input_(std::move(input)), unit_(unit), messages_(messages) {}
+
+CellFeed::~CellFeed() {
+  /* Each cell's copy owns its slot buffers; g_umts_ctxt holds none between calls. */
+  for (auto& c : cells_) release_slots(&c.second.ctxt);
+}
+
+std::string CellFeed::time_text(uint64_t time_us) {
+  const time_t seconds = static_cast<time_t>(time_us / 1000000u);
+  struct tm t;
+  gmtime_r(&seconds, &t);
+  char buf[64];
+  std::snprintf(buf, sizeof buf, "%04d-%02d-%02dT%02d:%02d:%02d.%06uZ", t.tm_year + 1900, t.tm_mon + 1, t.tm_mday,
+                t.tm_hour, t.tm_min, t.tm_sec, static_cast<unsigned>(time_us % 1000000u));
+  return buf;
+}
+
+void CellFeed::message(unsigned long number, const std::string& why) const {
+  std::fflush(stdout); /* the library's text may be going to standard error too */
+  std::fprintf(messages_, "sibdump: %s: %s %lu: %s\n", input_.c_str(), unit_, number, why.c_str());
+}
+
+void CellFeed::bad(unsigned long number, const std::string& why) {
+  message(number, why);
+  bad_++;
+}
+
+void CellFeed::datagram(unsigned long number, uint64_t time_us, const gsmtap::Datagram& d) {
+  gsmtap::Header h;
+  size_t message_at = 0;
+  std::string why;
+  if (!gsmtap::parse_header(d.payload, d.length, &h, &message_at, &why)) {
+    bad(number, why);
+    return;
+  }
+  const uint16_t arfcn = gsmtap::arfcn_number(h.arfcn);
+  Cell& cell = cells_[Key(d.source, arfcn)];
+  int sib_id = -1;
+  const gsmtap::Use use = h.type == gsmtap::kTypeUmtsRrc ? gsmtap::use_of(h.sub_type, &sib_id) : gsmtap::Use::other;
+  if (use == gsmtap::Use::other || use == gsmtap::Use::not_converted) {
+    cell.counts.skipped++;
+    return;
+  }
+  const uint8_t* data = d.payload + message_at;
+  const size_t length = d.length - message_at;
+  const bool block = use == gsmtap::Use::transport_block;
+  const size_t limit = block ? kMaxBchOctets : kMaxSibOctets;
+  if (length == 0 || length > limit) {
+    char text[160];
+    std::snprintf(text, sizeof text, "%s of %zu octets (ARFCN %u): expected 1 to %zu", block ? "transport block" : "SIB",
+                  length, static_cast<unsigned>(arfcn), limit);
+    message(number, text);
+    cell.counts.errors++;
+    return;
+  }
+  decode(cell, block, sib_id, data, length);
+  std::string head = "\"frame\":" + std::to_string(number) + ",\"time\":\"" + time_text(time_us) +
+                     "\",\"source\":\"" + d.source + "\",\"arfcn\":" + std::to_string(arfcn);
+  cell.counts.records += output_.write(head);
+  if (output_.flush) output_.flush();
+}
+
+void CellFeed::decode(Cell& cell, bool transport_block, int sib_id, const uint8_t* data, size_t length) {
+  /* The cell's slots go into the library's global for this call and come out again; the
+     global is left empty, so that every buffer has exactly one owner at any time. */
+  g_umts_ctxt = cell.ctxt;
+  set_->presence_bitmask = 0;
+  if (transport_block) {
+    cell.counts.blocks++;
+    umts_sib_decoder(data, set_, static_cast<uint32_t>(length));
+  } else {
+    cell.counts.sibs++;
+    umts_sib_msg_decoder(static_cast<umts_sib_id>(sib_id), data, set_, static_cast<uint32_t>(length));
+  }
+  cell.ctxt = g_umts_ctxt;
+  std::memset(&g_umts_ctxt, 0, sizeof g_umts_ctxt);
+}
+
+unsigned long CellFeed::cell_errors() const {
+  unsigned long n = 0;
+  for (const auto& c : cells_) n += c.second.counts.errors;
+  return n;
+}
+
+void CellFeed::summary(FILE* out, unsigned long frames) const {
+  CellCounts total;
+  for (const auto& c : cells_) {
+    const CellCounts& n = c.second.counts;
+    std::fprintf(out, "sibdump: cell %s ARFCN %u: %lu blocks, %lu SIBs, %lu records, %lu skipped, %lu errors\n",
+                 c.first.first.c_str(), static_cast<unsigned>(c.first.second), n.blocks, n.sibs, n.records, n.skipped,
+                 n.errors);
+    total.blocks += n.blocks;
+    total.sibs += n.sibs;
+    total.records += n.records;
+    total.skipped += n.skipped;
+    total.errors += n.errors;
+  }
+  std::fprintf(out,
+               "sibdump: %lu %ss read, %lu blocks, %lu SIBs, %lu records written, %lu skipped, %lu not GSMTAP, "
+               "%lu bad %ss\n",
+               frames, unit_, total.blocks, total.sibs, total.records, total.skipped, not_gsmtap_,
+               bad_ + total.errors, unit_);
+}

@@ -1,0 +1,38 @@
+/*
+ * sibdump's inputs beside hexadecimal text: pcap and pcapng captures of GSMTAP
+ * (capture_input.cpp) and GSMTAP datagrams received live over UDP (udp_input.cpp).
+ */
+#ifndef UMTS_TOOLS_SIBDUMP_INPUTS_H
+#define UMTS_TOOLS_SIBDUMP_INPUTS_H
+
+#include <stdio.h>
+
+#include "cell_feed.h"
+#include "umts_sib_decoder.h"
+
+/* The default address of --udp, where phone-to-GSMTAP bridges send. */
+#define SIBDUMP_UDP_DEFAULT "127.0.0.1:4729"
+
+/* Looks at the first octets of `in` for the magic number of a pcap or pcapng file. Returns a
+   stream that reads the same octets from the start (and closes `in` when closed, unless it
+   is standard input), or null with a message. */
+FILE* peek_input(FILE* in, const char* name, bool* is_capture);
+
+/* False when sibdump was built without libpcap. */
+bool capture_input_available();
+
+/* Hands every frame of the capture `in` (which it closes) to `feed`; the messages about the
+   capture as a whole go to `messages`. Returns the number of frames read, or -1 when the
+   capture cannot be read at all (or sibdump has no capture input). */
+long read_capture(FILE* in, const char* name, CellFeed& feed, FILE* messages);
+
+/* read_capture with the records written to `output` and the summary on standard error.
+   Returns the exit status: 0, 1 when some frames were bad or the capture was damaged, 2 when
+   it cannot be read at all. */
+int run_capture(FILE* in, const char* name, umts_sib_set* set, const RecordOutput& output);
+
+/* Listens on [ADDRESS:]PORT (null: SIBDUMP_UDP_DEFAULT) for GSMTAP datagrams until
+   interrupted (SIGINT or SIGTERM), then writes the summary. Returns the exit status. */
+int run_udp(const char* address, umts_sib_set* set, const RecordOutput& output);
+
+#endif /* UMTS_TOOLS_SIBDUMP_INPUTS_H */
