@@ -249,6 +249,8 @@ const umts_field_desc* set_field(umts_sib_id id) {
 
 }  // namespace
 
+size_t umts_sib_set_size(void) { return sizeof(umts_sib_set); }
+
 const char* umts_sib_name(umts_sib_id id) {
   const umts_field_desc* f = set_field(id);
   return f != nullptr ? f->name : nullptr;
