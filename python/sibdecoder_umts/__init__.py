@@ -252,7 +252,7 @@ def _find() -> Library:
 
 
 def _load_named(path: PathLike, what: str) -> Library:
-    target = Path(path)
+    target = Path(path).absolute()  # a bare file name is not looked up in the system's paths
     if target.is_dir():
         for candidate in _files_in(target):
             return _open(candidate)
