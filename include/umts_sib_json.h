@@ -29,6 +29,10 @@
 extern "C" {
 #endif
 
+/* sizeof(umts_sib_set): what a host without the C declarations (a binding through a foreign
+   function interface) allocates, zeroed, for the record that the entries fill. */
+size_t umts_sib_set_size(void);
+
 /* Name of the sub-record of block `id` in umts_sib_set and in the JSON: "mib", "sib1", ...
    "sb2"; null for an id of umts_sib_count or beyond. */
 const char* umts_sib_name(umts_sib_id id);

@@ -273,6 +273,8 @@ const umts_field_desc* set_field(umts_sib_id id) {
 
 }  // namespace
 
+size_t umts_sib_set_size(void) { return sizeof(umts_sib_set); }
+
 const char* umts_sib_name(umts_sib_id id) {
   static const umts_field_desc* const* fields = [] {
     static const umts_field_desc* by_id[umts_sib_count];

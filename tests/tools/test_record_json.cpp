@@ -197,6 +197,7 @@ TEST(SibJson, NamesAndIds) {
     EXPECT_EQ(umts_sib_id_of_name(names[i], std::strlen(names[i])), id);
   }
   EXPECT_EQ(umts_sib_name(umts_sib_count), nullptr);
+  EXPECT_EQ(umts_sib_set_size(), sizeof(umts_sib_set));
   EXPECT_EQ(umts_sib_id_of_name("sib11", 4), umts_sib_sib1); /* the length decides */
   EXPECT_EQ(umts_sib_id_of_name("sib4", 4), umts_sib_count);
   EXPECT_EQ(umts_sib_id_of_name("", 0), umts_sib_count);

@@ -1,0 +1,410 @@
+"""The system information of a UMTS cell, decoded by libsibdecoder_umts, as Python dicts.
+
+Standard library only: the shared library is loaded with ctypes, and every record comes from
+the library's own JSON writer (umts_sib_record_json), so that a record's dict has exactly the
+names and values of the JSON that sibdump writes.
+
+    import sibdecoder_umts as sd
+
+    dec = sd.Decoder()
+    for block in transport_blocks:            # BCH transport blocks, bytes (31 octets each)
+        for name, record in dec.feed_block(block).items():
+            print(name, record)               # e.g. "sib3" {"presence_bitmask": 1, ...}
+    sib3 = dec.decode_sib("sib3", sib3_bytes) # one whole SIB: its record
+
+The library is looked for, in this order: the path given to Decoder()/load(); the environment
+variable SIBDECODER_UMTS_LIBRARY; the build tree (<repository>/build) when the module is used
+from the source tree; the library directory of the installation that this package belongs to;
+the system's library search (ctypes.util.find_library, then the dynamic loader's own search).
+
+The library keeps the segments of each SIB in one process-wide global, so that every Decoder
+of a process (and any other user of the same library file) shares the collection of segments;
+a Decoder holds only its own result record. Calls into a library are serialised by a lock.
+
+The library prints each decoded value as ASN.1 text through its print stream; the module sends
+that text to os.devnull when it loads a library, as sibdump does (set_asn1_text() chooses
+another file, or None for standard output). Its few messages about bad transport blocks
+("No system info provided", ...) still go to the process's standard output; its log
+(set_log_level()) goes to standard error.
+"""
+from __future__ import annotations
+
+import ctypes
+import ctypes.util
+import json
+import os
+import threading
+from pathlib import Path
+from typing import Dict, Iterable, Iterator, Optional, Tuple, Union
+
+__all__ = [
+    "Decoder", "Library", "SibDecodeError", "LibraryNotFoundError", "load", "library_path",
+    "sib_names", "decode_sib", "decode_blocks", "set_asn1_text", "set_log_level",
+    "LIBRARY_ENV", "MAX_BLOCK_OCTETS", "MAX_SIB_OCTETS",
+]
+
+#: Environment variable naming the shared library to load (a file, or a directory holding it).
+LIBRARY_ENV = "SIBDECODER_UMTS_LIBRARY"
+#: The longest transport block accepted, as by sibdump (a BCCH-BCH-Message has 31 octets).
+MAX_BLOCK_OCTETS = 64
+#: The longest whole SIB that umts_sib_msg_decoder accepts.
+MAX_SIB_OCTETS = 2048
+
+_FILE_NAME = "libsibdecoder_umts.so"
+_JSON_START = 1 << 16
+
+PathLike = Union[str, "os.PathLike[str]"]
+Record = Dict[str, object]
+
+
+class LibraryNotFoundError(OSError):
+    """No usable libsibdecoder_umts was found, or the one named cannot be loaded."""
+
+
+class SibDecodeError(Exception):
+    """The library returned a failure status for a transport block or a whole SIB.
+
+    status:  the entry's return value (0)
+    entry:   "umts_sib_decoder" or "umts_sib_msg_decoder"
+    block:   the name of the SIB handed in (whole SIBs), else None
+    records: the blocks that the call converted all the same, name -> record; nothing that
+             the library converted is lost with the exception
+    """
+
+    def __init__(self, message: str, *, status: int, entry: str, block: Optional[str] = None,
+                 records: Optional[Dict[str, Record]] = None):
+        super().__init__(message)
+        self.status = status
+        self.entry = entry
+        self.block = block
+        self.records = records if records is not None else {}
+
+
+# ---- The shared library ---------------------------------------------------------------------
+
+class _DlInfo(ctypes.Structure):
+    _fields_ = [("dli_fname", ctypes.c_char_p), ("dli_fbase", ctypes.c_void_p),
+                ("dli_sname", ctypes.c_char_p), ("dli_saddr", ctypes.c_void_p)]
+
+
+def _libc():
+    libc = ctypes.CDLL(None, use_errno=True)
+    libc.fopen.restype = ctypes.c_void_p
+    libc.fopen.argtypes = [ctypes.c_char_p, ctypes.c_char_p]
+    libc.fclose.argtypes = [ctypes.c_void_p]
+    return libc
+
+
+def _file_of(function, fallback: str) -> str:
+    """The file that the dynamic loader took `function` from (the name given may be bare)."""
+    try:
+        dladdr = ctypes.CDLL(None).dladdr
+    except AttributeError:
+        return fallback
+    info = _DlInfo()
+    address = ctypes.cast(function, ctypes.c_void_p)
+    if dladdr(address, ctypes.byref(info)) and info.dli_fname:
+        return os.path.realpath(os.fsdecode(info.dli_fname))
+    return fallback
+
+
+class Library:
+    """One loaded libsibdecoder_umts: the functions that the module calls, typed for ctypes.
+
+    Attributes: path (the file loaded), names (the blocks of umts_sib_set by slot, "mib" to
+    "sb2"), set_size (bytes of umts_sib_set).
+    """
+
+    def __init__(self, path: PathLike):
+        try:
+            dll = ctypes.CDLL(os.fspath(path))
+        except OSError as err:
+            raise LibraryNotFoundError(f"cannot load libsibdecoder_umts from {os.fspath(path)}: {err}") from None
+        needed = ("umts_sib_decoder", "umts_sib_msg_decoder", "umts_sib_set_size", "umts_sib_name",
+                  "umts_sib_id_of_name", "umts_sib_record_json", "rtxPrintSetStream")
+        missing = [name for name in needed if not hasattr(dll, name)]
+        if missing:
+            raise LibraryNotFoundError(
+                f"{os.fspath(path)} lacks {', '.join(missing)}: not a libsibdecoder_umts of this version")
+        u8p, setp, size_t = ctypes.c_char_p, ctypes.c_void_p, ctypes.c_size_t
+        dll.umts_sib_decoder.restype = ctypes.c_uint8
+        dll.umts_sib_decoder.argtypes = [u8p, setp, ctypes.c_uint32]
+        dll.umts_sib_msg_decoder.restype = ctypes.c_uint8
+        dll.umts_sib_msg_decoder.argtypes = [ctypes.c_int, u8p, setp, ctypes.c_uint32]
+        dll.umts_sib_set_size.restype = size_t
+        dll.umts_sib_set_size.argtypes = []
+        dll.umts_sib_name.restype = ctypes.c_char_p
+        dll.umts_sib_name.argtypes = [ctypes.c_int]
+        dll.umts_sib_id_of_name.restype = ctypes.c_int
+        dll.umts_sib_id_of_name.argtypes = [ctypes.c_char_p, size_t]
+        dll.umts_sib_record_json.restype = size_t
+        dll.umts_sib_record_json.argtypes = [setp, ctypes.c_int, ctypes.c_char_p, size_t]
+        dll.rtxPrintSetStream.restype = None
+        dll.rtxPrintSetStream.argtypes = [ctypes.c_void_p]
+        self._dll = dll
+        self.path = _file_of(dll.umts_sib_decoder, os.fspath(path))
+        self.set_size = int(dll.umts_sib_set_size())
+        names = []
+        while True:
+            name = dll.umts_sib_name(len(names))
+            if name is None:
+                break
+            names.append(name.decode("ascii"))
+        self.names: Tuple[str, ...] = tuple(names)
+        self.lock = threading.RLock()
+        self._libc = _libc()
+        self._print_file: Optional[int] = None
+        self.set_asn1_text(os.devnull)
+
+    def __repr__(self) -> str:
+        return f"<sibdecoder_umts.Library {self.path}>"
+
+    def sib_id(self, sib: Union[str, int]) -> int:
+        """The slot of a block given by its name ("sib3") or its number (umts_sib_id)."""
+        if isinstance(sib, str):
+            raw = sib.encode("ascii", "replace")
+            sib_id = self._dll.umts_sib_id_of_name(raw, len(raw))
+            if sib_id >= len(self.names):
+                raise ValueError(f"unknown SIB name {sib!r} (expected one of {', '.join(self.names)})")
+            return sib_id
+        if isinstance(sib, int) and not isinstance(sib, bool):
+            if not 0 <= sib < len(self.names):
+                raise ValueError(f"SIB number {sib} is outside 0 to {len(self.names) - 1}")
+            return sib
+        raise TypeError(f"a SIB is a name or a number, not {type(sib).__name__}")
+
+    def set_asn1_text(self, path: Optional[PathLike]) -> None:
+        """Where the library's ASN.1 text goes: a file (truncated; os.devnull discards it, the
+        module's choice at load time), or None for the process's standard output."""
+        stream = None
+        if path is not None:
+            stream = self._libc.fopen(os.fsencode(path), b"w")
+            if not stream:
+                err = ctypes.get_errno()
+                raise OSError(err, f"cannot open for the ASN.1 text: {os.strerror(err)}", os.fspath(path))
+        with self.lock:
+            self._dll.rtxPrintSetStream(stream)  # writes out what was gathered for the old stream
+            old, self._print_file = self._print_file, stream
+        if old:
+            self._libc.fclose(old)
+
+    @property
+    def log_level(self) -> int:
+        """zvtLogLevelThreshold: above 1 the library logs errors, above 5 also traces."""
+        return ctypes.c_uint.in_dll(self._dll, "zvtLogLevelThreshold").value
+
+    @log_level.setter
+    def log_level(self, level: int) -> None:
+        ctypes.c_uint.in_dll(self._dll, "zvtLogLevelThreshold").value = level
+
+
+_loaded: Dict[str, Library] = {}
+_default: Optional[Library] = None
+_load_lock = threading.Lock()
+
+
+def _files_in(directory: Path) -> Iterator[Path]:
+    """The library files of a directory: the plain name first, then the versioned ones."""
+    plain = directory / _FILE_NAME
+    if plain.is_file():
+        yield plain
+    yield from sorted(p for p in directory.glob(_FILE_NAME + ".*") if p.is_file())
+
+
+def _places() -> Iterator[Tuple[str, Path]]:
+    """The build tree and the installation of this package, as (what, directory)."""
+    package = Path(__file__).resolve().parent
+    if package.parent.name == "python":
+        yield "the build tree", package.parent.parent / "build"
+    try:
+        from . import _install  # written by `cmake --install`
+    except ImportError:
+        return
+    yield "the installation", (package / _install.LIBRARY_DIR).resolve()
+
+
+def _open(path: PathLike) -> Library:
+    key = os.path.realpath(os.fspath(path))
+    if key not in _loaded:
+        _loaded[key] = Library(path)
+    return _loaded[key]
+
+
+def _find() -> Library:
+    tried = []
+    named = os.environ.get(LIBRARY_ENV)
+    if named:
+        return _load_named(named, f"${LIBRARY_ENV}")
+    for what, directory in _places():
+        for candidate in _files_in(directory):
+            return _open(candidate)
+        tried.append(f"{what} ({directory})")
+    for name in (ctypes.util.find_library("sibdecoder_umts"), _FILE_NAME):
+        if name:
+            try:
+                return _open(name)
+            except LibraryNotFoundError:
+                pass
+    tried.append("the system's library search")
+    raise LibraryNotFoundError(
+        f"libsibdecoder_umts not found in {', '.join(tried)}: build it (cmake --build build), "
+        f"install it, or name it in {LIBRARY_ENV}")
+
+
+def _load_named(path: PathLike, what: str) -> Library:
+    target = Path(path).absolute()  # a bare file name is not looked up in the system's paths
+    if target.is_dir():
+        for candidate in _files_in(target):
+            return _open(candidate)
+        raise LibraryNotFoundError(f"no {_FILE_NAME} in the directory {target} ({what})")
+    if not target.exists():
+        raise LibraryNotFoundError(f"no such library: {target} ({what})")
+    return _open(target)
+
+
+def load(path: Optional[Union[PathLike, Library]] = None) -> Library:
+    """The library at `path` (a file or a directory holding it), or the module's default one,
+    found as the module's documentation says and kept for the process."""
+    global _default
+    if isinstance(path, Library):
+        return path
+    with _load_lock:
+        if path is not None:
+            return _load_named(path, "the path given")
+        if _default is None:
+            _default = _find()
+        return _default
+
+
+def library_path() -> str:
+    """The file of the library that the module uses by default."""
+    return load().path
+
+
+def sib_names() -> Tuple[str, ...]:
+    """The blocks that the library converts, by slot: "mib", "sib1", ... "sb2"."""
+    return load().names
+
+
+def set_asn1_text(path: Optional[PathLike]) -> None:
+    """Where the default library writes its ASN.1 text (see Library.set_asn1_text)."""
+    load().set_asn1_text(path)
+
+
+def set_log_level(level: int) -> None:
+    """The default library's log threshold: above 1 errors, above 5 traces (standard error)."""
+    load().log_level = level
+
+
+# ---- Decoding -------------------------------------------------------------------------------
+
+def _octets(data, limit: int, what: str) -> bytes:
+    if isinstance(data, str):
+        raise TypeError(f"{what} must be bytes, not str (bytes.fromhex() reads hexadecimal text)")
+    try:
+        data = bytes(memoryview(data))
+    except TypeError:
+        raise TypeError(f"{what} must be a bytes-like object, not {type(data).__name__}") from None
+    if not data:
+        raise ValueError(f"{what} is empty")
+    if len(data) > limit:
+        raise ValueError(f"{what} of {len(data)} octets is longer than {limit}")
+    return data
+
+
+class Decoder:
+    """One result record (umts_sib_set) of a library, filled by transport blocks or whole SIBs.
+
+    The record is large (the fixed arrays of SIB5 above all): make one Decoder and
+    keep it. Segments are collected in the library, shared by every Decoder of the process.
+    """
+
+    def __init__(self, library: Optional[Union[PathLike, Library]] = None):
+        self.library = load(library)
+        self._set = (ctypes.c_char * self.library.set_size)()
+        self._set_address = ctypes.addressof(self._set)
+        self._presence = ctypes.c_uint16.from_buffer(self._set)
+        self._json = ctypes.create_string_buffer(_JSON_START)
+        #: What the last call of an entry returned (1 success, 0 failure).
+        self.last_status: Optional[int] = None
+
+    def feed_block(self, block, *, strict: bool = True) -> Dict[str, Record]:
+        """Hands one BCH transport block to umts_sib_decoder; returns the blocks that this call
+        converted, name -> record, in slot order.
+
+        A status of 0 (a block that cannot be decoded, a segment that does not continue the
+        SIB being collected, a conversion that failed) raises SibDecodeError, which carries
+        the blocks converted all the same; with strict=False they are returned instead.
+        """
+        data = _octets(block, MAX_BLOCK_OCTETS, "a transport block")
+        lib = self.library
+        with lib.lock:
+            self._presence.value = 0  # this entry adds its blocks to the word; the call's only
+            status = lib._dll.umts_sib_decoder(data, self._set_address, len(data))
+            self.last_status = status
+            records = self.records()
+        if status != 1 and strict:
+            raise SibDecodeError(
+                f"umts_sib_decoder returned {status} for a transport block of {len(data)} octets "
+                f"({data[:8].hex()}{'...' if len(data) > 8 else ''}): it cannot be decoded, or its "
+                f"segment does not continue the SIB being collected, or a SIB that it completed "
+                f"failed to convert (converted all the same: {', '.join(records) or 'none'})",
+                status=status, entry="umts_sib_decoder", records=records)
+        return records
+
+    def decode_sib(self, sib: Union[str, int], data) -> Record:
+        """Hands one whole SIB (by name, e.g. "sib3", or slot number) to umts_sib_msg_decoder;
+        returns its record. A failure raises SibDecodeError."""
+        lib = self.library
+        sib_id = lib.sib_id(sib)
+        name = lib.names[sib_id]
+        octets = _octets(data, MAX_SIB_OCTETS, f"the {name} SIB")
+        with lib.lock:
+            status = lib._dll.umts_sib_msg_decoder(sib_id, octets, self._set_address, len(octets))
+            self.last_status = status
+            records = self.records()
+        if status != 1 or name not in records:
+            raise SibDecodeError(
+                f"umts_sib_msg_decoder returned {status} for {name} ({len(octets)} octets): it "
+                f"cannot be decoded as {name}, or a conversion failed (converted all the same: "
+                f"{', '.join(records) or 'none'})",
+                status=status, entry="umts_sib_msg_decoder", block=name, records=records)
+        return records[name]
+
+    def records(self) -> Dict[str, Record]:
+        """The blocks that the last call converted (their bits in presence_bitmask)."""
+        present = self._presence.value
+        return {name: self.record(i) for i, name in enumerate(self.library.names) if present >> i & 1}
+
+    def record(self, sib: Union[str, int]) -> Record:
+        """The record of a block as it stands in the result, whether or not the last call
+        converted it (a record stays until its block is converted again)."""
+        sib_id = self.library.sib_id(sib)
+        write = self.library._dll.umts_sib_record_json
+        with self.library.lock:
+            need = write(self._set_address, sib_id, self._json, len(self._json))
+            if need >= len(self._json):
+                self._json = ctypes.create_string_buffer(need + 1)
+                need = write(self._set_address, sib_id, self._json, len(self._json))
+            return json.loads(ctypes.string_at(self._json, need))
+
+
+_shared: Optional[Decoder] = None
+
+
+def decode_sib(sib: Union[str, int], data) -> Record:
+    """One whole SIB through a Decoder that the module keeps: the SIB's record."""
+    global _shared
+    if _shared is None:
+        _shared = Decoder()
+    return _shared.decode_sib(sib, data)
+
+
+def decode_blocks(blocks: Iterable, *, strict: bool = True,
+                  library: Optional[Union[PathLike, Library]] = None) -> Iterator[Tuple[int, str, Record]]:
+    """Transport blocks in order through one Decoder: (index of the block, name, record) for
+    every block converted. With strict=False a failure status skips to the next block."""
+    decoder = Decoder(library)
+    for index, block in enumerate(blocks):
+        for name, record in decoder.feed_block(block, strict=strict).items():
+            yield index, name, record
