@@ -121,7 +121,7 @@ class Library:
         except OSError as err:
             raise LibraryNotFoundError(f"cannot load libsibdecoder_umts from {os.fspath(path)}: {err}") from None
         needed = ("umts_sib_decoder", "umts_sib_msg_decoder", "umts_sib_set_size", "umts_sib_name",
-                  "umts_sib_id_of_name", "umts_sib_record_json", "rtxPrintSetStream")
+                  "umts_sib_id_of_name", "umts_sib_record_json", "umts_sib_print_to")
         missing = [name for name in needed if not hasattr(dll, name)]
         if missing:
             raise LibraryNotFoundError(
@@ -139,8 +139,8 @@ class Library:
         dll.umts_sib_id_of_name.argtypes = [ctypes.c_char_p, size_t]
         dll.umts_sib_record_json.restype = size_t
         dll.umts_sib_record_json.argtypes = [setp, ctypes.c_int, ctypes.c_char_p, size_t]
-        dll.rtxPrintSetStream.restype = None
-        dll.rtxPrintSetStream.argtypes = [ctypes.c_void_p]
+        dll.umts_sib_print_to.restype = None
+        dll.umts_sib_print_to.argtypes = [ctypes.c_void_p]
         self._dll = dll
         self.path = _file_of(dll.umts_sib_decoder, os.fspath(path))
         self.set_size = int(dll.umts_sib_set_size())
@@ -174,16 +174,22 @@ class Library:
         raise TypeError(f"a SIB is a name or a number, not {type(sib).__name__}")
 
     def set_asn1_text(self, path: Optional[PathLike]) -> None:
-        """Where the library's ASN.1 text goes: a file (truncated; os.devnull discards it, the
-        module's choice at load time), or None for the process's standard output."""
-        stream = None
-        if path is not None:
+        """Where the library's ASN.1 text goes: a file (truncated), os.devnull (the text is
+        switched off and the library formats none: the module's choice at load time), or None
+        for the process's standard output."""
+        stream = None  # a stream of the module's own, closed when another is chosen
+        if path is None:
+            target = ctypes.c_void_p.in_dll(self._libc, "stdout").value
+        elif os.fspath(path) == os.devnull:
+            target = None  # the library then formats no text at all
+        else:
             stream = self._libc.fopen(os.fsencode(path), b"w")
             if not stream:
                 err = ctypes.get_errno()
                 raise OSError(err, f"cannot open for the ASN.1 text: {os.strerror(err)}", os.fspath(path))
+            target = stream
         with self.lock:
-            self._dll.rtxPrintSetStream(stream)  # writes out what was gathered for the old stream
+            self._dll.umts_sib_print_to(target)  # writes out what was gathered for the old stream
             old, self._print_file = self._print_file, stream
         if old:
             self._libc.fclose(old)
