@@ -50,6 +50,10 @@ void convert_value_tag_info(const ValueTagInfo* src, umts_value_tag_info* dst);
 void convert_sib_occurrence_identity_value_tag(const SIBOccurrenceIdentityAndValueTag* src,
                                                umts_sib_occurrence_identity_and_value_tag* dst);
 
+/* PrimaryCCPCH-Info, shared by SIB5 and the measurement records. An unknown tag is kept with
+   an empty union. */
+void convert_primary_ccpch_info(const PrimaryCCPCH_Info* src, umts_primary_ccpch_info* dst);
+
 /* Extension SIB types: the tag of the decoded alternative. */
 void convert_sib_type_ext(const SIB_TypeExt* src, uint32_t* dst);
 void convert_sib_type_ext2(const SIB_TypeExt2* src, uint32_t* dst);
