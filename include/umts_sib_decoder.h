@@ -101,6 +101,17 @@ uint8_t umts_sib_decoder(const uint8_t* data, umts_sib_set* result, uint32_t len
    result->presence_bitmask first; returns 1 when every conversion that ran succeeded. */
 uint8_t umts_sib_msg_decoder(umts_sib_id sib_id, const uint8_t* data, umts_sib_set* result, uint32_t length);
 
+/* ---- Result sets allocated by the library ------------------------------------------- */
+
+/* A zeroed umts_sib_set in whole pages of its own, or null when memory is short. The caller
+   may equally allocate the set itself; the records read the same either way. In a set from
+   here a conversion clears its sub-record by handing the record's whole pages back to the
+   system, which gives them back zeroed when they are next touched, instead of writing zeros
+   over megabytes; only the partial pages at the record's edges are written. */
+umts_sib_set* umts_sib_set_alloc(void);
+/* Releases a set of umts_sib_set_alloc; null is ignored. */
+void umts_sib_set_free(umts_sib_set* set);
+
 /* ---- Driver -------------------------------------------------------------------------- */
 
 /* Runs the conversions requested in g_umts_ctxt, MIB first; 0 at the first failure. */

@@ -335,8 +335,9 @@ int main(int argc, char** argv) {
     input_name = opt.input;
   }
 
-  /* The result record is large (fixed arrays of SIB5): one, zeroed, for the whole run. */
-  umts_sib_set* set = static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)));
+  /* The result record is large (fixed arrays of SIB5): one for the whole run, from the library,
+     whose conversions clear it by handing its pages back rather than writing zeros. */
+  umts_sib_set* set = umts_sib_set_alloc();
   if (set == nullptr) {
     std::fprintf(stderr, "sibdump: out of memory\n");
     if (in != stdin) std::fclose(in);
@@ -344,7 +345,7 @@ int main(int argc, char** argv) {
   }
   FILE* json = split_stdout(opt.asn1_text);
   if (json == nullptr) {
-    std::free(set);
+    umts_sib_set_free(set);
     if (in != stdin) std::fclose(in);
     return 2;
   }
@@ -367,7 +368,7 @@ int main(int argc, char** argv) {
   rtxPrintFlush();
   std::fflush(stdout);
   const bool write_error = std::fclose(json) != 0;
-  std::free(set);
+  umts_sib_set_free(set);
 
   std::fprintf(stderr, "sibdump: %lu %s read, %lu records written, %lu bad lines\n", d.counts.blocks,
                opt.sibs ? "SIBs" : "blocks", d.counts.records, d.counts.bad);
