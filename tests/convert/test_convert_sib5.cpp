@@ -884,6 +884,19 @@ TEST(ConvertPrach, TddAlternativesAndBitStrings) {
   EXPECT_EQ(rflat.u.tdd.prach_Midamble, 1u);
 }
 
+// An unknown modeSpecificInfo tag of SIB5 is kept with an all-zero union; no message.
+TEST(ConvertSib5Top, UnknownModeTagIsKeptAlone) {
+  SysInfoType5_modeSpecificInfo_fdd fdd{-3};
+  SysInfoType5_modeSpecificInfo mode{};
+  mode.t = 3;
+  mode.u.fdd = &fdd;
+  umts_sib5_mode_specific_info flat{};
+  const std::string out = captureStdout([&] { convert_sib_type_5_mode_specific_info(&mode, &flat); });
+  EXPECT_EQ(flat.choice_tag, 3u);
+  EXPECT_TRUE(allZero(flat.u));
+  EXPECT_EQ(out, "");
+}
+
 TEST(ConvertPrimaryCcpch, TddSyncCases) {
   PrimaryCCPCH_Info_tdd tdd{};
   PrimaryCCPCH_Info_tdd_syncCase_syncCase2 sync2{130};
