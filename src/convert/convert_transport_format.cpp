@@ -90,8 +90,9 @@ void convert_common_dynamic_tf_info_list(const CommonDynamicTF_InfoList* src, um
   });
 }
 
-/* The dynamic list of a common set. Every element is converted into entries[0], which so ends
-   with the last one, while `count` holds them all. The walk goes on while the list has
+/* The dynamic list of a common set. Every element is converted into entries[0], over the one
+   before it (what an earlier element wrote and a later one does not write stays), so that it
+   ends with the last one while `count` holds them all. The walk goes on while the list has
    nodes: the continuation words that the system once read lay past the list header, outside
    the decoded value, and are not read. */
 void convert_common_dynamic_tf_info_list_dynamic_tti(const CommonDynamicTF_InfoList_DynamicTTI* src,
@@ -99,7 +100,6 @@ void convert_common_dynamic_tf_info_list_dynamic_tti(const CommonDynamicTF_InfoL
   dst->count = static_cast<uint8_t>(src->count);
   umts_common_dynamic_tf_info_dynamic_tti* out = &dst->entries[0];
   umts_for_each_node<CommonDynamicTF_Info_DynamicTTI>(src, 32u, [out](const CommonDynamicTF_Info_DynamicTTI* entry, uint32_t) {
-    *out = umts_common_dynamic_tf_info_dynamic_tti{};
     convert_commmon_dynamic_tf_ino_common_tdd_choice(&entry->commonTDD_Choice, &out->commonTDD_Choice);
     convert_number_of_tb_size_n_tti_list(&entry->numberOfTbSizeAndTTIList, &out->numberOfTbSizeAndTTIList);
     convert_logical_channel_list(&entry->logicalChannelList, &out->logicalChannelList);

@@ -672,6 +672,10 @@ TEST(ConvertTransportFormat, DynamicListsAndTheCommonTddTag) {
   NumberOfTbSizeAndTTIList_element tti[3]{};
   rtxDListNode nodes[6]{};
   CommonDynamicTF_InfoList_DynamicTTI list{};
+  NumberOfTbSizeAndTTIList_element firstsSecond{};
+  firstsSecond.numberOfTransportBlocks.t = 3;
+  firstsSecond.numberOfTransportBlocks.u.small = 17;
+  rtxDListNode extra{};
   for (int i = 0; i < 3; i++) {
     sizes[i].t = 1;
     sizes[i].u.sizeType1 = static_cast<uint8_t>(40 + i);
@@ -681,6 +685,7 @@ TEST(ConvertTransportFormat, DynamicListsAndTheCommonTddTag) {
     tti[i].numberOfTransportBlocks.u.large = static_cast<uint16_t>(500 + i);
     tti[i].transmissionTimeInterval = static_cast<uint32_t>(i);
     append(elements[i].numberOfTbSizeAndTTIList, nodes[3 + i], tti[i]);
+    if (i == 0) append(elements[i].numberOfTbSizeAndTTIList, extra, firstsSecond);
     elements[i].logicalChannelList.t = 1;
     append(list, nodes[i], elements[i]);
   }
@@ -693,6 +698,8 @@ TEST(ConvertTransportFormat, DynamicListsAndTheCommonTddTag) {
   ASSERT_EQ(e.numberOfTbSizeAndTTIList.count, 1);
   EXPECT_EQ(e.numberOfTbSizeAndTTIList.entries[0].numberOfTransportBlocks.u.large, 502);
   EXPECT_EQ(e.numberOfTbSizeAndTTIList.entries[0].transmissionTimeInterval, 2u);
+  // Written over the first element: its second block count stays beyond the last's count.
+  EXPECT_EQ(e.numberOfTbSizeAndTTIList.entries[1].numberOfTransportBlocks.u.small, 17);
   EXPECT_TRUE(allZero(flat->entries[1]));
   EXPECT_TRUE(allZero(flat->entries[2]));
 
