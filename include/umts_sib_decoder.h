@@ -60,8 +60,9 @@ typedef struct umts_decoder_ctxt {
 /* The library's one global: zero at load, never reset as a whole. */
 extern umts_decoder_ctxt g_umts_ctxt;
 
-/* The caller's result. It holds no pointers; the library keeps none to it. It is large
-   (the SIB5 record has long fixed arrays): allocate it once and pass it by pointer. */
+/* The caller's result. It holds no pointers; the library keeps none to it (it notes only the
+   address range of a set from umts_sib_set_alloc). It is large (the SIB5 record has long
+   fixed arrays): allocate it once and pass it by pointer. */
 #define umts_sib_set_FIELDS(F)                                          \
   F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)              \
   F(RECORD, umts_mib_info, mib, 1, 0, _)                                \
