@@ -340,6 +340,7 @@ void convert_sysinfotype5_v650ext_ies(const SysInfoType5_v650ext_IEs* src, umts_
 void convert_sysinfotype5_v680ext_ies(const SysInfoType5_v680ext_IEs* src, umts_sib5_v680ext* dst);
 void convert_sysinfotype5_v690ext_ies(const SysInfoType5_v690ext_IEs* src, umts_sib5_v690ext* dst);
 void convert_sysinfotype5_v770ext_ies(const SysInfoType5_v770ext_IEs* src, umts_sib5_v770ext* dst);
+void convert_tdd_mbsfn_information(const TDD_MBSFNInformation* src, umts_tdd_mbsfn_information* dst);
 void convert_sysinfotype5_v860ext_ies(const SysInfoType5_v860ext_IEs* src, umts_sib5_v860ext* dst);
 void convert_sysinfotype5_v890ext_ies(const SysInfoType5_v890ext_IEs* src, umts_sib5_v890ext* dst);
 void convert_sysinfotype5_v8b0ext_ies(const SysInfoType5_v8b0ext_IEs* src, umts_sib5_v8b0ext* dst);

@@ -708,10 +708,18 @@
 #define umts_sib5_v770_mode_specific_info_FIELDS(F) UMTS_SIB5_RESERVED_RECORD_FIELDS(F)
 #define umts_sccpch_system_information_list_hcr_vhcr_r7_FIELDS(F) UMTS_SIB5_RESERVED_LIST_FIELDS(F)
 #define umts_sccpch_system_information_mbms_r7_FIELDS(F) UMTS_SIB5_RESERVED_RECORD_FIELDS(F)
-#define umts_tdd_mbsfn_information_FIELDS(F) UMTS_SIB5_RESERVED_LIST_FIELDS(F)
 #define umts_sib5_v860_mode_specific_info_FIELDS(F) UMTS_SIB5_RESERVED_RECORD_FIELDS(F)
 #define umts_common_edch_system_info_FIELDS(F) UMTS_SIB5_RESERVED_RECORD_FIELDS(F)
 #define umts_common_edch_system_info_fdd_FIELDS(F) UMTS_SIB5_RESERVED_RECORD_FIELDS(F)
+
+/* TDD-MBSFNInformation: a count, then the pairs packed right after it. */
+#define umts_tdd_mbsfn_tslot_info_FIELDS(F)               \
+  F(SCALAR, uint8_t, timeSlotNumber, 1, UMTS_ALWAYS, _)   \
+  F(SCALAR, uint8_t, cellParametersID, 1, UMTS_ALWAYS, _)
+
+#define umts_tdd_mbsfn_information_FIELDS(F)                          \
+  F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)                        \
+  F(ARRAY, umts_tdd_mbsfn_tslot_info, entries, 14, UMTS_ALWAYS, count)
 
 #define umts_sib5_mode_specific_info_fdd_FIELDS(F) F(SCALAR, int8_t, aich_PowerOffset, 1, UMTS_ALWAYS, _)
 
@@ -987,6 +995,7 @@
   X(RECORD, umts_sib5_v770_mode_specific_info)                   \
   X(RECORD, umts_sccpch_system_information_list_hcr_vhcr_r7)     \
   X(RECORD, umts_sccpch_system_information_mbms_r7)              \
+  X(RECORD, umts_tdd_mbsfn_tslot_info)                           \
   X(RECORD, umts_tdd_mbsfn_information)                          \
   X(RECORD, umts_sib5_v860_mode_specific_info)                   \
   X(RECORD, umts_common_edch_system_info)                        \

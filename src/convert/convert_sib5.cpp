@@ -11,6 +11,7 @@
 
 #include "../frame/sib_set_alloc.h"
 #include "convert_frame.h"
+#include "convert_list.h"
 #include "umts_sib_convert.h"
 
 namespace {
@@ -210,7 +211,16 @@ void convert_sysinfotype5_v690ext_ies(const SysInfoType5_v690ext_IEs* src, umts_
 }
 
 void convert_sysinfotype5_v770ext_ies(const SysInfoType5_v770ext_IEs* src, umts_sib5_v770ext* dst) {
-  dst->presence_bitmask |= static_cast<uint16_t>(src->m & 0x0Fu);
+  dst->presence_bitmask |= static_cast<uint16_t>(src->m & 0x07u); /* mode part, HCR/VHCR list, MBMS */
+  UMTS_CONVERT_OPTIONAL(src, dst, 8u, convert_tdd_mbsfn_information, tDD_MBSFNInformation);
+}
+
+void convert_tdd_mbsfn_information(const TDD_MBSFNInformation* src, umts_tdd_mbsfn_information* dst) {
+  dst->count = static_cast<uint8_t>(src->count);
+  umts_for_each_node<TDD_MBSFNTSlotInfo>(src, 14u, [dst](const TDD_MBSFNTSlotInfo* entry, uint32_t i) {
+    dst->entries[i].timeSlotNumber = entry->timeSlotNumber;
+    dst->entries[i].cellParametersID = entry->cellParametersID;
+  });
 }
 
 void convert_sysinfotype5_v860ext_ies(const SysInfoType5_v860ext_IEs* src, umts_sib5_v860ext* dst) {

@@ -426,6 +426,13 @@ TEST_F(ConvertSib5, ChainCutAtEachLevel) {
     builder.v690().sysInfoType5_v690ext.m = 9;
     builder.v690().sysInfoType5_v690ext.edch_CellIndicator = 0;
     builder.v690().sysInfoType5_v690ext.cBS_DRX_Level1Information_extension = 3;
+    TDD_MBSFNTSlotInfo slots[14];
+    rtxDListNode slotNodes[14];
+    for (uint8_t i = 0; i < 14; i++) {
+      slots[i] = {static_cast<uint8_t>(i), static_cast<uint8_t>(100 + i)};
+      append(builder.v770().sysInfoType5_v770ext.tDD_MBSFNInformation, slotNodes[i], slots[i]);
+    }
+    builder.v770().sysInfoType5_v770ext.m = 8;
     builder.v890().sysInfoType5_v890ext.m = 1;
     builder.v890().sysInfoType5_v890ext.secondFrequencyInfo.uarfcn_Nt = 16383;
     builder.v8b0().sysInfoType5_v8b0ext.m = 3;
@@ -458,6 +465,11 @@ TEST_F(ConvertSib5, ChainCutAtEachLevel) {
     // v690 is filled when its level is there, whether v770 follows or not.
     EXPECT_EQ(l5.sysInfoType5_v690ext.presence_bitmask, depth >= 5 ? 9 : 0);
     EXPECT_EQ(l5.sysInfoType5_v690ext.cBS_DRX_Level1Information_extension, depth >= 5 ? 3u : 0u);
+    // The MBSFN time slots at their bound, packed pairs.
+    const umts_tdd_mbsfn_information& mbsfn = l5.v770NonCriticalExtensions.sysInfoType5_v770ext.tDD_MBSFNInformation;
+    EXPECT_EQ(mbsfn.count, depth >= 6 ? 14 : 0);
+    EXPECT_EQ(mbsfn.entries[13].cellParametersID, depth >= 6 ? 113 : 0);
+    static_assert(sizeof(umts_tdd_mbsfn_information) == 1 + 2 * 14, "packed pairs");
     const auto& l8 = l5.v770NonCriticalExtensions.v860NonCriticalExtensions.v890NonCriticalExtensions;
     EXPECT_EQ(l8.sysInfoType5_v890ext.secondFrequencyInfo.uarfcn_Nt, depth >= 8 ? 16383 : 0);
     EXPECT_EQ(l8.v8b0NonCriticalExtensions.sysInfoType5_v8b0ext.upPCHpositionInfo, depth >= 9 ? 127 : 0);
