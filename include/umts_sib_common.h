@@ -1,5 +1,6 @@
 /*
- * Flat records shared by several blocks: PLMN identities, scheduling and value tags.
+ * Flat records shared by several blocks: PLMN identities, scheduling, value tags and the
+ * primary CCPCH.
  *
  * Values are copied as the decoder delivers them: enumerated values as their 32-bit
  * ordinals, the ansi-41 bit strings as their raw octets. A choice is its `choice_tag`
@@ -158,6 +159,36 @@
   F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)    \
   F(UNION, umts_value_tag_info_u, u, 1, UMTS_ALWAYS, choice_tag)
 
+/* ---- Primary CCPCH --------------------------------------------------------------------- */
+
+/* PrimaryCCPCH-Info, shared by SIB5 and the measurement records. */
+#define umts_primary_ccpch_info_fdd_FIELDS(F)           \
+  F(BOOL, uint8_t, tx_DiversityIndicator, 1, UMTS_ALWAYS, _)
+
+/* syncCase: 1 syncCase1 (timeslot), 2 syncCase2 (timeslotSync2), both in the one byte. */
+#define umts_primary_ccpch_sync_case_u_FIELDS(F)        \
+  F(SCALAR, uint8_t, timeslot, 1, 1, _)                 \
+  F(SCALAR, uint8_t, timeslotSync2, 1, 2, _)
+
+#define umts_primary_ccpch_sync_case_FIELDS(F)          \
+  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)    \
+  F(UNION, umts_primary_ccpch_sync_case_u, u, 1, UMTS_ALWAYS, choice_tag)
+
+#define umts_primary_ccpch_info_tdd_FIELDS(F)                         \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)            \
+  F(RECORD, umts_primary_ccpch_sync_case, syncCase, 1, 0, _)          \
+  F(SCALAR, uint8_t, cellParametersID, 1, 1, _)                       \
+  F(BOOL, uint8_t, sctd_Indicator, 1, UMTS_ALWAYS, _)
+
+/* PrimaryCCPCH-Info: 1 fdd, 2 tdd. */
+#define umts_primary_ccpch_info_u_FIELDS(F)                       \
+  F(RECORD, umts_primary_ccpch_info_fdd, fdd, 1, 1, _)            \
+  F(RECORD, umts_primary_ccpch_info_tdd, tdd, 1, 2, _)
+
+#define umts_primary_ccpch_info_FIELDS(F)               \
+  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)    \
+  F(UNION, umts_primary_ccpch_info_u, u, 1, UMTS_ALWAYS, choice_tag)
+
 /* Every record of this header, each after the records it holds. */
 #define UMTS_COMMON_RECORDS(X)                              \
   X(RECORD, umts_mcc)                                       \
@@ -179,7 +210,13 @@
   X(RECORD, umts_scheduling_info_sib_sb)                    \
   X(RECORD, umts_sibsb_reference_list)                      \
   X(UNION, umts_value_tag_info_u)                           \
-  X(RECORD, umts_value_tag_info)
+  X(RECORD, umts_value_tag_info)                            \
+  X(RECORD, umts_primary_ccpch_info_fdd)                    \
+  X(UNION, umts_primary_ccpch_sync_case_u)                  \
+  X(RECORD, umts_primary_ccpch_sync_case)                   \
+  X(RECORD, umts_primary_ccpch_info_tdd)                    \
+  X(UNION, umts_primary_ccpch_info_u)                       \
+  X(RECORD, umts_primary_ccpch_info)
 
 UMTS_COMMON_RECORDS(UMTS_DEFINE)
 

@@ -50,6 +50,10 @@ void convert_value_tag_info(const ValueTagInfo* src, umts_value_tag_info* dst);
 void convert_sib_occurrence_identity_value_tag(const SIBOccurrenceIdentityAndValueTag* src,
                                                umts_sib_occurrence_identity_and_value_tag* dst);
 
+/* PrimaryCCPCH-Info, shared by SIB5 and the measurement records. An unknown tag is kept with
+   an empty union. */
+void convert_primary_ccpch_info(const PrimaryCCPCH_Info* src, umts_primary_ccpch_info* dst);
+
 /* Extension SIB types: the tag of the decoded alternative. */
 void convert_sib_type_ext(const SIB_TypeExt* src, uint32_t* dst);
 void convert_sib_type_ext2(const SIB_TypeExt2* src, uint32_t* dst);
@@ -300,6 +304,151 @@ void convert_multiple_plmns_of_intra_freq_cells_list_element_multiple_plmn_list(
     const MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list* src, umts_multiple_plmn_list* dst);
 void convert_multiple_plmns_of_inter_freq_cells_list_element_multiple_plmn_list(
     const MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list* src, umts_multiple_plmn_list* dst);
+
+/* The decoded levels of the SIB5 chain from v680 on, under shorter names. */
+typedef SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions
+    umts_sib5_v680_nces_src;
+typedef SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions
+    umts_sib5_v690_nces_src;
+typedef SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions
+    umts_sib5_v770_nces_src;
+typedef SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions
+    umts_sib5_v860_nces_src;
+typedef SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions
+    umts_sib5_v890_nces_src;
+typedef SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions
+    umts_sib5_v8b0_nces_src;
+typedef SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions
+    umts_sib5_v8d0_nces_src;
+
+/* ==== SIB5: top and extension chain ====================================================== */
+void convert_sib_type_5_mode_specific_info(const SysInfoType5_modeSpecificInfo* src, umts_sib5_mode_specific_info* dst);
+void convert_cbs_drx_level1_information(const CBS_DRX_Level1Information* src, umts_cbs_drx_level1_information* dst);
+void convert_sysinfotype5_v4b0nces(const SysInfoType5_v4b0NonCriticalExtensions* src, umts_sib5_v4b0_nces* dst);
+void convert_sysinfotype5_v4b0nces_v590nces(const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions* src, umts_sib5_v590_nces* dst);
+void convert_sysinfotype5_v4b0nces_v590nces_v650nces( const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions* src, umts_sib5_v650_nces* dst);
+void convert_sysinfotype5_v4b0nces_v590nces_v650nces_v680nces(const umts_sib5_v680_nces_src* src, umts_sib5_v680_nces* dst);
+void convert_sysinfotype5_v4b0nces_v590nces_v650nces_v680nces_v690nces(const umts_sib5_v690_nces_src* src, umts_sib5_v690_nces* dst);
+void convert_sysinfotype5_v4b0ncess_v590nces_v650nces_v680nces_v690nces_v770nces(const umts_sib5_v770_nces_src* src, umts_sib5_v770_nces* dst);
+void convert_sysinfotype5_v4b0nces_v590nces_v650nces_v680nces_v690nces_v770nces_v860nces(const umts_sib5_v860_nces_src* src, umts_sib5_v860_nces* dst);
+void convert_sysinfotype5_v4b0nces_v590nces_v650nces_v680nces_v690nces_v770nces_v860nces_v890nces( const umts_sib5_v890_nces_src* src, umts_sib5_v890_nces* dst);
+void convert_sysinfotype5_v4b0nces_v590nces_v650nces_v680nces_v690nces_v770nces_v860nces_v890nces_v8b0nces( const umts_sib5_v8b0_nces_src* src, umts_sib5_v8b0_nces* dst);
+void convert_sysinfotype5_v4b0nces_v590nces_v650nces_v680nces_v690nces_v770nces_v860nces_v890nces_v8b0nces_v8d0nces( const umts_sib5_v8d0_nces_src* src, umts_sib5_v8d0_nces* dst);
+void convert_sysinfotype5_v4b0ext_ies(const SysInfoType5_v4b0ext_IEs* src, umts_sib5_v4b0ext* dst);
+void convert_sysinfotype5_v590ext_ies(const SysInfoType5_v590ext_IEs* src, umts_sib5_v590ext* dst);
+void convert_sysinfotype5_v650ext_ies(const SysInfoType5_v650ext_IEs* src, umts_sib5_v650ext* dst);
+void convert_sysinfotype5_v680ext_ies(const SysInfoType5_v680ext_IEs* src, umts_sib5_v680ext* dst);
+void convert_sysinfotype5_v690ext_ies(const SysInfoType5_v690ext_IEs* src, umts_sib5_v690ext* dst);
+void convert_sysinfotype5_v770ext_ies(const SysInfoType5_v770ext_IEs* src, umts_sib5_v770ext* dst);
+void convert_tdd_mbsfn_information(const TDD_MBSFNInformation* src, umts_tdd_mbsfn_information* dst);
+void convert_sysinfotype5_v860ext_ies(const SysInfoType5_v860ext_IEs* src, umts_sib5_v860ext* dst);
+void convert_sysinfotype5_v890ext_ies(const SysInfoType5_v890ext_IEs* src, umts_sib5_v890ext* dst);
+void convert_sysinfotype5_v8b0ext_ies(const SysInfoType5_v8b0ext_IEs* src, umts_sib5_v8b0ext* dst);
+void convert_sysinfotype5_v8d0ext_ies(const SysInfoType5_v8d0ext_IEs* src, umts_sib5_v8d0ext* dst);
+
+/* ==== SIB5: PRACH system information ===================================================== */
+void convert_prach_system_information_list(const PRACH_SystemInformationList* src, umts_prach_system_information_list* dst);
+void convert_prach_system_information(const PRACH_SystemInformation* src, umts_prach_system_information* dst);
+void convert_prach_rach_info(const PRACH_RACH_Info* src, umts_prach_rach_info* dst);
+void convert_prach_rach_info_modespecific_info(const PRACH_RACH_Info_modeSpecificInfo* src, umts_prach_rach_info* dst);
+void convert_prach_rach_info_modespecific_info_fdd(const PRACH_RACH_Info_modeSpecificInfo_fdd* src, umts_prach_rach_info_fdd* dst);
+void convert_available_signatures(const AvailableSignatures* src, umts_bit_string32* dst);
+void convert_available_subchannel_numbers(const AvailableSubChannelNumbers* src, umts_bit_string32* dst);
+void convert_prach_rach_info_modespecific_info_tdd(const PRACH_RACH_Info_modeSpecificInfo_tdd* src, umts_prach_rach_info_tdd* dst);
+void convert_tdd_prach_ccode_list(const TDD_PRACH_CCodeList* src, umts_tdd_prach_ccode_list* dst);
+void convert_tdd_prach_ccode_list_sf8(const TDD_PRACH_CCodeList_sf8* src, umts_tdd_prach_ccode_list_n* dst);
+void convert_tdd_prach_ccode_list_sf16(const TDD_PRACH_CCodeList_sf16* src, umts_tdd_prach_ccode_list_n* dst);
+void convert_prach_partitioning(const PRACH_Partitioning* src, umts_prach_partitioning* dst);
+void convert_prach_partitioning_fdd(const PRACH_Partitioning_fdd* src, umts_prach_partitioning_fdd* dst);
+void convert_prach_partitioning_tdd(const PRACH_Partitioning_tdd* src, umts_prach_partitioning_tdd* dst);
+void convert_access_service_class_fdd(const AccessServiceClass_FDD* src, umts_access_service_class_fdd* dst);
+void convert_access_service_class_fdd_assigned_sub_channel_number(const AccessServiceClass_FDD_assignedSubChannelNumber* src, umts_bit_string32* dst);
+void convert_access_service_class_tdd(const AccessServiceClass_TDD* src, umts_access_service_class_tdd* dst);
+void convert_access_service_class_tdd_subchannel_size(const AccessServiceClass_TDD_subchannelSize* src, umts_subchannel_size* dst);
+void convert_access_service_class_tdd_subchannel_size_size2(const AccessServiceClass_TDD_subchannelSize_size2* src, umts_subchannel_size2* dst);
+void convert_access_service_class_tdd_subchannel_size_size4(const AccessServiceClass_TDD_subchannelSize_size4* src, umts_subchannel_size_bits* dst);
+void convert_access_service_class_tdd_subchannel_size_size8(const AccessServiceClass_TDD_subchannelSize_size8* src, umts_subchannel_size_bits* dst);
+void convert_persistence_scaling_factorlist(const PersistenceScalingFactorList* src, umts_persistence_scaling_factor_list* dst);
+void convert_ac_to_asc_mapping_table(const AC_To_ASC_MappingTable* src, umts_ac_to_asc_mapping_table* dst);
+void convert_prach_system_information_modespecific_info(const PRACH_SystemInformation_modeSpecificInfo* src, umts_prach_system_information_mode_specific_info* dst);
+void convert_prach_system_information_modespecific_info_fdd(const PRACH_SystemInformation_modeSpecificInfo_fdd* src, umts_prach_system_information_fdd* dst);
+void convert_prach_poweroffset(const PRACH_PowerOffset* src, umts_prach_power_offset* dst);
+void convert_rach_transmission_parameters(const RACH_TransmissionParameters* src, umts_rach_transmission_parameters* dst);
+void convert_aich_info(const AICH_Info* src, umts_aich_info* dst);
+
+/* ==== SIB5: S-CCPCH, PICH and the TDD timeslot records =================================== */
+void convert_sccpch_system_information_list(const SCCPCH_SystemInformationList* src, umts_sccpch_system_information_list* dst);
+void convert_secondary_ccpch_info(const SecondaryCCPCH_Info* src, umts_secondary_ccpch_info* dst);
+void convert_secondary_ccpch_info_modespecific_info_fdd(const SecondaryCCPCH_Info_modeSpecificInfo_fdd* src, umts_secondary_ccpch_info_fdd* dst);
+void convert_secondary_ccpch_info_modespecific_info_tdd(const SecondaryCCPCH_Info_modeSpecificInfo_tdd* src, umts_secondary_ccpch_info_tdd* dst);
+void convert_secondary_cpich_info(const SecondaryCPICH_Info* src, umts_secondary_cpich_info* dst);
+void convert_sf256_and_code_num(const SF256_AndCodeNumber* src, umts_sf256_and_code_number* dst);
+void convert_sf256_and_code_number(const SF256_AndCodeNumber* src, umts_sf256_and_code_number* dst);
+void convert_common_timeslot_info_sccpch(const CommonTimeslotInfoSCCPCH* src, umts_common_timeslot_info_sccpch* dst);
+void convert_repetition_period_length_and_offset(const RepetitionPeriodLengthAndOffset* src, umts_repetition_period_length_and_offset* dst);
+void convert_repetition_period_n_length(const RepetitionPeriodLengthAndOffset_repetitionPeriod4* src, umts_repetition_period_length_offset* dst);
+void convert_common_timeslot_info(const CommonTimeslotInfo* src, umts_common_timeslot_info* dst);
+void convert_individual_timeslot_info(const IndividualTimeslotInfo* src, umts_individual_timeslot_info* dst);
+void convert_midamble_shift_and_burst_type(const MidambleShiftAndBurstType* src, umts_midamble_shift_and_burst_type* dst);
+void convert_midamble_shift_and_burst_type_burst_type_type1(const MidambleShiftAndBurstType_burstType_type1* src, umts_midamble_burst_type* dst);
+void convert_midamble_shift_and_burst_type_burst_type_type2(const MidambleShiftAndBurstType_burstType_type2* src, umts_midamble_burst_type* dst);
+void convert_midamble_shift_and_burst_type_burst_type_type3(const MidambleShiftAndBurstType_burstType_type3* src, umts_midamble_burst_type* dst);
+void convert_midamble_shift_and_burst_type_midamble_allocation_mode(uint32_t tag, uint32_t ue_specific_tag, const uint8_t* midamble_shift, umts_midamble_burst_type* dst);
+void convert_sccpch_channelisation_code_list(const SCCPCH_ChannelisationCodeList* src, umts_sccpch_channelisation_code_list* dst);
+void convert_fach_pch_information_list(const FACH_PCH_InformationList* src, umts_fach_pch_information_list* dst);
+void convert_pich_info(const PICH_Info* src, umts_pich_info* dst);
+void convert_pich_info_fdd(const PICH_Info_fdd* src, umts_pich_info_fdd* dst);
+void convert_pich_info_tdd(const PICH_Info_tdd* src, umts_pich_info_tdd* dst);
+void convert_rep_per_length_offset_pich(const RepPerLengthOffset_PICH* src, umts_rep_per_length_offset_pich* dst);
+
+/* ==== Transport format sets and TFCS ===================================================== */
+void convert_transport_format_set(const TransportFormatSet* src, umts_transport_format_set* dst);
+void convert_transport_format_set_lcr(const TransportFormatSet_LCR* src, umts_transport_format_set_lcr* dst);
+void convert_common_trans_ch_tfs(const CommonTransChTFS* src, umts_common_trans_ch_tfs* dst);
+void convert_dedicated_trans_ch_tfs(const DedicatedTransChTFS* src, umts_dedicated_trans_ch_tfs* dst);
+void convert_common_trans_ch_tfs_lcr(const CommonTransChTFS_LCR* src, umts_common_trans_ch_tfs_lcr* dst);
+void convert_common_trans_ch_tfs_tti(const CommonTransChTFS_tti* src, umts_common_trans_ch_tfs_tti* dst);
+void convert_common_trans_ch_tfs_lcr_tti(const CommonTransChTFS_LCR_tti* src, umts_common_trans_ch_tfs_lcr_tti* dst);
+void convert_dedicated_trans_ch_tfs_tti(const DedicatedTransChTFS_tti* src, umts_dedicated_trans_ch_tfs_tti* dst);
+void convert_common_dynamic_tf_info_list(const CommonDynamicTF_InfoList* src, umts_common_dynamic_tf_info_list* dst);
+void convert_common_dynamic_tf_info_list_dynamic_tti(const CommonDynamicTF_InfoList_DynamicTTI* src, umts_common_dynamic_tf_info_list_dynamic_tti* dst);
+void convert_dedicated_dynamic_tf_info_list(const DedicatedDynamicTF_InfoList* src, umts_dedicated_dynamic_tf_info_list* dst);
+void convert_dedicated_dynamic_tf_info_list_dynamic_tti(const DedicatedDynamicTF_InfoList_DynamicTTI* src, umts_dedicated_dynamic_tf_info_list_dynamic_tti* dst);
+void convert_common_dynamic_tf_info_num_of_tb_size_list(const CommonDynamicTF_Info_numberOfTbSizeList* src, umts_number_of_tb_size_list* dst);
+void convert_dedicated_dynamic_tf_info_num_of_tb_size_list(const DedicatedDynamicTF_Info_numberOfTbSizeList* src, umts_number_of_tb_size_list* dst);
+void convert_number_of_tb_size_n_tti_list(const NumberOfTbSizeAndTTIList* src, umts_number_of_tb_size_and_tti_list* dst);
+void convert_commmon_dynamic_tf_ino_common_tdd_choice(const CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice* src, umts_common_tdd_choice* dst);
+void convert_common_dynamic_tf_info_rlc_size_tdd_common_tdd_choice( const CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice* src, umts_common_tdd_choice* dst);
+void convert_octet_mode_rlc_size_info_type2(const OctetModeRLC_SizeInfoType2* src, umts_octet_mode_rlc_size_info_type2* dst);
+void convert_octet_mode_rlc_size_info_type_1(const OctetModeRLC_SizeInfoType1* src, umts_octet_mode_rlc_size_info_type1* dst);
+void convert_bit_mode_rlc_size_info(const BitModeRLC_SizeInfo* src, umts_bit_mode_rlc_size_info* dst);
+void convert_rlc_size_info_size_type2(const BitModeRLC_SizeInfo_sizeType2* src, umts_rlc_size_parts* dst);
+void convert_rlc_size_info_size_type3(const BitModeRLC_SizeInfo_sizeType3* src, umts_rlc_size_parts* dst);
+void convert_rlc_size_info_size_type4(const BitModeRLC_SizeInfo_sizeType4* src, umts_rlc_size_parts* dst);
+void convert_logical_channel_list(const LogicalChannelList* src, umts_logical_channel_list* dst);
+void convert_logical_channel_list_explicitList(const LogicalChannelList_explicitList* src, umts_logical_channel_explicit_list* dst);
+void convert_semistatic_tf_information(const SemistaticTF_Information* src, umts_semistatic_tf_information* dst);
+void convert_channel_coding_type(const ChannelCodingType* src, umts_channel_coding_type* dst);
+void convert_tfcs(const TFCS* src, umts_tfcs* dst);
+void convert_explicit_tfcs_configuration(const ExplicitTFCS_Configuration* src, umts_explicit_tfcs_configuration* dst);
+void convert_explicit_tfcs_configuration_replacement(const ExplicitTFCS_Configuration_replacement* src, umts_explicit_tfcs_replacement* dst);
+void convert_tfcs_removal_list(const TFCS_RemovalList* src, umts_tfcs_removal_list* dst);
+void convert_tfcs_reconf_add_ctfcSize_ctfc2Bit(const TFCS_ReconfAdd_ctfcSize_ctfc2Bit* src, umts_tfcs_reconf_add* dst);
+void convert_tfcs_reconf_add_ctfcSize_ctfc4Bit(const TFCS_ReconfAdd_ctfcSize_ctfc4Bit* src, umts_tfcs_reconf_add* dst);
+void convert_tfcs_reconf_add_ctfcSize_ctfc6Bit(const TFCS_ReconfAdd_ctfcSize_ctfc6Bit* src, umts_tfcs_reconf_add* dst);
+void convert_tfcs_reconf_add_ctfcSize_ctfc8Bit(const TFCS_ReconfAdd_ctfcSize_ctfc8Bit* src, umts_tfcs_reconf_add* dst);
+void convert_tfcs_reconf_add_ctfcSize_ctfc12Bit(const TFCS_ReconfAdd_ctfcSize_ctfc12Bit* src, umts_tfcs_reconf_add* dst);
+void convert_tfcs_reconf_add_ctfcSize_ctfc16Bit(const TFCS_ReconfAdd_ctfcSize_ctfc16Bit* src, umts_tfcs_reconf_add* dst);
+void convert_tfcs_reconf_add_ctfcSize_ctfc24Bit(const TFCS_ReconfAdd_ctfcSize_ctfc24Bit* src, umts_tfcs_reconf_add* dst);
+void convert_tfcs_reconf_add(const TFCS_ReconfAdd* src, umts_tfcs_reconf_add* dst);
+void convert_split_tfci_signalling(const SplitTFCI_Signalling* src, umts_split_tfci_signalling* dst);
+void convert_tfci_field2_information(const TFCI_Field2_Information* src, umts_tfci_field2_information* dst);
+void convert_tfci_rangelist(const TFCI_RangeList* src, umts_tfci_range_list* dst);
+void convert_tfcs_info_for_dsch(const TFCS_InfoForDSCH* src, umts_tfcs_info_for_dsch* dst);
+void convert_power_offset_information(const PowerOffsetInformation* src, umts_power_offset_information* dst);
+void convert_gain_factor_information(const GainFactorInformation* src, umts_gain_factor_information* dst);
+void convert_signalled_gain_factors(const SignalledGainFactors* src, umts_signalled_gain_factors* dst);
+void convert_signalled_gain_factors_mode_specific_info(const SignalledGainFactors_modeSpecificInfo* src, umts_signalled_gain_factors_mode_specific_info* dst);
 
 #ifdef __cplusplus
 }

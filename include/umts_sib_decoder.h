@@ -83,8 +83,9 @@ typedef struct umts_decoder_ctxt {
 /* The library's one global: zero at load, never reset as a whole. */
 extern umts_decoder_ctxt g_umts_ctxt;
 
-/* The caller's result. It holds no pointers; the library keeps none to it. It is large
-   (the SIB5 record has long fixed arrays): allocate it once and pass it by pointer. */
+/* The caller's result. It holds no pointers; the library keeps none to it (it notes only the
+   address range of a set from umts_sib_set_alloc). It is large (the SIB5 record has long
+   fixed arrays): allocate it once and pass it by pointer. */
 #define umts_sib_set_FIELDS(F)                                          \
   F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)              \
   F(RECORD, umts_mib_info, mib, 1, 0, _)                                \
@@ -140,6 +141,17 @@ void umts_sib_print_to(FILE* stream);
 
 /* Hands the gathered text to the stream and flushes the stream. */
 void umts_sib_print_flush(void);
+
+/* ---- Result sets allocated by the library ------------------------------------------- */
+
+/* A zeroed umts_sib_set in whole pages of its own, or null when memory is short. The caller
+   may equally allocate the set itself; the records read the same either way. In a set from
+   here a conversion clears its sub-record by handing the record's whole pages back to the
+   system, which gives them back zeroed when they are next touched, instead of writing zeros
+   over megabytes; only the partial pages at the record's edges are written. */
+umts_sib_set* umts_sib_set_alloc(void);
+/* Releases a set of umts_sib_set_alloc; null is ignored. */
+void umts_sib_set_free(umts_sib_set* set);
 
 /* ---- Driver -------------------------------------------------------------------------- */
 

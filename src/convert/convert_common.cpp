@@ -230,3 +230,32 @@ void convert_ext_ganss_sib_type_info_scheduling_info_list(const ExtGANSS_SIBType
     convert_ext_ganss_sib_type_info_scheduling_info_ganss_scheduling(&entry->ganssScheduling, &out->ganssScheduling);
   }
 }
+
+/* ---- Primary CCPCH --------------------------------------------------------------------- */
+
+void convert_primary_ccpch_info(const PrimaryCCPCH_Info* src, umts_primary_ccpch_info* dst) {
+  dst->choice_tag = src->t;
+  switch (src->t) {
+    case 1:
+      if (src->u.fdd != nullptr) dst->u.fdd.tx_DiversityIndicator = src->u.fdd->tx_DiversityIndicator;
+      break;
+    case 2: {
+      const PrimaryCCPCH_Info_tdd* tdd = src->u.tdd;
+      if (tdd == nullptr) break;
+      umts_primary_ccpch_info_tdd* out = &dst->u.tdd;
+      if (tdd->m & 1u) {
+        out->presence_bitmask |= 1u;
+        out->syncCase.choice_tag = tdd->syncCase.t;
+        if (tdd->syncCase.t == 1 && tdd->syncCase.u.syncCase1 != nullptr)
+          out->syncCase.u.timeslot = tdd->syncCase.u.syncCase1->timeslot;
+        else if (tdd->syncCase.t == 2 && tdd->syncCase.u.syncCase2 != nullptr)
+          out->syncCase.u.timeslotSync2 = tdd->syncCase.u.syncCase2->timeslotSync2;
+      }
+      UMTS_COPY_OPTIONAL(tdd, out, 2u, cellParametersID);
+      out->sctd_Indicator = tdd->sctd_Indicator;
+      break;
+    }
+    default:
+      break;
+  }
+}

@@ -150,10 +150,13 @@ class FrameTest : public ::testing::Test {
     resetContext();
     zvtLogLevelThreshold = 0;
   }
-  // The caller's record, zeroed; large, so on the heap.
-  std::unique_ptr<umts_sib_set, void (*)(void*)> owned{static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set))),
-                                                       std::free};
-  umts_sib_set* result = owned.get();
+  // The caller's record: megabytes, so allocated once for the whole program (never per
+  // case, never on the stack) and cleared for each case.
+  static umts_sib_set* sharedSet() {
+    static umts_sib_set* const set = static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)));
+    return set;
+  }
+  umts_sib_set* result = static_cast<umts_sib_set*>(std::memset(sharedSet(), 0, sizeof(umts_sib_set)));
 
   // A transport block through the BCH entry; its result, and what it printed in `out`.
   uint8_t feed(const std::vector<uint8_t>& block, std::string* out = nullptr) {

@@ -155,10 +155,18 @@ const std::map<std::string, std::vector<std::string>>& hex_records() {
     const Outcome r = run_sibdump("'" + kSamples + "/fdd_cell.bch'");
     EXPECT_EQ(r.status, 0) << r.err;
     m = records_by_block(parse_lines(r.out));
-    EXPECT_EQ(m.size(), 10u);
+    EXPECT_EQ(m.size(), 10u); /* every block of the cell but SB2 and SIB11bis */
   }
   return m;
 }
+
+/* The number of records of the hexadecimal sample, and of its transport blocks, as text. */
+size_t hex_record_count() {
+  size_t n = 0;
+  for (const auto& b : hex_records()) n += b.second.size();
+  return n;
+}
+std::string n_of(size_t n) { return std::to_string(n); }
 
 capture::Frame gsmtap_frame(Link link, uint64_t time_us, const Bytes& message, uint16_t arfcn = 10700,
                             uint8_t sub_type = gsmtap::kSubBcchBch, const capture::Route& route = capture::Route(),
@@ -334,10 +342,12 @@ TEST_F(Capture, SamplesGiveTheHexRecords) {
     ASSERT_FALSE(lines.empty());
     EXPECT_EQ(lines[0].head, "\"frame\":1,\"time\":\"2026-01-01T00:00:00.000000Z\",\"source\":\"127.0.0.1\",\"arfcn\":10700")
         << name;
-    EXPECT_TRUE(has(r.err, "sibdump: cell 127.0.0.1 ARFCN 10700: 10 blocks, 0 SIBs, 10 records, 0 skipped, 0 errors"))
+    const std::string blocks = n_of(sample_blocks().size()), records = n_of(hex_record_count());
+    EXPECT_TRUE(has(r.err, "sibdump: cell 127.0.0.1 ARFCN 10700: " + blocks + " blocks, 0 SIBs, " + records +
+                               " records, 0 skipped, 0 errors"))
         << r.err;
-    EXPECT_TRUE(has(r.err, "sibdump: 10 frames read, 10 blocks, 0 SIBs, 10 records written, 0 skipped, 0 not GSMTAP, "
-                           "0 bad frames"))
+    EXPECT_TRUE(has(r.err, "sibdump: " + blocks + " frames read, " + blocks + " blocks, 0 SIBs, " + records +
+                               " records written, 0 skipped, 0 not GSMTAP, 0 bad frames"))
         << r.err;
   }
   /* A capture on standard input, from a pipe as well. */
@@ -435,7 +445,7 @@ TEST_F(Capture, CellsAreCollectedApart) {
     const Outcome r = run_on(std::string(p.name) + ".pcapng", capture::pcapng_file(Link::ethernet, frames));
     EXPECT_EQ(r.status, 0) << r.err;
     const std::vector<Line> lines = parse_lines(r.out);
-    EXPECT_EQ(lines.size(), 20u);
+    EXPECT_EQ(lines.size(), 2 * hex_record_count());
     EXPECT_EQ(records_by_block(lines, p.cell_a), hex_records()) << p.name;
     EXPECT_EQ(records_by_block(lines, p.cell_b), hex_records()) << p.name;
   }
@@ -460,8 +470,12 @@ TEST_F(Capture, CellsAreCollectedApart) {
   EXPECT_EQ(whole.status, 0) << whole.err;
   const Outcome by_text = run_sibdump("--sibs '" + kSamples + "/fdd_cell_sibs.txt'");
   EXPECT_EQ(records_by_block(parse_lines(whole.out)), records_by_block(parse_lines(by_text.out)));
-  EXPECT_TRUE(has(whole.err, "ARFCN 10700: 0 blocks, 10 SIBs, 10 records, 2 skipped, 0 errors")) << whole.err;
-  EXPECT_TRUE(has(whole.err, "13 frames read, 0 blocks, 10 SIBs, 10 records written, 2 skipped, 1 not GSMTAP")) << whole.err;
+  const std::string sibs = n_of(sample_sibs().size()), records = n_of(parse_lines(by_text.out).size());
+  EXPECT_TRUE(has(whole.err, "ARFCN 10700: 0 blocks, " + sibs + " SIBs, " + records + " records, 2 skipped, 0 errors"))
+      << whole.err;
+  EXPECT_TRUE(has(whole.err, n_of(sample_sibs().size() + 3) + " frames read, 0 blocks, " + sibs + " SIBs, " + records +
+                                 " records written, 2 skipped, 1 not GSMTAP"))
+      << whole.err;
 }
 
 /* What the first `count` blocks of the cycle give through the hex path. */
@@ -520,13 +534,15 @@ InProcess read_in_process(const std::string& name, Bytes file) {
   return r;
 }
 
-/* A capture cut at every length of its last frame: the message names frame 10 and the
-   frames before it are kept; cut at the frame's start it simply ends after frame 9. */
+/* A capture cut at every length of its last frame: the message names that frame and the
+   frames before it are kept; cut at the frame's start it simply ends after the one before. */
 TEST_F(Capture, CutAtEveryLengthOfTheLastFrame) {
   const std::vector<capture::Frame> frames = cycle_frames(Link::ethernet);
-  const std::vector<capture::Frame> first9(frames.begin(), frames.begin() + 9);
-  /* What the first nine blocks give, through sibdump on the same blocks in hexadecimal. */
-  const auto nine = hex_records_of_first(9);
+  const size_t kept = frames.size() - 1;
+  const std::string last = "frame " + n_of(frames.size());
+  const std::vector<capture::Frame> first9(frames.begin(), frames.begin() + static_cast<std::ptrdiff_t>(kept));
+  /* What the blocks before the last give, through sibdump on the same blocks in hexadecimal. */
+  const auto nine = hex_records_of_first(kept);
   ASSERT_FALSE(nine.empty());
   std::vector<std::string> nine_blocks;
   for (const auto& b : nine) nine_blocks.insert(nine_blocks.end(), b.second.size(), b.first);
@@ -537,16 +553,16 @@ TEST_F(Capture, CutAtEveryLengthOfTheLastFrame) {
     const Bytes whole = ng ? capture::pcapng_file(Link::ethernet, frames) : capture::pcap_file(Link::ethernet, frames);
     const size_t end9 = (ng ? capture::pcapng_file(Link::ethernet, first9) : capture::pcap_file(Link::ethernet, first9)).size();
     ASSERT_LT(end9, whole.size());
-    EXPECT_EQ(read_in_process(name, whole).blocks.size(), 10u);
+    EXPECT_EQ(read_in_process(name, whole).blocks.size(), hex_record_count());
     for (size_t cut = end9; cut < whole.size(); cut++) {
       InProcess r = read_in_process(name, Bytes(whole.begin(), whole.begin() + cut));
-      EXPECT_EQ(r.frames, 9) << name << " cut at " << cut;
+      EXPECT_EQ(static_cast<size_t>(r.frames), kept) << name << " cut at " << cut;
       std::sort(r.blocks.begin(), r.blocks.end());
       EXPECT_EQ(r.blocks, nine_blocks) << name << " cut at " << cut;
       if (cut == end9) {
         EXPECT_EQ(r.messages, "") << cut;
       } else {
-        EXPECT_EQ(r.messages.rfind("sibdump: " + name + ": frame 10: damaged capture, reading stops here (", 0), 0u)
+        EXPECT_EQ(r.messages.rfind("sibdump: " + name + ": " + last + ": damaged capture, reading stops here (", 0), 0u)
             << name << " cut at " << cut << ": " << r.messages;
         EXPECT_TRUE(has(r.messages, "); the frames before it are kept\n")) << r.messages;
       }
@@ -554,8 +570,8 @@ TEST_F(Capture, CutAtEveryLengthOfTheLastFrame) {
     /* One cut through sibdump itself: the status, the message and the records. */
     const Outcome r = run_on(name, Bytes(whole.begin(), whole.begin() + (end9 + whole.size()) / 2));
     EXPECT_EQ(r.status, 1);
-    EXPECT_TRUE(has(r.err, name + ": frame 10: damaged capture, reading stops here (")) << r.err;
-    EXPECT_TRUE(has(r.err, "sibdump: 9 frames read, 9 blocks")) << r.err;
+    EXPECT_TRUE(has(r.err, name + ": " + last + ": damaged capture, reading stops here (")) << r.err;
+    EXPECT_TRUE(has(r.err, "sibdump: " + n_of(kept) + " frames read, " + n_of(kept) + " blocks")) << r.err;
     EXPECT_EQ(records_by_block(parse_lines(r.out)), nine);
   }
   /* A file cut inside its own header is no capture at all. */
@@ -572,31 +588,35 @@ TEST_F(Capture, DamagedFramesAreReportedAndSkipped) {
   const size_t gsmtap_at = 14 + 20 + 8;
   /* Frame 3 (SIB1 and SIB2): GSMTAP version 1. */
   frames[2].bytes[gsmtap_at] = 1;
-  /* Frame 11: a UDP payload of 10 octets, shorter than the GSMTAP header. */
+  /* The frame after the cycle: a UDP payload of 10 octets, shorter than the GSMTAP header. */
   frames.push_back({kT0 + 300000, capture::udp_frame(Link::ethernet, capture::Route(), Bytes(10, 0x02)), 0});
-  /* Frame 12: a frame too short for its IPv4 header. */
+  /* The next: a frame too short for its IPv4 header. */
   frames.push_back({kT0 + 320000, Bytes(frames[0].bytes.begin(), frames[0].bytes.begin() + 24), 0});
-  /* Frame 13: the capture kept 50 of the 89 octets. */
+  /* The next: the capture kept 50 of the 89 octets. */
   capture::Frame cut = frames[0];
   cut.bytes.resize(50);
   cut.on_wire = 89;
   cut.time_us = kT0 + 340000;
   frames.push_back(cut);
-  /* Frame 14: a transport block longer than 64 octets. */
+  /* The next: a transport block longer than 64 octets. */
   frames.push_back(gsmtap_frame(Link::ethernet, kT0 + 360000, Bytes(65, 0)));
-  /* Frame 15: the MIB again, after all of that. */
+  /* The last: the MIB again, after all of that. */
   frames.push_back(gsmtap_frame(Link::ethernet, kT0 + 380000, sample_blocks()[0]));
 
   const Outcome r = run_on("damaged.pcap", capture::pcap_file(Link::ethernet, frames));
   EXPECT_EQ(r.status, 1);
-  for (const char* message : {
-           "damaged.pcap: frame 3: GSMTAP version 1 (expected 2)",
-           "damaged.pcap: frame 11: UDP payload of 10 octets is shorter than the GSMTAP header (16)",
-           "damaged.pcap: frame 12: frame too short for its IPv4 header (10 octets)",
-           "damaged.pcap: frame 13: IPv4 packet of 75 octets cut to 36 (the capture kept 50 of the frame's 89 octets)",
-           "damaged.pcap: frame 14: transport block of 65 octets (ARFCN 10700): expected 1 to 64",
-           "sibdump: cell 127.0.0.1 ARFCN 10700: 10 blocks, 0 SIBs, 9 records, 0 skipped, 1 errors",
-           "sibdump: 15 frames read, 10 blocks, 0 SIBs, 9 records written, 0 skipped, 0 not GSMTAP, 5 bad frames"})
+  const size_t n = sample_blocks().size();
+  auto frame = [&](size_t k) { return "damaged.pcap: frame " + n_of(n + k) + ": "; };
+  for (const std::string& message : {
+           std::string("damaged.pcap: frame 3: GSMTAP version 1 (expected 2)"),
+           frame(1) + "UDP payload of 10 octets is shorter than the GSMTAP header (16)",
+           frame(2) + "frame too short for its IPv4 header (10 octets)",
+           frame(3) + "IPv4 packet of 75 octets cut to 36 (the capture kept 50 of the frame's 89 octets)",
+           frame(4) + "transport block of 65 octets (ARFCN 10700): expected 1 to 64",
+           "sibdump: cell 127.0.0.1 ARFCN 10700: " + n_of(n) + " blocks, 0 SIBs, " + n_of(hex_record_count() - 1) +
+               " records, 0 skipped, 1 errors",
+           "sibdump: " + n_of(n + 5) + " frames read, " + n_of(n) + " blocks, 0 SIBs, " + n_of(hex_record_count() - 1) +
+               " records written, 0 skipped, 0 not GSMTAP, 5 bad frames"})
     EXPECT_TRUE(has(r.err, message)) << message << "\n" << r.err;
   auto expected = hex_records();
   expected.erase("sib1");
@@ -692,7 +712,7 @@ TEST(Live, DatagramsOverLoopback) {
     }
   }
   close(fd);
-  const size_t expected_lines = 10;
+  const size_t expected_lines = hex_record_count();
   EXPECT_TRUE(read_until(c.out, &out, [&](const std::string& t) {
     return static_cast<size_t>(std::count(t.begin(), t.end(), '\n')) >= expected_lines;
   })) << out;
@@ -712,8 +732,11 @@ TEST(Live, DatagramsOverLoopback) {
   for (const Line& l : lines) EXPECT_TRUE(has(l.head, "\"source\":\"127.0.0.1\",\"arfcn\":10700")) << l.head;
   const std::string where = "sibdump: udp 127.0.0.1:" + std::to_string(port) + ": datagram 4: ";
   for (const std::string& message : {where + "GSMTAP version 3 (expected 2)", std::string("sibdump: interrupted; counts of this run:"),
-                                     std::string("sibdump: cell 127.0.0.1 ARFCN 10700: 10 blocks, 0 SIBs, 10 records, 0 skipped, 0 errors"),
-                                     std::string("sibdump: 11 datagrams read, 10 blocks, 0 SIBs, 10 records written, 0 skipped, 0 not GSMTAP, 1 bad datagrams")})
+                                     "sibdump: cell 127.0.0.1 ARFCN 10700: " + n_of(sample_blocks().size()) + " blocks, 0 SIBs, " +
+                                         n_of(hex_record_count()) + " records, 0 skipped, 0 errors",
+                                     "sibdump: " + n_of(sample_blocks().size() + 1) + " datagrams read, " +
+                                         n_of(sample_blocks().size()) + " blocks, 0 SIBs, " + n_of(hex_record_count()) +
+                                         " records written, 0 skipped, 0 not GSMTAP, 1 bad datagrams"})
     EXPECT_TRUE(has(err, message)) << message << "\n" << err;
 }
 

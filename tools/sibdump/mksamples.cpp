@@ -11,8 +11,9 @@
  * The cell: MCC 262, MNC 01, LAC 0x4E21, RAC 5, cell identity 0x01A2B3C (RNC 26, C-Id 11068),
  * primary scrambling code 123 on one carrier, in four URAs, a dozen intra-frequency neighbours
  * (one shared with a roaming partner, MNC 02) and three GSM neighbours of that partner, with the
- * Rel-8 extensions of SB1, SIB1 and SIB18. Every SIB is decoded again after encoding, so that
- * a value the decoder would not read back stops the run.
+ * Rel-8 extensions of SB1, SIB1 and SIB18, and a second form of its SIB5 after the cycle.
+ * Every SIB is decoded again after encoding, so that a value the decoder would not read back
+ * stops the run.
  */
 #include <cerrno>
 #include <cstdio>
@@ -491,6 +492,258 @@ void build_sib5(Sib& sib) {
   MKS_ENCODE(SysInfoType5, s, sib);
 }
 
+/* ---- The second SIB5 form ------------------------------------------------------------------ */
+
+/* The same cell's SIB5 as it stands after a reconfiguration that uses what the first form
+   leaves out: dedicated and dynamic transport formats, TFCS with 12-bit CTFCs and gain
+   factors, removal and replacement, the split TFCI signalling with a TFCI range, all eight
+   access service classes and six persistence factors, an S-CCPCH with eight FACHs, CBS DRX
+   and the extension chain to v690. It follows the cycle, after SIB18. */
+TransportFormatSet dedicated_dynamic_tfs(std::initializer_list<uint8_t> size_type1, unsigned log_ch) {
+  TransportFormatSet tfs;
+  asn1Init_UMTS_TransportFormatSet(&tfs);
+  tfs.t = 1; /* dedicatedTransChTFS */
+  DedicatedTransChTFS* d = make<DedicatedTransChTFS>();
+  tfs.u.dedicatedTransChTFS = d;
+  d->tti.t = 5; /* dynamic */
+  d->tti.u.dynamic = make<DedicatedDynamicTF_InfoList_DynamicTTI>();
+  uint32_t k = 0;
+  for (uint8_t size : size_type1) {
+    DedicatedDynamicTF_Info_DynamicTTI* tf = make<DedicatedDynamicTF_Info_DynamicTTI>();
+    tf->rlc_Size.t = 1; /* bitMode */
+    tf->rlc_Size.u.bitMode = make<BitModeRLC_SizeInfo>();
+    tf->rlc_Size.u.bitMode->t = 1;
+    tf->rlc_Size.u.bitMode->u.sizeType1 = size;
+    NumberOfTbSizeAndTTIList_element* n = make<NumberOfTbSizeAndTTIList_element>();
+    n->numberOfTransportBlocks.t = k == 0 ? 2 : 4; /* one, large */
+    if (k != 0) n->numberOfTransportBlocks.u.large = 20;
+    n->transmissionTimeInterval = k == 0 ? UMTS_TransmissionTimeInterval_tti10 : UMTS_TransmissionTimeInterval_tti20;
+    append(&tf->numberOfTbSizeAndTTIList, n);
+    tf->logicalChannelList.t = 3; /* explicitList */
+    tf->logicalChannelList.u.explicitList = make<LogicalChannelList_explicitList>();
+    LogicalChannelByRB* rb = make<LogicalChannelByRB>();
+    rb->rb_Identity = static_cast<uint8_t>(1 + k);
+    if ((log_ch >> k) & 1u) {
+      rb->m = 1;
+      rb->logChOfRb = 1;
+    }
+    append(tf->logicalChannelList.u.explicitList, rb);
+    append(d->tti.u.dynamic, tf);
+    k++;
+  }
+  d->semistaticTF_Information.channelCodingType.t = 3; /* turbo */
+  d->semistaticTF_Information.rateMatchingAttribute = 180;
+  d->semistaticTF_Information.crc_Size = UMTS_CRC_Size_crc12;
+  return tfs;
+}
+
+/* 12-bit CTFCs, the first with signalled gain factors, the second with computed ones. */
+TFCS_ReconfAdd* tfcs_add_12bit(std::initializer_list<uint16_t> ctfcs, size_t count = 1024) {
+  TFCS_ReconfAdd* add = make<TFCS_ReconfAdd>();
+  add->ctfcSize.t = 5;
+  add->ctfcSize.u.ctfc12Bit = make<TFCS_ReconfAdd_ctfcSize_ctfc12Bit>();
+  uint32_t k = 0;
+  for (uint16_t v : ctfcs) {
+    if (k == count) break;
+    TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element* el = make<TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element>();
+    el->ctfc12 = v;
+    if (k < 2) {
+      el->m = 1;
+      PowerOffsetInformation* po = &el->powerOffsetInformation;
+      po->m = 1;
+      po->powerOffsetPp_m = -2;
+      if (k == 0) {
+        po->gainFactorInformation.t = 1;
+        SignalledGainFactors* g = make<SignalledGainFactors>();
+        g->modeSpecificInfo.t = 1;
+        g->modeSpecificInfo.u.fdd = make<SignalledGainFactors_modeSpecificInfo_fdd>();
+        g->modeSpecificInfo.u.fdd->gainFactorBetaC = 11;
+        g->gainFactorBetaD = 15;
+        g->m = 1;
+        g->referenceTFC_ID = 0;
+        po->gainFactorInformation.u.signalledGainFactors = g;
+      } else {
+        po->gainFactorInformation.t = 2;
+        po->gainFactorInformation.u.computedGainFactors = 0;
+      }
+    }
+    append(add->ctfcSize.u.ctfc12Bit, el);
+    k++;
+  }
+  return add;
+}
+
+/* `variant` picks among shapes of one cell that give the encoding different lengths: whether
+   the P-CCPCH information is sent (bit 0), whether each of the two radio bearers of the
+   RACH's formats names its logical channel (bits 1, 2), how many CTFCs the RACH's TFCS
+   holds (3 to 6, bits 3, 4), which access classes carry their own setting (bits 5 to 12),
+   then how many persistence factors (1 to 6) and how many FACHs (1 to 8) there are. */
+void build_sib5_second(Sib& sib, unsigned variant) {
+  const bool pccpch = (variant & 1u) == 0;
+  const unsigned log_ch = (variant >> 1) & 3u, ctfc_count = 6 - ((variant >> 3) & 3u), classes = (variant >> 5) & 0xFFu;
+  const unsigned persistence = 6 - (variant >> 13) % 6, fachs = 8 - (variant >> 13) / 6 % 8;
+  SysInfoType5* s = make<SysInfoType5>();
+  asn1Init_UMTS_SysInfoType5(s);
+  s->sib6indicator = 1;
+  s->pich_PowerOffset = -5;
+  s->modeSpecificInfo.t = 1;
+  s->modeSpecificInfo.u.fdd = make<SysInfoType5_modeSpecificInfo_fdd>();
+  s->modeSpecificInfo.u.fdd->aich_PowerOffset = -6;
+  if (pccpch) {
+    s->m |= 1;
+    s->primaryCCPCH_Info.t = 1;
+    s->primaryCCPCH_Info.u.fdd = make<PrimaryCCPCH_Info_fdd>();
+    s->primaryCCPCH_Info.u.fdd->tx_DiversityIndicator = 1;
+  }
+
+  /* PRACH 1: dedicated dynamic formats, a complete 12-bit TFCS, all eight access classes. */
+  for (int n = 0; n < 2; n++) {
+    PRACH_SystemInformation* prach = make<PRACH_SystemInformation>();
+    prach->prach_RACH_Info.modeSpecificInfo.t = 1;
+    PRACH_RACH_Info_modeSpecificInfo_fdd* ri = make<PRACH_RACH_Info_modeSpecificInfo_fdd>();
+    prach->prach_RACH_Info.modeSpecificInfo.u.fdd = ri;
+    set_bits(&ri->availableSignatures, 16, n == 0 ? 0xFF00 : 0x00FF);
+    ri->availableSF = UMTS_SF_PRACH_sfpr32;
+    ri->preambleScramblingCodeWordNumber = static_cast<uint8_t>(n);
+    ri->puncturingLimit = UMTS_PuncturingLimit_pl1;
+    set_bits(&ri->availableSubChannelNumbers, 12, 0xAAA);
+    prach->transportChannelIdentity = static_cast<uint8_t>(15 + n);
+    prach->modeSpecificInfo.t = 1;
+    PRACH_SystemInformation_modeSpecificInfo_fdd* pf = make<PRACH_SystemInformation_modeSpecificInfo_fdd>();
+    prach->modeSpecificInfo.u.fdd = pf;
+    pf->m = 1u << 4;
+    pf->aich_Info.channelisationCode256 = static_cast<uint8_t>(2 + n);
+    pf->aich_Info.aich_TransmissionTiming = UMTS_AICH_TransmissionTiming_e0;
+    if (n == 0) {
+      prach->m = 0x1F;
+      prach->rach_TransportFormatSet = dedicated_dynamic_tfs({42, 90}, log_ch);
+      asn1Init_UMTS_TFCS(&prach->rach_TFCS);
+      prach->rach_TFCS.t = 1;
+      ExplicitTFCS_Configuration* e = make<ExplicitTFCS_Configuration>();
+      e->t = 1;
+      e->u.complete = tfcs_add_12bit({0, 1, 291, 4095, 2, 3}, ctfc_count);
+      prach->rach_TFCS.u.normalTFCI_Signalling = e;
+      prach->prach_Partitioning.t = 1;
+      prach->prach_Partitioning.u.fdd = make<PRACH_Partitioning_fdd>();
+      for (uint8_t a = 0; a < 8; a++) {
+        ASCSetting_FDD* asc = make<ASCSetting_FDD>();
+        if (((classes >> a) & 1u) == 0) { /* a class without its own setting takes the one before */
+          asc->m = 1;
+          asc->accessServiceClass_FDD.availableSignatureStartIndex = a;
+          asc->accessServiceClass_FDD.availableSignatureEndIndex = 15;
+          set_bits(&asc->accessServiceClass_FDD.assignedSubChannelNumber, 4, 0xF);
+        }
+        append(prach->prach_Partitioning.u.fdd, asc);
+      }
+      prach->persistenceScalingFactorList.n = persistence;
+      for (uint32_t i = 0; i < persistence; i++) prach->persistenceScalingFactorList.elem[i] = i;
+      prach->ac_To_ASC_MappingTable.n = 7;
+      for (uint32_t i = 0; i < 7; i++) prach->ac_To_ASC_MappingTable.elem[i] = i % 7;
+    } else {
+      /* PRACH 2: the split TFCI signalling, with a TFCI range. */
+      prach->m = 0x2;
+      prach->rach_TFCS.t = 2;
+      SplitTFCI_Signalling* split = make<SplitTFCI_Signalling>();
+      split->m = 0xF;
+      split->splitType = UMTS_SplitType_logicalSplit;
+      split->tfci_Field2_Length = 5;
+      split->tfci_Field1_Information.t = 3; /* removal */
+      split->tfci_Field1_Information.u.removal = make<TFCS_RemovalList>();
+      for (uint16_t tfci : {3, 7}) {
+        TFCS_Removal* r = make<TFCS_Removal>();
+        r->tfci = tfci;
+        append(split->tfci_Field1_Information.u.removal, r);
+      }
+      split->tfci_Field2_Information.t = 1;
+      split->tfci_Field2_Information.u.tfci_Range = make<TFCI_RangeList>();
+      for (uint16_t i = 0; i < 3; i++) {
+        TFCI_Range* range = make<TFCI_Range>();
+        range->maxTFCIField2Value = static_cast<uint16_t>(10 * (i + 1));
+        range->tfcs_InfoForDSCH.t = i == 2 ? 7 : 5;
+        if (i == 2) range->tfcs_InfoForDSCH.u.ctfc24bit = 66051;
+        else range->tfcs_InfoForDSCH.u.ctfc12bit = static_cast<uint16_t>(291 + i);
+        append(split->tfci_Field2_Information.u.tfci_Range, range);
+      }
+      prach->rach_TFCS.u.dummy = split;
+    }
+    append(&s->prach_SystemInformationList, prach);
+  }
+
+  /* S-CCPCH 1: a replacement TFCS and eight FACHs; S-CCPCH 2: the PCH with its PICH. */
+  for (int n = 0; n < 2; n++) {
+    SCCPCH_SystemInformation* sc = make<SCCPCH_SystemInformation>();
+    sc->secondaryCCPCH_Info.modeSpecificInfo.t = 1;
+    SecondaryCCPCH_Info_modeSpecificInfo_fdd* sf = make<SecondaryCCPCH_Info_modeSpecificInfo_fdd>();
+    sc->secondaryCCPCH_Info.modeSpecificInfo.u.fdd = sf;
+    sf->m = n == 0 ? 3 : 0;
+    sf->dummy1 = UMTS_PCPICH_UsageForChannelEst_mayBeUsed;
+    sf->dummy2.m = 1;
+    sf->dummy2.secondaryDL_ScramblingCode = 2;
+    sf->dummy2.channelisationCode = 7;
+    sf->secondaryScramblingCode = 3;
+    sf->sf_AndCodeNumber.t = n == 0 ? 3 : 7; /* sf16, sf256 */
+    sf->sf_AndCodeNumber.u.sf16 = static_cast<uint8_t>(n == 0 ? 2 : 200);
+    sf->tfci_Existence = 1;
+    sf->positionFixedOrFlexible = UMTS_PositionFixedOrFlexible_fixed;
+    sf->timingOffset = static_cast<uint8_t>(n == 0 ? 149 : 10);
+    if (n == 0) {
+      sc->m = 0x3;
+      sc->tfcs.t = 1;
+      ExplicitTFCS_Configuration* e = make<ExplicitTFCS_Configuration>();
+      e->t = 4; /* replacement */
+      e->u.replacement = make<ExplicitTFCS_Configuration_replacement>();
+      TFCS_Removal* r = make<TFCS_Removal>();
+      r->tfci = 2;
+      append(&e->u.replacement->tfcsRemoval, r);
+      e->u.replacement->tfcsAdd = *tfcs_add_12bit({5, 6, 7});
+      sc->tfcs.u.normalTFCI_Signalling = e;
+      for (uint8_t f = 0; f < fachs; f++) {
+        FACH_PCH_Information* fach = make<FACH_PCH_Information>();
+        fach->transportFormatSet = common_tfs(1 + f % 4, {static_cast<uint8_t>(10 + f)}, {0, 1}, 2, UMTS_CodingRate_half,
+                                              static_cast<uint16_t>(200 + f), UMTS_CRC_Size_crc16);
+        fach->transportChannelIdentity = static_cast<uint8_t>(20 + f);
+        fach->ctch_Indicator = f + 1u == fachs ? 1 : 0;
+        append(&sc->fach_PCH_InformationList, fach);
+      }
+    } else {
+      sc->m = 0x6;
+      FACH_PCH_Information* pch = make<FACH_PCH_Information>();
+      pch->transportFormatSet = common_tfs(1, {4}, {0, 1}, 2, UMTS_CodingRate_half, 230, UMTS_CRC_Size_crc16);
+      pch->transportChannelIdentity = 12;
+      append(&sc->fach_PCH_InformationList, pch);
+      sc->pich_Info.t = 1;
+      sc->pich_Info.u.fdd = make<PICH_Info_fdd>();
+      sc->pich_Info.u.fdd->channelisationCode256 = 3;
+      sc->pich_Info.u.fdd->pi_CountPerFrame = UMTS_PI_CountPerFrame_e36;
+      sc->pich_Info.u.fdd->sttd_Indicator = 1;
+    }
+    append(&s->sCCPCH_SystemInformationList, sc);
+  }
+
+  s->m |= 2; /* cbs-DRX-Level1Information */
+  s->cbs_DRX_Level1Information.ctch_AllocationPeriod = 64;
+  s->cbs_DRX_Level1Information.cbs_FrameOffset = 8;
+  s->m |= 4; /* v4b0 .. v690 */
+  SysInfoType5_v4b0NonCriticalExtensions* v4b0 = &s->v4b0NonCriticalExtensions;
+  v4b0->m = 3;
+  v4b0->sysInfoType5_v4b0ext.m = 1u << 4;
+  v4b0->sysInfoType5_v4b0ext.frequencyBandIndicator = 0; /* bandI */
+  auto* v590 = &v4b0->v590NonCriticalExtensions;
+  v590->m = 2;
+  auto* v650 = &v590->v650NonCriticalExtensions;
+  v650->m = 3;
+  v650->sysInfoType5_v650ext.frequencyBandIndicator2 = 0;
+  auto* v680 = &v650->v680NonCriticalExtensions;
+  v680->m = 3;
+  v680->sysInfoType5_v680ext.m = 1;
+  v680->sysInfoType5_v680ext.hsdpa_CellIndicator = 0;
+  auto* v690 = &v680->v690NonCriticalExtensions;
+  v690->sysInfoType5_v690ext.m = 9;
+  v690->sysInfoType5_v690ext.edch_CellIndicator = 0;
+  v690->sysInfoType5_v690ext.cBS_DRX_Level1Information_extension = 2;
+  MKS_ENCODE(SysInfoType5, s, sib);
+}
+
 void build_sib7(Sib& sib) {
   SysInfoType7* s = make<SysInfoType7>();
   asn1Init_UMTS_SysInfoType7(s);
@@ -675,7 +928,7 @@ void build_sib18(Sib& sib) {
 
 /* ---- The cycle ---------------------------------------------------------------------------- */
 
-enum CycleIndex : uint32_t { kMib, kSb1, kSib1, kSib2, kSib3, kSib5, kSib7, kSib11, kSib12, kSib18, kCycleSize };
+enum CycleIndex : uint32_t { kMib, kSb1, kSib1, kSib2, kSib3, kSib5, kSib7, kSib11, kSib12, kSib18, kSib5Second, kCycleSize };
 
 std::string hex(const uint8_t* data, size_t n) {
   static const char digits[] = "0123456789abcdef";
@@ -695,7 +948,7 @@ std::vector<umts_bch_block> cut(const std::vector<Sib>& sibs) {
     in[i].sib_type = sibs[i].sib_type;
     in[i].data = sibs[i].bytes.data();
     in[i].numbits = sibs[i].numbits;
-    in[i].own_block = i == kMib ? 1 : 0;
+    in[i].own_block = i == kMib || i == kSib5Second ? 1 : 0;
   }
   std::vector<umts_bch_block> blocks(256);
   uint32_t count = 0, failed = 0;
@@ -758,6 +1011,7 @@ int main(int argc, char** argv) {
   sibs[kSib11] = {"sib11", "SIB11", 11, {}, 0};
   sibs[kSib12] = {"sib12", "SIB12", 12, {}, 0};
   sibs[kSib18] = {"sib18", "SIB18", 26, {}, 0};
+  sibs[kSib5Second] = {"sib5", "SIB5 (second form)", 5, {}, 0};
 
   build_sib1(sibs[kSib1]);
   build_sib2(sibs[kSib2]);
@@ -767,6 +1021,19 @@ int main(int argc, char** argv) {
   build_sib11(sibs[kSib11]);
   build_sib12(sibs[kSib12]);
   build_sib18(sibs[kSib18]);
+  /* The second SIB5 starts a block of its own, in the first of its shapes (from the fullest
+     down) whose encoding the octet join of segments can carry. */
+  for (unsigned variant = 0;; variant++) {
+    if (variant == (1u << 13) * 6 * 8) {
+      std::fprintf(stderr, "mksamples: SIB5 (second form), %u bits: ", sibs[kSib5Second].numbits);
+      die("no shape of it can be cut into transport blocks");
+    }
+    build_sib5_second(sibs[kSib5Second], variant);
+    const umts_bch_sib alone = {5, sibs[kSib5Second].bytes.data(), sibs[kSib5Second].numbits, 1};
+    std::vector<umts_bch_block> trial(64);
+    uint32_t count = 0;
+    if (umts_bch_segment(&alone, 1, 0, trial.data(), 64, &count, nullptr) == umts_bch_ok) break;
+  }
 
   /* Scheduling: MIB every 8 frames at SFN 0; SB1, SIB1, SIB3 and SIB7 often, the rest less. */
   const std::vector<Scheduled> mib_refs = {
@@ -805,6 +1072,9 @@ int main(int argc, char** argv) {
       "# One broadcast cycle of a UMTS FDD cell: MCC 262, MNC 01, LAC 0x4E21, cell identity\n"
       "# 0x01A2B3C, primary scrambling code 123. Written by mksamples (make samples).\n"
       "# SB1 also schedules SIB19, which the library does not convert: it is left out here.\n"
+      "# After SIB18 comes a second form of SIB5, as the cell sends it after a reconfiguration\n"
+      "# (dedicated and dynamic transport formats, fuller TFCS, eight FACHs); the MIB schedules\n"
+      "# the first.\n"
       "#\n"
       "# One BCH transport block per line, in hexadecimal: a BCCH-BCH-Message of TS 25.331,\n"
       "# 246 bits in 31 octets, SFN' counting up by one per block (here the blocks follow\n"
