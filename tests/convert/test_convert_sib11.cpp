@@ -1304,3 +1304,35 @@ TEST_F(ConvertSib11, OverTheBchInSeveralBlocks) {
 }
 
 }  // namespace
+
+namespace {
+
+// Decoded lists longer than their record (which the decoder never delivers) fill the array
+// and stop at its bound; the count keeps the low 8 bits of the decoded count.
+TEST(ConvertMeasLists, CopiedWithinTheirBound) {
+  Pool p;
+  rtxDList cells{};
+  for (unsigned i = 0; i < 40; i++) p.add<NewIntraFreqCellSI_RSCP>(cells)->intraFreqCellID = static_cast<uint8_t>(i);
+  for (rtxDListNode* n = cells.head; n != nullptr; n = n->next) static_cast<NewIntraFreqCellSI_RSCP*>(n->data)->m = 1;
+  struct {
+    umts_new_intra_freq_cell_si_list_rscp list;
+    uint8_t after[64];
+  } flat{};
+  convert_new_intra_freq_cell_si_list_rscp(&cells, &flat.list);
+  EXPECT_EQ(flat.list.count, 40);
+  EXPECT_EQ(flat.list.entries[31].intraFreqCellID, 31);
+  EXPECT_TRUE(allZero(flat.after));
+
+  rtxDList events{};
+  for (unsigned i = 0; i < 9; i++) p.add<IntraFreqEventCriteria>(events)->hysteresis = static_cast<uint8_t>(i + 1);
+  struct {
+    umts_intra_freq_event_criteria_list list;
+    uint8_t after[64];
+  } criteria{};
+  convert_intra_freq_event_criteria_list(&events, &criteria.list);
+  EXPECT_EQ(criteria.list.count, 9);
+  EXPECT_EQ(criteria.list.entries[7].hysteresis, 8);
+  EXPECT_TRUE(allZero(criteria.after));
+}
+
+}  // namespace
