@@ -370,18 +370,40 @@ void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used_cell_sel
     const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
     umts_ext_hcs_used_cpich_ec_n0* dst);
 
-/* Heads of the extension chains and the other members of SIB11bis: presence bits (and the
-   LCR tree's use_of_HCS tag) until their contents are converted. */
+/* Heads of the SIB11 and SIB12 extension chains and the LCR tree of SIB11bis: presence bits
+   (and the LCR tree's use_of_HCS tag) until their contents are converted. */
 void convert_sysinfotype11_v4b0_nc_extensions(const SysInfoType11_v4b0NonCriticalExtensions* src,
                                               umts_sib11_v4b0_nc_extensions* dst);
 void convert_sysinfotype12_v4b0_nc_extensions(const SysInfoType12_v4b0NonCriticalExtensions* src,
                                               umts_sib12_v4b0_nc_extensions* dst);
 void convert_measurement_control_sys_info_extension_lcr_r4(const MeasurementControlSysInfoExtension_LCR_r4* src,
                                                            umts_measurement_control_sys_info_extension_lcr_r4* dst);
+
+/* SIB11bis: the add-on of Release 5 (v590 cell records of the new cells) and the extension
+   chain v7b0, v860. */
 void convert_measurement_control_sys_info_extension_addon_r5(const MeasurementControlSysInfoExtensionAddon_r5* src,
                                                              umts_measurement_control_sys_info_extension_addon_r5* dst);
+void convert_measurement_control_sys_info_extension_addon_r5_new_intra_frequency_cell_info_list_addon_r5(
+    const MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5* src,
+    umts_cell_select_reselect_info_v590ext_list* dst);
+void convert_measurement_control_sys_info_extension_addon_r5_new_inter_frequency_cell_info_list_addon_r5(
+    const MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5* src,
+    umts_cell_select_reselect_info_v590ext_list* dst);
+void convert_measurement_control_sys_info_extension_addon_r5_new_inter_rat_cell_info_list_addon_r5(
+    const MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5* src,
+    umts_cell_select_reselect_info_v590ext_list* dst);
 void convert_sysinfotype11bis_v7b0_nc_extensions(const SysInfoType11bis_v7b0NonCriticalExtensions* src,
                                                  umts_sib11bis_v7b0_nc_extensions* dst);
+void convert_sysinfotype11bis_v7b0ext_ies(const SysInfoType11bis_v7b0ext_IEs* src, umts_v7b0ext_ies* dst);
+void convert_new_inter_freq_cell_list_v7b0ext(const NewInterFreqCellList_v7b0ext* src,
+                                              umts_new_inter_freq_cell_list_v7b0ext* dst);
+void convert_sysinfotype11bis_v7b0nces_v860nces(const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions* src,
+                                                umts_sib11bis_v860_nc_extensions* dst);
+void convert_sysinfotype11bis_v860ext_ies(const SysInfoType11bis_v860ext_IEs* src, umts_sib11bis_v860ext_ies* dst);
+void convert_csg_dedicated_frequency_info_list(const CSG_DedicatedFrequencyInfoList* src,
+                                               umts_csg_dedicated_frequency_info_list* dst);
+void convert_sysinfotype11bis_v7b0nces_v860nces_nces(
+    const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* src, uint8_t* dst);
 
 /* Cells of the intra-frequency lists, in the four forms. v is the flat name of the form
    (rscp, ecno, hcs_rscp, hcs_ecno), V the decoded one (RSCP, ECN0, HCS_RSCP, HCS_ECN0),

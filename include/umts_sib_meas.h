@@ -801,6 +801,48 @@
 #define umts_measurement_control_sys_info_extension_FIELDS(F) \
   F(RECORD, umts_ext_use_of_hcs, use_of_HCS, 1, UMTS_ALWAYS, _)
 
+/* ==== SIB11bis: the add-on of Release 5 and the extension chain ============================ */
+
+/* The v590 cell records of the new cells, in the order of the cell lists. */
+#define umts_cell_select_reselect_info_v590ext_list_FIELDS(F) \
+  UMTS_CELL_LIST_FIELDS(F, umts_cell_select_reselect_info_v590ext, 32)
+
+#define umts_measurement_control_sys_info_extension_addon_r5_FIELDS(F)                                         \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                                     \
+  F(RECORD, umts_cell_select_reselect_info_v590ext_list, newIntraFrequencyCellInfoListAddon_r5, 1, 0, _)       \
+  F(RECORD, umts_cell_select_reselect_info_v590ext_list, newInterFrequencyCellInfoListAddon_r5, 1, 1, _)       \
+  F(RECORD, umts_cell_select_reselect_info_v590ext_list, newInterRATCellInfoListAddon_r5, 1, 2, _)
+
+/* NewInterFreqCellList-v7b0ext: one intraSecondaryFreqIndicator (boolean) per new cell. */
+#define umts_new_inter_freq_cell_list_v7b0ext_FIELDS(F)        \
+  F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)                 \
+  F(ARRAY, uint8_t, intraSecondaryFreqIndicator, 32, UMTS_ALWAYS, count)
+
+#define umts_v7b0ext_ies_FIELDS(F)                                                     \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                             \
+  F(RECORD, umts_new_inter_freq_cell_list_v7b0ext, newInterFreqCellList, 1, 0, _)
+
+#define umts_csg_dedicated_frequency_info_list_FIELDS(F)       \
+  F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)                 \
+  F(ARRAY, umts_frequency_info, entries, 4, UMTS_ALWAYS, count)
+
+#define umts_sib11bis_v860ext_ies_FIELDS(F)                                                            \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                             \
+  F(RECORD, umts_csg_psc_split_info, csg_PSCSplitInfo, 1, 0, _)                                        \
+  F(RECORD, umts_csg_dedicated_frequency_info_list, csg_DedicatedFrequencyInfoList, 1, 1, _)
+
+/* Each link: its extension, always, then the next link under bit 0. nonCriticalExtensions is
+   the byte of an empty sequence. */
+#define umts_sib11bis_v860_nc_extensions_FIELDS(F)                                     \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                             \
+  F(RECORD, umts_sib11bis_v860ext_ies, sysInfoType11bis_v860ext, 1, UMTS_ALWAYS, _)    \
+  F(SCALAR, uint8_t, nonCriticalExtensions, 1, 0, _)
+
+#define umts_sib11bis_v7b0_nc_extensions_FIELDS(F)                                     \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                             \
+  F(RECORD, umts_v7b0ext_ies, sysInfoType11bis_v7b0ext, 1, UMTS_ALWAYS, _)             \
+  F(RECORD, umts_sib11bis_v860_nc_extensions, v860NonCriticalExtensions, 1, 0, _)
+
 /* ==== Records whose contents come with the LCR and extension-chain conversions ============= */
 /* For now each holds only its first field; the members behind it follow with their
    conversions, so that these records read as all zero. */
@@ -809,9 +851,6 @@
 #define umts_ext_use_of_hcs_lcr_r4_FIELDS(F) F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)
 #define umts_measurement_control_sys_info_extension_lcr_r4_FIELDS(F) \
   F(RECORD, umts_ext_use_of_hcs_lcr_r4, use_of_HCS, 1, UMTS_ALWAYS, _)
-#define umts_measurement_control_sys_info_extension_addon_r5_FIELDS(F) \
-  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)
-#define umts_sib11bis_v7b0_nc_extensions_FIELDS(F) F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)
 #define umts_sib11_v4b0ext_FIELDS(F) F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)
 #define umts_sib11_v590_nc_extension_FIELDS(F) F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)
 #define umts_sib12_v4b0ext_FIELDS(F) F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)
@@ -1016,7 +1055,13 @@
   X(RECORD, umts_measurement_control_sys_info_extension)                \
   X(RECORD, umts_ext_use_of_hcs_lcr_r4)                                 \
   X(RECORD, umts_measurement_control_sys_info_extension_lcr_r4)         \
+  X(RECORD, umts_cell_select_reselect_info_v590ext_list)               \
   X(RECORD, umts_measurement_control_sys_info_extension_addon_r5)       \
+  X(RECORD, umts_new_inter_freq_cell_list_v7b0ext)                      \
+  X(RECORD, umts_v7b0ext_ies)                                           \
+  X(RECORD, umts_csg_dedicated_frequency_info_list)                     \
+  X(RECORD, umts_sib11bis_v860ext_ies)                                  \
+  X(RECORD, umts_sib11bis_v860_nc_extensions)                           \
   X(RECORD, umts_sib11bis_v7b0_nc_extensions)                           \
   X(RECORD, umts_sib11_v4b0ext)                                         \
   X(RECORD, umts_sib11_v590_nc_extension)                               \

@@ -289,8 +289,9 @@ void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used_cell_sel
   both_cell_lists(src, dst, convert_new_intra_freq_cell_si_list_hcs_ecno, convert_new_inter_freq_cell_si_list_hcs_ecno);
 }
 
-/* ---- Heads of the extension chains and the SIB11bis members that come with the LCR and chain
-        conversions: for now they keep their presence bits and the LCR tree's use_of_HCS tag --- */
+/* ---- Heads of the SIB11 and SIB12 extension chains and the LCR tree of SIB11bis, whose
+        contents come with their conversions: for now their presence bits and the LCR tree's
+        use_of_HCS tag ----------------------------------------------------------------------- */
 
 void convert_sysinfotype11_v4b0_nc_extensions(const SysInfoType11_v4b0NonCriticalExtensions* src,
                                               umts_sib11_v4b0_nc_extensions* dst) {
@@ -307,14 +308,4 @@ void convert_sysinfotype12_v4b0_nc_extensions(const SysInfoType12_v4b0NonCritica
 void convert_measurement_control_sys_info_extension_lcr_r4(const MeasurementControlSysInfoExtension_LCR_r4* src,
                                                            umts_measurement_control_sys_info_extension_lcr_r4* dst) {
   dst->use_of_HCS.choice_tag = src->use_of_HCS.t;
-}
-
-void convert_measurement_control_sys_info_extension_addon_r5(const MeasurementControlSysInfoExtensionAddon_r5* src,
-                                                             umts_measurement_control_sys_info_extension_addon_r5* dst) {
-  dst->presence_bitmask = static_cast<uint16_t>(src->m & 7u);
-}
-
-void convert_sysinfotype11bis_v7b0_nc_extensions(const SysInfoType11bis_v7b0NonCriticalExtensions* src,
-                                                 umts_sib11bis_v7b0_nc_extensions* dst) {
-  dst->presence_bitmask = static_cast<uint16_t>(src->m & 1u);
 }

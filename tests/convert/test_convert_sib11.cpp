@@ -48,6 +48,9 @@ using Pointee = std::remove_pointer_t<P>;
 UMTS_HAS_MEMBER(HasOneOffset, q_OffsetS_N)
 UMTS_HAS_MEMBER(HasHcsRscp, hcs_NeighbouringCellInformation_RSCP)
 UMTS_HAS_MEMBER(HasHcsEcn0, hcs_NeighbouringCellInformation_ECN0)
+UMTS_HAS_MEMBER(HasSib12Indicator, sib12indicator)
+static_assert(HasSib12Indicator<umts_sib11_info>::value && !HasSib12Indicator<umts_sib12_info>::value,
+              "sib12indicator is SIB11's alone");
 
 // ---- Cells: built from their index, in any of the four forms ---------------------------------
 
@@ -1333,6 +1336,91 @@ TEST(ConvertMeasLists, CopiedWithinTheirBound) {
   EXPECT_EQ(criteria.list.count, 9);
   EXPECT_EQ(criteria.list.entries[7].hysteresis, 8);
   EXPECT_TRUE(allZero(criteria.after));
+}
+
+}  // namespace
+
+namespace {
+
+// SIB11bis with the add-on of Release 5 and its extension chain, cut after v7b0 or whole.
+TEST_F(ConvertSib11, Sib11bisAddonAndExtensionChain) {
+  for (bool v860 : {false, true}) {
+    SCOPED_TRACE(v860);
+    Pool p;
+    SysInfoType11bis s{};
+    s.m = 4 | 8;
+    MeasurementControlSysInfoExtensionAddon_r5& addon = s.measurementControlSysInfoExtensionAddon_r5;
+    addon.m = 5;  // intra-frequency and inter-RAT lists
+    for (unsigned i = 0; i < 32; i++) {
+      CellSelectReselectInfo_v590ext* c = p.add<CellSelectReselectInfo_v590ext>(addon.newIntraFrequencyCellInfoListAddon_r5);
+      c->m = i % 4;
+      c->deltaQrxlevmin = -2;
+      c->deltaQhcs = static_cast<int8_t>(-static_cast<int>(i % 5) - 1);
+    }
+    p.add<CellSelectReselectInfo_v590ext>(addon.newInterRATCellInfoListAddon_r5)->m = 0;
+    SysInfoType11bis_v7b0NonCriticalExtensions& v7b0 = s.v7b0NonCriticalExtensions;
+    v7b0.sysInfoType11bis_v7b0ext.m = 1;
+    for (unsigned i = 0; i < 32; i++)
+      p.add<NewInterFreqCell_v7b0ext>(v7b0.sysInfoType11bis_v7b0ext.newInterFreqCellList)->intraSecondaryFreqIndicator =
+          i == 31 || i % 3 == 0;
+    if (v860) {
+      v7b0.m = 1;
+      SysInfoType11bis_v860ext_IEs& ext = v7b0.v860NonCriticalExtensions.sysInfoType11bis_v860ext;
+      v7b0.v860NonCriticalExtensions.m = 1;
+      ext.m = 3;
+      ext.csg_PSCSplitInfo.startPSC = 63;
+      ext.csg_PSCSplitInfo.numberOfPSCs = 3;
+      for (unsigned i = 0; i < 4; i++) {
+        FrequencyInfo* f = p.add<FrequencyInfo>(ext.csg_DedicatedFrequencyInfoList);
+        f->modeSpecificInfo.t = 1;
+        f->modeSpecificInfo.u.fdd = p.make<FrequencyInfoFDD>();
+        f->modeSpecificInfo.u.fdd->m = i % 2;
+        f->modeSpecificInfo.u.fdd->uarfcn_UL = static_cast<uint16_t>(9600 + i);
+        f->modeSpecificInfo.u.fdd->uarfcn_DL = static_cast<uint16_t>(10550 + i);
+      }
+    }
+    ASSERT_EQ(whole(umts_sib_sib11bis, encode(asn1PE_UMTS_SysInfoType11bis, s)), 1);
+    const umts_sib11bis_info& f = result->sib11bis;
+    EXPECT_EQ(f.presence_bitmask, 12);
+    EXPECT_TRUE(allZero(f.measurementControlSysInfo));
+    const umts_measurement_control_sys_info_extension_addon_r5& a = f.measurementControlSysInfoExtensionAddon_r5;
+    EXPECT_EQ(a.presence_bitmask, 5);
+    ASSERT_EQ(a.newIntraFrequencyCellInfoListAddon_r5.count, 32);
+    for (unsigned i = 0; i < 32; i++) {
+      const umts_cell_select_reselect_info_v590ext& c = a.newIntraFrequencyCellInfoListAddon_r5.entries[i];
+      EXPECT_EQ(c.presence_bitmask, i % 4) << i;
+      EXPECT_EQ(c.deltaQrxlevmin, i % 2 ? -2 : 0) << i;
+      EXPECT_EQ(c.deltaQhcs, i % 4 >= 2 ? -static_cast<int>(i % 5) - 1 : 0) << i;
+    }
+    EXPECT_TRUE(allZero(a.newInterFrequencyCellInfoListAddon_r5));
+    EXPECT_EQ(a.newInterRATCellInfoListAddon_r5.count, 1);
+    const umts_sib11bis_v7b0_nc_extensions& l = f.v7b0NonCriticalExtensions;
+    EXPECT_EQ(l.presence_bitmask, v860 ? 1 : 0);
+    EXPECT_EQ(l.sysInfoType11bis_v7b0ext.presence_bitmask, 1);
+    ASSERT_EQ(l.sysInfoType11bis_v7b0ext.newInterFreqCellList.count, 32);
+    for (unsigned i = 0; i < 32; i++)
+      EXPECT_EQ(l.sysInfoType11bis_v7b0ext.newInterFreqCellList.intraSecondaryFreqIndicator[i], i == 31 || i % 3 == 0) << i;
+    if (!v860) {
+      EXPECT_TRUE(allZero(l.v860NonCriticalExtensions));
+      continue;
+    }
+    const umts_sib11bis_v860_nc_extensions& n = l.v860NonCriticalExtensions;
+    EXPECT_EQ(n.presence_bitmask, 1);
+    EXPECT_EQ(n.nonCriticalExtensions, 0);
+    const umts_sib11bis_v860ext_ies& e = n.sysInfoType11bis_v860ext;
+    EXPECT_EQ(e.presence_bitmask, 3);
+    EXPECT_EQ(e.csg_PSCSplitInfo.presence_bitmask, 0);  // no pscRange2Offset
+    EXPECT_EQ(e.csg_PSCSplitInfo.startPSC, 63);
+    EXPECT_EQ(e.csg_PSCSplitInfo.numberOfPSCs, 3u);
+    ASSERT_EQ(e.csg_DedicatedFrequencyInfoList.count, 4);
+    for (unsigned i = 0; i < 4; i++) {
+      const umts_frequency_info& fi = e.csg_DedicatedFrequencyInfoList.entries[i];
+      EXPECT_EQ(fi.choice_tag, 1u);
+      EXPECT_EQ(fi.u.fdd.presence_bitmask, i % 2);
+      EXPECT_EQ(fi.u.fdd.uarfcn_UL, i % 2 ? 9600 + i : 0u);
+      EXPECT_EQ(fi.u.fdd.uarfcn_DL, 10550 + i);
+    }
+  }
 }
 
 }  // namespace
