@@ -145,25 +145,29 @@ void* rtxMemHeapAllocSlow(rtxContext* ctx, size_t size);
 #define RT_HEAP_REDZONES 0
 #endif
 
-/* Memory from the context heap, 8-byte aligned, contents undefined; null on exhaustion. */
+/* Memory from the context heap, 8-byte aligned and zeroed; null on exhaustion. Neither the
+   context nor its heap blocks are cleared when they are set up or reused, so each allocation
+   is cleared here: a decoded value never shows what an earlier decoding, or the stack that
+   holds the context, left in its memory (members that a decoder leaves alone read as zero). */
 RT_INLINE void* rtxMemHeapAlloc(rtxContext* ctx, size_t size) {
   size_t rounded = (size + 7u) & ~(size_t)7u;
   rtxMemHeap* h = &ctx->heap;
+  void* p;
   if (!RT_HEAP_REDZONES && size <= RT_HEAP_INLINE && (size_t)(h->end - h->cur) >= rounded && (h->limit == 0 || h->used + rounded <= h->limit)) {
-    uint8_t* p = h->cur;
-    h->last = p;
-    h->cur = p + rounded;
+    uint8_t* q = h->cur;
+    h->last = q;
+    h->cur = q + rounded;
     h->used += rounded;
-    return p;
+    p = q;
+  } else {
+    p = rtxMemHeapAllocSlow(ctx, size);
   }
-  return rtxMemHeapAllocSlow(ctx, size);
-}
-
-RT_INLINE void* rtxMemHeapAllocZ(rtxContext* ctx, size_t size) {
-  void* p = rtxMemHeapAlloc(ctx, size);
   if (p) memset(p, 0, size);
   return p;
 }
+
+/* The same: every allocation is zeroed. */
+RT_INLINE void* rtxMemHeapAllocZ(rtxContext* ctx, size_t size) { return rtxMemHeapAlloc(ctx, size); }
 
 /* Give back one block. Only the most recent allocation is actually reclaimed; anything
    else stays until the context is reset or freed. */

@@ -450,6 +450,303 @@ void convert_gain_factor_information(const GainFactorInformation* src, umts_gain
 void convert_signalled_gain_factors(const SignalledGainFactors* src, umts_signalled_gain_factors* dst);
 void convert_signalled_gain_factors_mode_specific_info(const SignalledGainFactors_modeSpecificInfo* src, umts_signalled_gain_factors_mode_specific_info* dst);
 
+/* ==== SIB11, SIB11bis and SIB12 ========================================================== */
+
+/* FACH measurement occasion; inter_RAT_meas_ind is copied with all 15 entries. */
+void convert_fach_measurement_occasion_info(const FACH_MeasurementOccasionInfo* src,
+                                            umts_fach_measurement_occasion_info* dst);
+void convert_fach_measurement_occasion_info_inter_rat_meas_ind(const FACH_MeasurementOccasionInfo_inter_RAT_meas_ind* src,
+                                                               umts_inter_rat_meas_ind* dst);
+
+/* MeasurementControlSysInfo of SIB11 and SIB12: use_of_HCS, then cellSelectQualityMeasure,
+   choose the form of the cell records. Under hcs_not_used with cpich_Ec_N0 an
+   intra-frequency record present leaves the inter-frequency one unconverted. */
+void convert_measurement_control_sys_info(const MeasurementControlSysInfo* src, umts_measurement_control_sys_info* dst);
+void convert_measurement_control_sys_info_use_of_hcs(const MeasurementControlSysInfo_use_of_HCS* src,
+                                                     umts_use_of_hcs* dst);
+void convert_measurement_control_sys_info_use_of_hcs_hcs_not_used(
+    const MeasurementControlSysInfo_use_of_HCS_hcs_not_used* src, umts_hcs_not_used* dst);
+void convert_measurement_control_sys_info_use_of_hcs_hcs_used(const MeasurementControlSysInfo_use_of_HCS_hcs_used* src,
+                                                              umts_hcs_used* dst);
+void convert_measurement_control_sys_info_use_of_hcs_hcs_not_used_cell_select_quality_measure(
+    const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* src,
+    umts_hcs_not_used_quality_measure* dst);
+void convert_measurement_control_sys_info_use_of_hcs_hcs_used_cell_select_quality_measure(
+    const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure* src,
+    umts_hcs_used_quality_measure* dst);
+void convert_measurement_control_sys_info_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_rscp(
+    const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* src,
+    umts_hcs_not_used_cpich_rscp* dst);
+void convert_measurement_control_sys_info_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_ec_no(
+    const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
+    umts_hcs_not_used_cpich_ec_n0* dst);
+void convert_measurement_control_sys_info_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_rscp(
+    const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* src,
+    umts_hcs_used_cpich_rscp* dst);
+void convert_measurement_control_sys_info_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_ec_no(
+    const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
+    umts_hcs_used_cpich_ec_n0* dst);
+
+/* MeasurementControlSysInfoExtension of SIB11bis, of the same shape with the new-cell lists. */
+void convert_measurement_control_sys_info_extension(const MeasurementControlSysInfoExtension* src,
+                                                    umts_measurement_control_sys_info_extension* dst);
+void convert_measurement_control_sys_info_extension_use_of_hcs(const MeasurementControlSysInfoExtension_use_of_HCS* src,
+                                                               umts_ext_use_of_hcs* dst);
+void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_not_used(
+    const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used* src, umts_ext_hcs_not_used* dst);
+void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used(
+    const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used* src, umts_ext_hcs_used* dst);
+void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_not_used_cell_select_quality_measure(
+    const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* src,
+    umts_ext_hcs_not_used_quality_measure* dst);
+void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used_cell_select_quality_measure(
+    const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure* src,
+    umts_ext_hcs_used_quality_measure* dst);
+void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_rscp(
+    const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* src,
+    umts_ext_hcs_not_used_cpich_rscp* dst);
+void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_ec_no(
+    const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
+    umts_ext_hcs_not_used_cpich_ec_n0* dst);
+void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_rscp(
+    const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* src,
+    umts_ext_hcs_used_cpich_rscp* dst);
+void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_ec_no(
+    const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
+    umts_ext_hcs_used_cpich_ec_n0* dst);
+
+/* Heads of the SIB11 and SIB12 extension chains and the LCR tree of SIB11bis: presence bits
+   (and the LCR tree's use_of_HCS tag) until their contents are converted. */
+void convert_sysinfotype11_v4b0_nc_extensions(const SysInfoType11_v4b0NonCriticalExtensions* src,
+                                              umts_sib11_v4b0_nc_extensions* dst);
+void convert_sysinfotype12_v4b0_nc_extensions(const SysInfoType12_v4b0NonCriticalExtensions* src,
+                                              umts_sib12_v4b0_nc_extensions* dst);
+void convert_measurement_control_sys_info_extension_lcr_r4(const MeasurementControlSysInfoExtension_LCR_r4* src,
+                                                           umts_measurement_control_sys_info_extension_lcr_r4* dst);
+
+/* SIB11bis: the add-on of Release 5 (v590 cell records of the new cells) and the extension
+   chain v7b0, v860. */
+void convert_measurement_control_sys_info_extension_addon_r5(const MeasurementControlSysInfoExtensionAddon_r5* src,
+                                                             umts_measurement_control_sys_info_extension_addon_r5* dst);
+void convert_measurement_control_sys_info_extension_addon_r5_new_intra_frequency_cell_info_list_addon_r5(
+    const MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5* src,
+    umts_cell_select_reselect_info_v590ext_list* dst);
+void convert_measurement_control_sys_info_extension_addon_r5_new_inter_frequency_cell_info_list_addon_r5(
+    const MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5* src,
+    umts_cell_select_reselect_info_v590ext_list* dst);
+void convert_measurement_control_sys_info_extension_addon_r5_new_inter_rat_cell_info_list_addon_r5(
+    const MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5* src,
+    umts_cell_select_reselect_info_v590ext_list* dst);
+void convert_sysinfotype11bis_v7b0_nc_extensions(const SysInfoType11bis_v7b0NonCriticalExtensions* src,
+                                                 umts_sib11bis_v7b0_nc_extensions* dst);
+void convert_sysinfotype11bis_v7b0ext_ies(const SysInfoType11bis_v7b0ext_IEs* src, umts_v7b0ext_ies* dst);
+void convert_new_inter_freq_cell_list_v7b0ext(const NewInterFreqCellList_v7b0ext* src,
+                                              umts_new_inter_freq_cell_list_v7b0ext* dst);
+void convert_sysinfotype11bis_v7b0nces_v860nces(const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions* src,
+                                                umts_sib11bis_v860_nc_extensions* dst);
+void convert_sysinfotype11bis_v860ext_ies(const SysInfoType11bis_v860ext_IEs* src, umts_sib11bis_v860ext_ies* dst);
+void convert_csg_dedicated_frequency_info_list(const CSG_DedicatedFrequencyInfoList* src,
+                                               umts_csg_dedicated_frequency_info_list* dst);
+void convert_sysinfotype11bis_v7b0nces_v860nces_nces(
+    const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* src, uint8_t* dst);
+
+/* Cells of the intra-frequency lists, in the four forms. v is the flat name of the form
+   (rscp, ecno, hcs_rscp, hcs_ecno), V the decoded one (RSCP, ECN0, HCS_RSCP, HCS_ECN0),
+   sysinfo the spelling of its measurement function (sysinfo_rscp, sysinfo_ecno,
+   sys_info_hcs_rscp, sys_info_hcs_ecno). */
+#define UMTS_DECLARE_INTRA_FREQ_FORM(v, V, sysinfo)                                                            \
+  void convert_intra_freq_measurement_##sysinfo(const IntraFreqMeasurementSysInfo_##V* src,                    \
+                                                umts_intra_freq_measurement_##sysinfo* dst);                   \
+  void convert_intra_freq_cell_info_si_list_##v(const IntraFreqCellInfoSI_List_##V* src,                       \
+                                                umts_intra_freq_cell_info_si_list_##v* dst);                   \
+  void convert_new_intra_freq_cell_si_list_##v(const NewIntraFreqCellSI_List_##V* src,                         \
+                                               umts_new_intra_freq_cell_si_list_##v* dst);                     \
+  void convert_cell_info_si_##v(const CellInfoSI_##V* src, umts_cell_info_si_##v* dst);                        \
+  void convert_cell_info_si_##v##_mode_specific_info(const CellInfoSI_##V##_modeSpecificInfo* src,             \
+                                                     umts_cell_info_si_mode_specific_info* dst);               \
+  void convert_cell_info_si_##v##_mode_specific_info_fdd(const CellInfoSI_##V##_modeSpecificInfo_fdd* src,     \
+                                                         umts_cell_info_si_mode_specific_info_fdd* dst);       \
+  void convert_cell_info_si_##v##_mode_specific_info_tdd(const CellInfoSI_##V##_modeSpecificInfo_tdd* src,     \
+                                                         umts_cell_info_si_mode_specific_info_tdd* dst);       \
+  void convert_cell_select_reselect_info_sib_11_12_##v(const CellSelectReselectInfoSIB_11_12_##V* src,         \
+                                                       umts_cell_select_reselect_info_sib_11_12_##v* dst);     \
+  void convert_cell_select_reselect_info_sib_11_12_##v##_mode_specific_info(                                   \
+      const CellSelectReselectInfoSIB_11_12_##V##_modeSpecificInfo* src,                                       \
+      umts_cell_select_reselect_mode_specific_info* dst);                                                      \
+  void convert_cell_select_reselect_info_sib_11_12_##v##_mode_specific_info_fdd(                               \
+      const CellSelectReselectInfoSIB_11_12_##V##_modeSpecificInfo_fdd* src,                                   \
+      umts_cell_select_reselect_mode_specific_info_fdd* dst);                                                  \
+  void convert_cell_select_reselect_info_sib_11_12_##v##_mode_specific_info_tdd(                               \
+      const CellSelectReselectInfoSIB_11_12_##V##_modeSpecificInfo_tdd* src,                                   \
+      umts_cell_select_reselect_mode_specific_info_rxlev* dst);                                                \
+  void convert_cell_select_reselect_info_sib_11_12_##v##_mode_specific_info_gsm(                               \
+      const CellSelectReselectInfoSIB_11_12_##V##_modeSpecificInfo_gsm* src,                                   \
+      umts_cell_select_reselect_mode_specific_info_rxlev* dst);
+UMTS_DECLARE_INTRA_FREQ_FORM(rscp, RSCP, sysinfo_rscp)
+UMTS_DECLARE_INTRA_FREQ_FORM(ecno, ECN0, sysinfo_ecno)
+UMTS_DECLARE_INTRA_FREQ_FORM(hcs_rscp, HCS_RSCP, sys_info_hcs_rscp)
+UMTS_DECLARE_INTRA_FREQ_FORM(hcs_ecno, HCS_ECN0, sys_info_hcs_ecno)
+
+/* Intra-frequency records without a form. removeSomeIntraFreqCells keeps all 32 identity
+   bytes of the decoder. */
+void convert_removed_intra_freq_cell_list(const RemovedIntraFreqCellList* src, umts_removed_intra_freq_cell_list* dst);
+void convert_removed_intra_freq_cell_list_remove_some_intra_freq_cells(
+    const RemovedIntraFreqCellList_removeSomeIntraFreqCells* src, umts_removed_intra_freq_cells* dst);
+void convert_reference_time_difference_to_cell(const ReferenceTimeDifferenceToCell* src,
+                                               umts_reference_time_difference_to_cell* dst);
+void convert_primary_cpich_info(const PrimaryCPICH_Info* src, uint16_t* dst);
+void convert_timeslot_info_list(const TimeslotInfoList* src, umts_timeslot_info_list* dst);
+void convert_penalty_time_rscp(const PenaltyTime_RSCP* src, umts_penalty_time_rscp* dst);
+void convert_hcs_cell_reselect_info_rscp(const HCS_CellReselectInformation_RSCP* src, umts_penalty_time_rscp* dst);
+void convert_hcs_neighbouring_cell_info_rscp(const HCS_NeighbouringCellInformation_RSCP* src,
+                                             umts_hcs_neighbouring_cell_info_rscp* dst);
+/* The same copy, for the inter-RAT cells. */
+void convert_hcs_neighboring_cell_info_rscp(const HCS_NeighbouringCellInformation_RSCP* src,
+                                            umts_hcs_neighbouring_cell_info_rscp* dst);
+void convert_temporary_offset_list(const TemporaryOffsetList* src, umts_temporary_offset_list* dst);
+void convert_penalty_time_ecno(const PenaltyTime_ECN0* src, umts_penalty_time_ecno* dst);
+void convert_hcs_cell_reselect_info_ecno(const HCS_CellReselectInformation_ECN0* src, umts_penalty_time_ecno* dst);
+void convert_hcs_neighbouring_cell_info_ecno(const HCS_NeighbouringCellInformation_ECN0* src,
+                                             umts_hcs_neighbouring_cell_info_ecno* dst);
+
+/* Inter-frequency cells, in the four forms. The ECN0 new-cell list converts frequencyInfo
+   of every element and never sets its bit. */
+#define UMTS_DECLARE_INTER_FREQ_FORM(v, V, sysinfo)                                                            \
+  void convert_inter_freq_measurement_##sysinfo(const InterFreqMeasurementSysInfo_##V* src,                    \
+                                                umts_inter_freq_measurement_##sysinfo* dst);                   \
+  void convert_inter_freq_cell_info_si_list_##v(const InterFreqCellInfoSI_List_##V* src,                       \
+                                                umts_inter_freq_cell_info_si_list_##v* dst);                   \
+  void convert_new_inter_freq_cell_si_list_##v(const NewInterFreqCellSI_List_##V* src,                         \
+                                               umts_new_inter_freq_cell_si_list_##v* dst);
+UMTS_DECLARE_INTER_FREQ_FORM(rscp, RSCP, sysinfo_rscp)
+UMTS_DECLARE_INTER_FREQ_FORM(ecno, ECN0, sysinfo_ecno)
+UMTS_DECLARE_INTER_FREQ_FORM(hcs_rscp, HCS_RSCP, sys_info_hcs_rscp)
+UMTS_DECLARE_INTER_FREQ_FORM(hcs_ecno, HCS_ECN0, sys_info_hcs_ecno)
+
+/* removeSomeInterFreqCells keeps only the identities in use. */
+void convert_removed_inter_freq_cell_list(const RemovedInterFreqCellList* src, umts_removed_inter_freq_cell_list* dst);
+void convert_removed_inter_freq_cell_list_remove_some_inter_freq_cells(
+    const RemovedInterFreqCellList_removeSomeInterFreqCells* src, umts_removed_inter_freq_cells* dst);
+void convert_frequency_info(const FrequencyInfo* src, umts_frequency_info* dst);
+void convert_frequency_info_mode_specific_info(const FrequencyInfo_modeSpecificInfo* src, umts_frequency_info* dst);
+void convert_frequency_info_fdd(const FrequencyInfoFDD* src, umts_frequency_info_fdd* dst);
+void convert_frequency_info_tdd(const FrequencyInfoTDD* src, uint16_t* uarfcn_Nt);
+
+/* Inter-RAT cells: the full form under hcs_used and in SIB11bis, the B form under
+   hcs_not_used. */
+void convert_inter_rat_measurement_sys_info(const InterRATMeasurementSysInfo* src,
+                                            umts_inter_rat_measurement_sys_info* dst);
+void convert_inter_rat_cell_info_list(const InterRATCellInfoList* src, umts_inter_rat_cell_info_list* dst);
+void convert_cells_for_inter_rat_meas_list(const CellsForInterRATMeasList* src, umts_cells_for_inter_rat_meas_list* dst);
+void convert_new_inter_rat_cell_list(const NewInterRATCellList* src, umts_new_inter_rat_cell_list* dst);
+void convert_new_inter_rat_cell_technology_specific_info(const NewInterRATCell_technologySpecificInfo* src,
+                                                         umts_new_inter_rat_cell_technology_specific_info* dst);
+void convert_new_inter_rat_cell_technology_specific_info_gsm(const NewInterRATCell_technologySpecificInfo_gsm* src,
+                                                             umts_new_inter_rat_cell_gsm* dst);
+void convert_new_inter_rat_cell_technology_specific_info_is_2000(
+    const NewInterRATCell_technologySpecificInfo_is_2000* src, uint32_t* dst);
+void convert_inter_rat_measurement_sysinfo_b(const InterRATMeasurementSysInfo_B* src,
+                                             umts_inter_rat_measurement_sysinfo_b* dst);
+void convert_inter_rat_cell_info_list_b(const InterRATCellInfoList_B* src, umts_inter_rat_cell_info_list_b* dst);
+void convert_new_inter_rat_cell_list_b(const NewInterRATCellList_B* src, umts_new_inter_rat_cell_list_b* dst);
+void convert_new_inter_rat_cell_b(const NewInterRATCell_B* src, umts_new_inter_rat_cell* dst);
+void convert_new_inter_rat_cell_list_b_technology_specific_info(const NewInterRATCell_B_technologySpecificInfo* src,
+                                                                umts_new_inter_rat_cell_technology_specific_info* dst);
+void convert_new_inter_rat_cell_list_b_technology_specific_info_gsm(
+    const NewInterRATCell_B_technologySpecificInfo_gsm* src, umts_new_inter_rat_cell_gsm* dst);
+void convert_new_inter_rat_cell_list_b_technology_specific_info_is_2000(
+    const NewInterRATCell_B_technologySpecificInfo_is_2000* src, uint32_t* dst);
+void convert_removed_inter_rat_cell_list(const RemovedInterRATCellList* src, umts_removed_inter_rat_cell_list* dst);
+void convert_removed_inter_rat_cell_list_remove_some_inter_rat_cells(
+    const RemovedInterRATCellList_removeSomeInterRATCells* src, umts_removed_inter_rat_cells* dst);
+void convert_cell_select_reselect_info_sib_11_12(const CellSelectReselectInfoSIB_11_12* src,
+                                                 umts_cell_select_reselect_info_sib_11_12* dst);
+void convert_cell_select_reselect_info_sib_11_12_mode_specific_info(
+    const CellSelectReselectInfoSIB_11_12_modeSpecificInfo* src, umts_cell_select_reselect_mode_specific_info* dst);
+void convert_cell_select_reselect_info_sib_11_12_mode_specific_info_fdd(
+    const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd* src, umts_cell_select_reselect_mode_specific_info_fdd* dst);
+void convert_cell_select_reselect_info_sib_11_12_mode_specific_info_tdd(
+    const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd* src,
+    umts_cell_select_reselect_mode_specific_info_rxlev* dst);
+void convert_cell_select_reselect_info_sib_11_12_mode_specific_info_gsm(
+    const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm* src,
+    umts_cell_select_reselect_mode_specific_info_rxlev* dst);
+void convert_bsic(const BSIC* src, umts_bsic* dst);
+
+/* Traffic volume. The object list copies an identity only for dch and usch;
+   convert_ul_tr_ch_identity copies the value whatever the tag. */
+void convert_traffic_vol_meas_sys_info(const TrafficVolumeMeasSysInfo* src, umts_traffic_vol_meas_sys_info* dst);
+void convert_traffic_volume_measurement_object_list(const TrafficVolumeMeasurementObjectList* src,
+                                                    umts_traffic_volume_measurement_object_list* dst);
+void convert_traffic_volume_meas_quantity(const TrafficVolumeMeasQuantity* src, umts_traffic_volume_meas_quantity* dst);
+void convert_traffic_volume_reporting_quantity(const TrafficVolumeReportingQuantity* src,
+                                               umts_traffic_volume_reporting_quantity* dst);
+void convert_ul_tr_ch_identity(const UL_TrCH_Identity* src, umts_ul_tr_ch_identity* dst);
+void convert_traffic_volume_event_param(const TrafficVolumeEventParam* src, umts_traffic_volume_event_param* dst);
+void convert_trans_ch_criteria_event_specific_parameters(const TransChCriteria_eventSpecificParameters* src,
+                                                         umts_event_specific_parameters* dst);
+void convert_trans_ch_criteria(const TransChCriteria* src, umts_trans_ch_criteria* dst);
+void convert_trans_ch_criteria_list(const TransChCriteriaList* src, umts_trans_ch_criteria_list* dst);
+void convert_traffic_volume_reporting_criteria(const TrafficVolumeReportingCriteria* src,
+                                               umts_traffic_volume_reporting_criteria* dst);
+void convert_traffic_volume_report_criteria_sys_info(const TrafficVolumeReportCriteriaSysInfo* src,
+                                                     umts_traffic_volume_report_criteria_sys_info* dst);
+void convert_measurement_validity(const MeasurementValidity* src, uint32_t* dst);
+void convert_measurement_reporting_mode(const MeasurementReportingMode* src, umts_measurement_reporting_mode* dst);
+void convert_periodical_reporting_criteria(const PeriodicalReportingCriteria* src,
+                                           umts_periodical_reporting_criteria* dst);
+
+/* UE internal measurement. */
+void convert_ue_internal_meas_quantity(const UE_InternalMeasQuantity* src, umts_ue_internal_meas_quantity* dst);
+void convert_ue_internal_meas_sys_info(const UE_InternalMeasurementSysInfo* src, umts_ue_internal_meas_sys_info* dst);
+
+/* Intra-frequency and RACH reporting quantities; the tdd lists are copied whole. */
+void convert_intra_freq_meas_quantity(const IntraFreqMeasQuantity* src, umts_intra_freq_meas_quantity* dst);
+void convert_intra_freq_meas_quantity_mode_specific_info(const IntraFreqMeasQuantity_modeSpecificInfo* src,
+                                                         umts_intra_freq_meas_quantity_mode_specific_info* dst);
+void convert_intra_freq_meas_quantity_mode_specific_info_fdd(const IntraFreqMeasQuantity_modeSpecificInfo_fdd* src,
+                                                             uint32_t* dst);
+void convert_intra_freq_meas_quantity_mode_specific_info_tdd(const IntraFreqMeasQuantity_modeSpecificInfo_tdd* src,
+                                                             umts_intra_freq_meas_quantity_tdd_list* dst);
+void convert_intra_freq_meas_quantity_tdd_list(const IntraFreqMeasQuantity_TDDList* src,
+                                               umts_intra_freq_meas_quantity_tdd_list* dst);
+void convert_intra_freq_reporting_quantity_for_rach(const IntraFreqReportingQuantityForRACH* src,
+                                                    umts_intra_freq_reporting_quantity_for_rach* dst);
+void convert_intra_freq_reporting_quantity_for_rach_mode_specific_info(
+    const IntraFreqReportingQuantityForRACH_modeSpecificInfo* src,
+    umts_intra_freq_reporting_quantity_for_rach_mode_specific_info* dst);
+void convert_intra_freq_reporting_quantity_for_rach_mode_specific_info_fdd(
+    const IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd* src, uint32_t* dst);
+void convert_intra_freq_reporting_quantity_for_rach_mode_specific_info_tdd(
+    const IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd* src, umts_intra_freq_rep_quantity_rach_tdd_list* dst);
+void convert_intra_freq_reporting_quantity_for_rach_tdd_list(const IntraFreqRepQuantityRACH_TDDList* src,
+                                                             umts_intra_freq_rep_quantity_rach_tdd_list* dst);
+void convert_intra_freq_reporting_quantity(const IntraFreqReportingQuantity* src, umts_intra_freq_reporting_quantity* dst);
+void convert_cell_reporting_quantities(const CellReportingQuantities* src, umts_cell_reporting_quantities* dst);
+void convert_cell_reporting_quantities_mode_specific_info(const CellReportingQuantities_modeSpecificInfo* src,
+                                                          umts_cell_reporting_quantities_mode_specific_info* dst);
+void convert_cell_reporting_quantities_mode_specific_info_fdd(const CellReportingQuantities_modeSpecificInfo_fdd* src,
+                                                              umts_cell_reporting_quantities_fdd* dst);
+void convert_cell_reporting_quantities_mode_specific_info_tdd(const CellReportingQuantities_modeSpecificInfo_tdd* src,
+                                                              umts_cell_reporting_quantities_tdd* dst);
+
+/* Reporting for CELL_DCH, event criteria and events 1a to 1i. */
+void convert_reporting_info_for_cell_dch(const ReportingInfoForCellDCH* src, umts_reporting_info_for_cell_dch* dst);
+void convert_cell_dch_report_criteria(const CellDCH_ReportCriteria* src, umts_cell_dch_report_criteria* dst);
+void convert_intra_freq_reporting_criteria(const IntraFreqReportingCriteria* src, umts_intra_freq_reporting_criteria* dst);
+void convert_intra_freq_event_criteria_list(const IntraFreqEventCriteriaList* src,
+                                            umts_intra_freq_event_criteria_list* dst);
+void convert_intra_freq_event_criteria(const IntraFreqEventCriteria* src, umts_intra_freq_event_criteria* dst);
+void convert_intra_freq_event(const IntraFreqEvent* src, umts_intra_freq_event* dst);
+void convert_event_1a(const Event1a* src, umts_event_1a* dst);
+void convert_event_1b(const Event1b* src, umts_event_1b* dst);
+void convert_event_1c(const Event1c* src, umts_event_1c* dst);
+void convert_event_1e(const Event1e* src, umts_event_1e* dst);
+void convert_event_1f(const Event1f* src, umts_event_1f* dst);
+void convert_reporting_cell_status(const ReportingCellStatus* src, umts_reporting_cell_status* dst);
+void convert_forbidden_affect_cell_list(const ForbiddenAffectCellList* src, umts_forbidden_affect_cell_list* dst);
+void convert_forbidden_affect_cell(const ForbiddenAffectCell* src, umts_forbidden_affect_cell* dst);
+
 #ifdef __cplusplus
 }
 #endif

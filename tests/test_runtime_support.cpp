@@ -119,6 +119,26 @@ TEST(Heap, ManySmallAndBigAllocationsThenReset) {
   EXPECT_EQ(static_cast<void*>(ctx->heap.inline_block), rtxMemHeapAlloc(ctx, 8));
 }
 
+// A context that is initialised over old memory (a stack slot that held another context, a
+// heap block used before) hands out zeroed memory all the same, in its first block, in the
+// blocks after it and after a reset, so that a decoded value never shows what was there.
+TEST(Heap, AllocationsAreZeroedWhateverTheMemoryHeld) {
+  alignas(rtxContext) static unsigned char storage[sizeof(rtxContext)];
+  std::memset(storage, 0xA5, sizeof storage);
+  auto* c = reinterpret_cast<rtxContext*>(storage);
+  ASSERT_EQ(0, rtInitContext(c));
+  for (int round = 0; round < 2; round++) {
+    for (size_t n : {size_t(8), size_t(100), size_t(3000), size_t(9000), size_t(40)}) {
+      auto* p = static_cast<uint8_t*>(rtxMemHeapAlloc(c, n));
+      ASSERT_NE(nullptr, p);
+      EXPECT_EQ(Bytes(n, 0), Bytes(p, p + n)) << "round " << round << ", " << n << " octets";
+      std::memset(p, 0x5A, n);  // what the next round finds in the reused memory
+    }
+    rtxMemHeapReset(c);
+  }
+  rtFreeContext(c);
+}
+
 // ---- Name path --------------------------------------------------------------------------
 
 std::string pathOf(rtxContext* ctx) {

@@ -1,10 +1,14 @@
 /*
- * SIB11, SIB11bis and SIB12: measurement control system information.
+ * SIB11, SIB11bis and SIB12: the tops of the three blocks (slots 6, 7 and 8), the FACH
+ * measurement occasion, and the use_of_HCS / cellSelectQualityMeasure trees that choose the
+ * form (RSCP, ECN0, HCS_RSCP, HCS_ECN0) of every neighbour cell record below them.
  *
- * The frame runs (decoder, print, messages); the record is left zeroed after a successful
- * decoding until its copy is written here.
+ * Nothing here logs: the frame's messages are the only output of the blocks.
  */
+#include <cstring>
+
 #include "convert_frame.h"
+#include "umts_sib_convert.h"
 
 namespace {
 
@@ -35,22 +39,36 @@ const umts_frame_desc kSib12Frame = {
     {UMTS_FRAME_QUIET, nullptr},
 };
 
+/* intra, then inter, each by its own bit. */
+template <class Src, class Dst, class Intra, class Inter>
+void both_frequencies(const Src* src, Dst* dst, Intra intra, Inter inter) {
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, intra, intraFreqMeasurementSysInfo);
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, inter, interFreqMeasurementSysInfo);
+}
+
+template <class Src, class Dst, class Intra, class Inter>
+void both_cell_lists(const Src* src, Dst* dst, Intra intra, Inter inter) {
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, intra, newIntraFreqCellList);
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, inter, newInterFreqCellList);
+}
+
 }  // namespace
+
+/* ---- The tops ---------------------------------------------------------------------------------- */
 
 uint8_t umts_convert_sib11(umts_sib11_info* sib11) {
   rtxContext ctx;
   SysInfoType11 decoded;
   if (!umts_frame_open(&ctx, &kSib11Frame)) return 0;
   if (!UMTS_FRAME_DECODE(ctx, SysInfoType11, decoded, kSib11Frame, sib11)) return 0;
+  sib11->sib12indicator = decoded.sib12indicator;
+  UMTS_CONVERT_OPTIONAL(&decoded, sib11, 1u, convert_fach_measurement_occasion_info, fach_MeasurementOccasionInfo);
+  convert_measurement_control_sys_info(&decoded.measurementControlSysInfo, &sib11->measurementControlSysInfo);
+  if (decoded.m & 2u) {
+    sib11->presence_bitmask |= 2u;
+    convert_sysinfotype11_v4b0_nc_extensions(&decoded.v4b0NonCriticalExtensions, &sib11->v4b0NonCriticalExtensions);
+  }
   return umts_frame_close(&ctx, &kSib11Frame);
-}
-
-uint8_t umts_convert_sib11bis(umts_sib11bis_info* sib11bis) {
-  rtxContext ctx;
-  SysInfoType11bis decoded;
-  if (!umts_frame_open(&ctx, &kSib11bisFrame)) return 0;
-  if (!UMTS_FRAME_DECODE(ctx, SysInfoType11bis, decoded, kSib11bisFrame, sib11bis)) return 0;
-  return umts_frame_close(&ctx, &kSib11bisFrame);
 }
 
 uint8_t umts_convert_sib12(umts_sib12_info* sib12) {
@@ -58,5 +76,236 @@ uint8_t umts_convert_sib12(umts_sib12_info* sib12) {
   SysInfoType12 decoded;
   if (!umts_frame_open(&ctx, &kSib12Frame)) return 0;
   if (!UMTS_FRAME_DECODE(ctx, SysInfoType12, decoded, kSib12Frame, sib12)) return 0;
+  UMTS_CONVERT_OPTIONAL(&decoded, sib12, 1u, convert_fach_measurement_occasion_info, fach_MeasurementOccasionInfo);
+  convert_measurement_control_sys_info(&decoded.measurementControlSysInfo, &sib12->measurementControlSysInfo);
+  if (decoded.m & 2u) {
+    sib12->presence_bitmask |= 2u;
+    convert_sysinfotype12_v4b0_nc_extensions(&decoded.v4b0NonCriticalExtensions, &sib12->v4b0NonCriticalExtensions);
+  }
   return umts_frame_close(&ctx, &kSib12Frame);
+}
+
+uint8_t umts_convert_sib11bis(umts_sib11bis_info* sib11bis) {
+  rtxContext ctx;
+  SysInfoType11bis decoded;
+  if (!umts_frame_open(&ctx, &kSib11bisFrame)) return 0;
+  if (!UMTS_FRAME_DECODE(ctx, SysInfoType11bis, decoded, kSib11bisFrame, sib11bis)) return 0;
+  UMTS_CONVERT_OPTIONAL(&decoded, sib11bis, 1u, convert_measurement_control_sys_info_extension, measurementControlSysInfo);
+  UMTS_CONVERT_OPTIONAL(&decoded, sib11bis, 2u, convert_measurement_control_sys_info_extension_lcr_r4,
+                        measurementControlSysInfo_LCR);
+  UMTS_CONVERT_OPTIONAL(&decoded, sib11bis, 4u, convert_measurement_control_sys_info_extension_addon_r5,
+                        measurementControlSysInfoExtensionAddon_r5);
+  UMTS_CONVERT_OPTIONAL(&decoded, sib11bis, 8u, convert_sysinfotype11bis_v7b0_nc_extensions, v7b0NonCriticalExtensions);
+  return umts_frame_close(&ctx, &kSib11bisFrame);
+}
+
+/* ---- FACH measurement occasion ------------------------------------------------------------------ */
+
+void convert_fach_measurement_occasion_info(const FACH_MeasurementOccasionInfo* src,
+                                            umts_fach_measurement_occasion_info* dst) {
+  UMTS_COPY_OPTIONAL(src, dst, 1u, fACH_meas_occasion_coeff);
+  dst->inter_freq_FDD_meas_ind = src->inter_freq_FDD_meas_ind;
+  dst->inter_freq_TDD_meas_ind = src->inter_freq_TDD_meas_ind;
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_fach_measurement_occasion_info_inter_rat_meas_ind, inter_RAT_meas_ind);
+}
+
+/* The count and all 15 entries, used or not, as the decoder laid them out. */
+void convert_fach_measurement_occasion_info_inter_rat_meas_ind(const FACH_MeasurementOccasionInfo_inter_RAT_meas_ind* src,
+                                                               umts_inter_rat_meas_ind* dst) {
+  static_assert(sizeof *src == sizeof *dst, "count and 15 entries");
+  std::memcpy(dst, src, sizeof *dst);
+}
+
+/* ---- SIB11 and SIB12: MeasurementControlSysInfo ------------------------------------------------- */
+
+void convert_measurement_control_sys_info(const MeasurementControlSysInfo* src, umts_measurement_control_sys_info* dst) {
+  convert_measurement_control_sys_info_use_of_hcs(&src->use_of_HCS, &dst->use_of_HCS);
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_traffic_vol_meas_sys_info, trafficVolumeMeasSysInfo);
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_ue_internal_meas_sys_info, dummy);
+}
+
+void convert_measurement_control_sys_info_use_of_hcs(const MeasurementControlSysInfo_use_of_HCS* src,
+                                                     umts_use_of_hcs* dst) {
+  dst->choice_tag = src->t;
+  if (src->t == 1 && src->u.hcs_not_used != nullptr)
+    convert_measurement_control_sys_info_use_of_hcs_hcs_not_used(src->u.hcs_not_used, &dst->u.hcs_not_used);
+  else if (src->t == 2 && src->u.hcs_used != nullptr)
+    convert_measurement_control_sys_info_use_of_hcs_hcs_used(src->u.hcs_used, &dst->u.hcs_used);
+}
+
+void convert_measurement_control_sys_info_use_of_hcs_hcs_not_used(
+    const MeasurementControlSysInfo_use_of_HCS_hcs_not_used* src, umts_hcs_not_used* dst) {
+  convert_measurement_control_sys_info_use_of_hcs_hcs_not_used_cell_select_quality_measure(
+      &src->cellSelectQualityMeasure, &dst->cellSelectQualityMeasure);
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_inter_rat_measurement_sysinfo_b, interRATMeasurementSysInfo);
+}
+
+void convert_measurement_control_sys_info_use_of_hcs_hcs_used(const MeasurementControlSysInfo_use_of_HCS_hcs_used* src,
+                                                              umts_hcs_used* dst) {
+  convert_measurement_control_sys_info_use_of_hcs_hcs_used_cell_select_quality_measure(&src->cellSelectQualityMeasure,
+                                                                                       &dst->cellSelectQualityMeasure);
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_inter_rat_measurement_sys_info, interRATMeasurementSysInfo);
+}
+
+void convert_measurement_control_sys_info_use_of_hcs_hcs_not_used_cell_select_quality_measure(
+    const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* src,
+    umts_hcs_not_used_quality_measure* dst) {
+  dst->choice_tag = src->t;
+  if (src->t == 1 && src->u.cpich_RSCP != nullptr)
+    convert_measurement_control_sys_info_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_rscp(
+        src->u.cpich_RSCP, &dst->u.cpich_RSCP);
+  else if (src->t == 2 && src->u.cpich_Ec_N0 != nullptr)
+    convert_measurement_control_sys_info_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_ec_no(
+        src->u.cpich_Ec_N0, &dst->u.cpich_Ec_N0);
+}
+
+void convert_measurement_control_sys_info_use_of_hcs_hcs_used_cell_select_quality_measure(
+    const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure* src,
+    umts_hcs_used_quality_measure* dst) {
+  dst->choice_tag = src->t;
+  if (src->t == 1 && src->u.cpich_RSCP != nullptr)
+    convert_measurement_control_sys_info_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_rscp(
+        src->u.cpich_RSCP, &dst->u.cpich_RSCP);
+  else if (src->t == 2 && src->u.cpich_Ec_N0 != nullptr)
+    convert_measurement_control_sys_info_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_ec_no(
+        src->u.cpich_Ec_N0, &dst->u.cpich_Ec_N0);
+}
+
+void convert_measurement_control_sys_info_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_rscp(
+    const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* src,
+    umts_hcs_not_used_cpich_rscp* dst) {
+  both_frequencies(src, dst, convert_intra_freq_measurement_sysinfo_rscp, convert_inter_freq_measurement_sysinfo_rscp);
+}
+
+/* The exception of this branch: with the intra-frequency record present, the conversion
+   stops there and the inter-frequency record is not even looked at; it is converted only
+   when no intra-frequency record came. */
+void convert_measurement_control_sys_info_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_ec_no(
+    const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
+    umts_hcs_not_used_cpich_ec_n0* dst) {
+  if (src->m & 1u) {
+    dst->presence_bitmask |= 1u;
+    convert_intra_freq_measurement_sysinfo_ecno(&src->intraFreqMeasurementSysInfo, &dst->intraFreqMeasurementSysInfo);
+    return;
+  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_inter_freq_measurement_sysinfo_ecno, interFreqMeasurementSysInfo);
+}
+
+void convert_measurement_control_sys_info_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_rscp(
+    const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* src,
+    umts_hcs_used_cpich_rscp* dst) {
+  both_frequencies(src, dst, convert_intra_freq_measurement_sys_info_hcs_rscp,
+                   convert_inter_freq_measurement_sys_info_hcs_rscp);
+}
+
+void convert_measurement_control_sys_info_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_ec_no(
+    const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
+    umts_hcs_used_cpich_ec_n0* dst) {
+  both_frequencies(src, dst, convert_intra_freq_measurement_sys_info_hcs_ecno,
+                   convert_inter_freq_measurement_sys_info_hcs_ecno);
+}
+
+/* ---- SIB11bis: MeasurementControlSysInfoExtension ----------------------------------------------- */
+
+void convert_measurement_control_sys_info_extension(const MeasurementControlSysInfoExtension* src,
+                                                    umts_measurement_control_sys_info_extension* dst) {
+  convert_measurement_control_sys_info_extension_use_of_hcs(&src->use_of_HCS, &dst->use_of_HCS);
+}
+
+void convert_measurement_control_sys_info_extension_use_of_hcs(const MeasurementControlSysInfoExtension_use_of_HCS* src,
+                                                               umts_ext_use_of_hcs* dst) {
+  dst->choice_tag = src->t;
+  if (src->t == 1 && src->u.hcs_not_used != nullptr)
+    convert_measurement_control_sys_info_extension_use_of_hcs_hcs_not_used(src->u.hcs_not_used, &dst->u.hcs_not_used);
+  else if (src->t == 2 && src->u.hcs_used != nullptr)
+    convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used(src->u.hcs_used, &dst->u.hcs_used);
+}
+
+void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_not_used(
+    const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used* src, umts_ext_hcs_not_used* dst) {
+  convert_measurement_control_sys_info_extension_use_of_hcs_hcs_not_used_cell_select_quality_measure(
+      &src->cellSelectQualityMeasure, &dst->cellSelectQualityMeasure);
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_new_inter_rat_cell_list, newInterRATCellList);
+}
+
+void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used(
+    const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used* src, umts_ext_hcs_used* dst) {
+  convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used_cell_select_quality_measure(
+      &src->cellSelectQualityMeasure, &dst->cellSelectQualityMeasure);
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_new_inter_rat_cell_list, newInterRATCellList);
+}
+
+void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_not_used_cell_select_quality_measure(
+    const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* src,
+    umts_ext_hcs_not_used_quality_measure* dst) {
+  dst->choice_tag = src->t;
+  if (src->t == 1 && src->u.cpich_RSCP != nullptr)
+    convert_measurement_control_sys_info_extension_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_rscp(
+        src->u.cpich_RSCP, &dst->u.cpich_RSCP);
+  else if (src->t == 2 && src->u.cpich_Ec_N0 != nullptr)
+    convert_measurement_control_sys_info_extension_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_ec_no(
+        src->u.cpich_Ec_N0, &dst->u.cpich_Ec_N0);
+}
+
+void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used_cell_select_quality_measure(
+    const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure* src,
+    umts_ext_hcs_used_quality_measure* dst) {
+  dst->choice_tag = src->t;
+  if (src->t == 1 && src->u.cpich_RSCP != nullptr)
+    convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_rscp(
+        src->u.cpich_RSCP, &dst->u.cpich_RSCP);
+  else if (src->t == 2 && src->u.cpich_Ec_N0 != nullptr)
+    convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_ec_no(
+        src->u.cpich_Ec_N0, &dst->u.cpich_Ec_N0);
+}
+
+void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_rscp(
+    const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* src,
+    umts_ext_hcs_not_used_cpich_rscp* dst) {
+  both_cell_lists(src, dst, convert_new_intra_freq_cell_si_list_rscp, convert_new_inter_freq_cell_si_list_rscp);
+}
+
+/* As in SIB11: with newIntraFreqCellList present, newInterFreqCellList is left alone. */
+void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_ec_no(
+    const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
+    umts_ext_hcs_not_used_cpich_ec_n0* dst) {
+  if (src->m & 1u) {
+    dst->presence_bitmask |= 1u;
+    convert_new_intra_freq_cell_si_list_ecno(&src->newIntraFreqCellList, &dst->newIntraFreqCellList);
+    return;
+  }
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_new_inter_freq_cell_si_list_ecno, newInterFreqCellList);
+}
+
+void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_rscp(
+    const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* src,
+    umts_ext_hcs_used_cpich_rscp* dst) {
+  both_cell_lists(src, dst, convert_new_intra_freq_cell_si_list_hcs_rscp, convert_new_inter_freq_cell_si_list_hcs_rscp);
+}
+
+void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_ec_no(
+    const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
+    umts_ext_hcs_used_cpich_ec_n0* dst) {
+  both_cell_lists(src, dst, convert_new_intra_freq_cell_si_list_hcs_ecno, convert_new_inter_freq_cell_si_list_hcs_ecno);
+}
+
+/* ---- Heads of the SIB11 and SIB12 extension chains and the LCR tree of SIB11bis, whose
+        contents come with their conversions: for now their presence bits and the LCR tree's
+        use_of_HCS tag ----------------------------------------------------------------------- */
+
+void convert_sysinfotype11_v4b0_nc_extensions(const SysInfoType11_v4b0NonCriticalExtensions* src,
+                                              umts_sib11_v4b0_nc_extensions* dst) {
+  if (src->m & 1u) dst->presence_bitmask |= 1u;
+  if (src->m & 2u) dst->presence_bitmask |= 2u;
+}
+
+void convert_sysinfotype12_v4b0_nc_extensions(const SysInfoType12_v4b0NonCriticalExtensions* src,
+                                              umts_sib12_v4b0_nc_extensions* dst) {
+  if (src->m & 1u) dst->presence_bitmask |= 1u;
+  if (src->m & 2u) dst->presence_bitmask |= 2u;
+}
+
+void convert_measurement_control_sys_info_extension_lcr_r4(const MeasurementControlSysInfoExtension_LCR_r4* src,
+                                                           umts_measurement_control_sys_info_extension_lcr_r4* dst) {
+  dst->use_of_HCS.choice_tag = src->use_of_HCS.t;
 }

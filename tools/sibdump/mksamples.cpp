@@ -6,7 +6,9 @@
  *                                                  line in hex, '#' comments on what each
  *                                                  block carries (input of sibdump)
  *                          DIR/fdd_cell_sibs.txt   the same SIBs whole, '<name> <hex>'
- *                                                  (input of sibdump --sibs)
+ *                                                  (input of sibdump --sibs), then a
+ *                                                  SIB11bis and a second form of SIB11
+ *                                                  (HCS in use, Ec/N0) not in the cycle
  *
  * The cell: MCC 262, MNC 01, LAC 0x4E21, RAC 5, cell identity 0x01A2B3C (RNC 26, C-Id 11068),
  * primary scrambling code 123 on one carrier, in four URAs, a dozen intra-frequency neighbours
@@ -117,6 +119,7 @@ MKS_DEFINE_CHECK(SysInfoType3)
 MKS_DEFINE_CHECK(SysInfoType5)
 MKS_DEFINE_CHECK(SysInfoType7)
 MKS_DEFINE_CHECK(SysInfoType11)
+MKS_DEFINE_CHECK(SysInfoType11bis)
 MKS_DEFINE_CHECK(SysInfoType12)
 MKS_DEFINE_CHECK(SysInfoType18)
 
@@ -864,6 +867,119 @@ void build_sib12(Sib& sib) {
   MKS_ENCODE(SysInfoType12, s, sib);
 }
 
+/* The same neighbours as the cell would list them with hierarchical cell structures in use
+   and Ec/N0 as quality measure: each intra-frequency cell with its HCS priority, quality
+   threshold and penalty time, the GSM cells in the full inter-RAT list. Written to the
+   whole-SIB file only, as a second form of SIB11 beside the one of the cycle. */
+void build_sib11_hcs(Sib& sib) {
+  SysInfoType11* s = make<SysInfoType11>();
+  asn1Init_UMTS_SysInfoType11(s);
+  s->sib12indicator = 1;
+  MeasurementControlSysInfo* mc = &s->measurementControlSysInfo;
+  mc->use_of_HCS.t = 2; /* hcs-used */
+  MeasurementControlSysInfo_use_of_HCS_hcs_used* hu = make<MeasurementControlSysInfo_use_of_HCS_hcs_used>();
+  mc->use_of_HCS.u.hcs_used = hu;
+  hu->cellSelectQualityMeasure.t = 2; /* cpich-Ec-N0 */
+  MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* ec =
+      make<MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0>();
+  hu->cellSelectQualityMeasure.u.cpich_Ec_N0 = ec;
+  ec->m = 1;
+  IntraFreqMeasurementSysInfo_HCS_ECN0* intra = &ec->intraFreqMeasurementSysInfo;
+  intra->intraFreqMeasurementID = 1;
+  intra->m = 1;
+  for (size_t i = 0; i < sizeof kIntraNeighbours / sizeof kIntraNeighbours[0]; i++) {
+    NewIntraFreqCellSI_HCS_ECN0* cell = make<NewIntraFreqCellSI_HCS_ECN0>();
+    cell->m = 1;
+    cell->intraFreqCellID = static_cast<uint8_t>(i + 1);
+    cell->cellInfo.modeSpecificInfo.t = 1;
+    CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd* fdd = make<CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd>();
+    cell->cellInfo.modeSpecificInfo.u.fdd = fdd;
+    fdd->m = 1;
+    fdd->primaryCPICH_Info.primaryScramblingCode = kIntraNeighbours[i].psc;
+    /* Micro cells (every third) have the higher priority and a penalty of 20 s with offsets. */
+    cell->cellInfo.m |= 1u << 1;
+    CellSelectReselectInfoSIB_11_12_HCS_ECN0* r = &cell->cellInfo.cellSelectionReselectionInfo;
+    r->q_Offset2S_N = kIntraNeighbours[i].q_offset2;
+    r->m = 1u << 1; /* hcs-NeighbouringCellInformation-ECN0 */
+    const bool micro = i % 3 == 0;
+    r->hcs_NeighbouringCellInformation_ECN0.hcs_PRIO = micro ? 5 : 2;
+    r->hcs_NeighbouringCellInformation_ECN0.q_HCS = micro ? 30 : 20;
+    PenaltyTime_ECN0* pt = &r->hcs_NeighbouringCellInformation_ECN0.hcs_CellReselectInformation.penaltyTime;
+    pt->t = micro ? 3 : 1; /* pt20 or notUsed */
+    if (micro) {
+      pt->u.pt20 = make<TemporaryOffsetList>();
+      pt->u.pt20->temporaryOffset1 = UMTS_TemporaryOffset1_to6;
+      pt->u.pt20->temporaryOffset2 = UMTS_TemporaryOffset2_to4;
+    }
+    r->modeSpecificInfo.t = 1;
+    r->modeSpecificInfo.u.fdd = make<CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd>();
+    append(&intra->intraFreqCellInfoSI_List.newIntraFreqCellList, cell);
+  }
+  hu->m = 1;
+  hu->interRATMeasurementSysInfo.m = 1;
+  InterRATCellInfoList* l = &hu->interRATMeasurementSysInfo.interRATCellInfoList;
+  l->removedInterRATCellList.t = 3; /* removeNoInterRATCells */
+  for (size_t i = 0; i < sizeof kGsmNeighbours / sizeof kGsmNeighbours[0]; i++) {
+    NewInterRATCell* cell = make<NewInterRATCell>();
+    cell->m = 1;
+    cell->interRATCellID = static_cast<uint8_t>(i);
+    cell->technologySpecificInfo.t = 1;
+    NewInterRATCell_technologySpecificInfo_gsm* g = make<NewInterRATCell_technologySpecificInfo_gsm>();
+    cell->technologySpecificInfo.u.gsm = g;
+    g->bsic.ncc = kGsmNeighbours[i].ncc;
+    g->bsic.bcc = kGsmNeighbours[i].bcc;
+    g->frequency_band = UMTS_Frequency_Band_dcs1800BandUsed;
+    g->bcch_ARFCN = kGsmNeighbours[i].arfcn;
+    append(&l->newInterRATCellList, cell);
+  }
+  MKS_ENCODE(SysInfoType11, s, sib);
+}
+
+/* SIB11bis: further neighbours beyond those of SIB11, four intra-frequency cells and one GSM
+   cell, Ec/N0 without HCS as in SIB11. Written to the whole-SIB file only: the cycle does
+   not schedule it. */
+const uint16_t kMoreIntraNeighbours[] = {251, 262, 277, 290};
+void build_sib11bis(Sib& sib) {
+  SysInfoType11bis* s = make<SysInfoType11bis>();
+  asn1Init_UMTS_SysInfoType11bis(s);
+  s->m = 1; /* measurementControlSysInfo */
+  MeasurementControlSysInfoExtension_use_of_HCS* use = &s->measurementControlSysInfo.use_of_HCS;
+  use->t = 1; /* hcs-not-used */
+  MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used* nu =
+      make<MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used>();
+  use->u.hcs_not_used = nu;
+  nu->cellSelectQualityMeasure.t = 2; /* cpich-Ec-N0 */
+  MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* ec =
+      make<MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0>();
+  nu->cellSelectQualityMeasure.u.cpich_Ec_N0 = ec;
+  ec->m = 1;
+  for (size_t i = 0; i < sizeof kMoreIntraNeighbours / sizeof kMoreIntraNeighbours[0]; i++) {
+    NewIntraFreqCellSI_ECN0* cell = make<NewIntraFreqCellSI_ECN0>();
+    asn1Init_UMTS_NewIntraFreqCellSI_ECN0(cell);
+    cell->m = 1;
+    cell->intraFreqCellID = static_cast<uint8_t>(13 + i);
+    cell->cellInfo.modeSpecificInfo.t = 1;
+    CellInfoSI_ECN0_modeSpecificInfo_fdd* fdd = make<CellInfoSI_ECN0_modeSpecificInfo_fdd>();
+    cell->cellInfo.modeSpecificInfo.u.fdd = fdd;
+    fdd->m = 1;
+    fdd->primaryCPICH_Info.primaryScramblingCode = kMoreIntraNeighbours[i];
+    append(&ec->newIntraFreqCellList, cell);
+  }
+  nu->m = 1; /* newInterRATCellList */
+  NewInterRATCell* gsm = make<NewInterRATCell>();
+  gsm->m = 1;
+  gsm->interRATCellID = 3;
+  gsm->technologySpecificInfo.t = 1;
+  NewInterRATCell_technologySpecificInfo_gsm* g = make<NewInterRATCell_technologySpecificInfo_gsm>();
+  gsm->technologySpecificInfo.u.gsm = g;
+  g->bsic.ncc = 5;
+  g->bsic.bcc = 6;
+  g->frequency_band = UMTS_Frequency_Band_dcs1800BandUsed;
+  g->bcch_ARFCN = 94;
+  append(&nu->newInterRATCellList, gsm);
+  MKS_ENCODE(SysInfoType11bis, s, sib);
+}
+
 /* A neighbour list of SIB18: `cells` entries, the first with MCC 262 and `mnc`, the others
    without an identity, which means the same PLMN as the entry before. */
 template <class Element>
@@ -1022,7 +1138,7 @@ int main(int argc, char** argv) {
   build_sib12(sibs[kSib12]);
   build_sib18(sibs[kSib18]);
   /* The second SIB5 starts a block of its own, in the first of its shapes (from the fullest
-     down) whose encoding the octet join of segments can carry. */
+     down) that the sixteen segments of a SIB can carry. */
   for (unsigned variant = 0;; variant++) {
     if (variant == (1u << 13) * 6 * 8) {
       std::fprintf(stderr, "mksamples: SIB5 (second form), %u bits: ", sibs[kSib5Second].numbits);
@@ -1034,6 +1150,13 @@ int main(int argc, char** argv) {
     uint32_t count = 0;
     if (umts_bch_segment(&alone, 1, 0, trial.data(), 64, &count, nullptr) == umts_bch_ok) break;
   }
+
+  /* Blocks of the whole-SIB file that the cycle does not carry. */
+  std::vector<Sib> whole_only(2);
+  whole_only[0] = {"sib11", "SIB11 with HCS in use and Ec/N0 (a second form, not in the cycle)", 11, {}, 0};
+  whole_only[1] = {"sib11bis", "SIB11bis (not in the cycle)", 31, {}, 0};
+  build_sib11_hcs(whole_only[0]);
+  build_sib11bis(whole_only[1]);
 
   /* Scheduling: MIB every 8 frames at SFN 0; SB1, SIB1, SIB3 and SIB7 often, the rest less. */
   const std::vector<Scheduled> mib_refs = {
@@ -1088,6 +1211,9 @@ int main(int argc, char** argv) {
       "# The SIBs of samples/fdd_cell.bch, whole: '<name> <hex of the unaligned PER encoding>'.\n"
       "# Written by mksamples (make samples). Decode with: sibdump --sibs samples/fdd_cell_sibs.txt\n";
   for (const Sib& s : sibs)
+    whole += "\n# " + std::string(s.label) + ", " + std::to_string(s.numbits) + " bits\n" + s.name + " " +
+             hex(s.bytes.data(), s.bytes.size()) + "\n";
+  for (const Sib& s : whole_only)
     whole += "\n# " + std::string(s.label) + ", " + std::to_string(s.numbits) + " bits\n" + s.name + " " +
              hex(s.bytes.data(), s.bytes.size()) + "\n";
 

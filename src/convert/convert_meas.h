@@ -1,0 +1,35 @@
+/*
+ * Helpers shared by the measurement control conversions of SIB11, SIB11bis and SIB12.
+ */
+#ifndef UMTS_CONVERT_MEAS_H
+#define UMTS_CONVERT_MEAS_H
+
+#include <stddef.h>
+
+#include "umts_rrc.h"
+
+namespace umts_meas {
+
+/*
+ * A decoded linked list into a count and a fixed array: the count keeps the low 8 bits of
+ * the decoded count, and entry i comes from node i through `convert(element, entry)`. The
+ * walk stops at the array's bound and at the list's end; the PER size constraint already
+ * holds the decoded count within the bound.
+ */
+template <class Element, class Entry, size_t N, class Convert>
+inline void copy_list(const rtxDList* src, uint8_t* count, Entry (&entries)[N], Convert convert) {
+  *count = static_cast<uint8_t>(src->count);
+  const rtxDListNode* node = src->head;
+  for (uint32_t i = 0; i < src->count && i < N && node != nullptr; i++, node = node->next)
+    if (node->data != nullptr) convert(static_cast<const Element*>(node->data), &entries[i]);
+}
+
+/* Number of entries of a fixed array. */
+template <class Entry, size_t N>
+constexpr uint32_t bound_of(const Entry (&)[N]) {
+  return static_cast<uint32_t>(N);
+}
+
+}  // namespace umts_meas
+
+#endif /* UMTS_CONVERT_MEAS_H */
