@@ -487,9 +487,10 @@ int main(int argc, char** argv) {
     return 2;
   }
 
-  /* The result record is large (fixed arrays of SIB5): one for the whole run, from the library,
-     whose conversions clear it by handing its pages back rather than writing zeros. */
-  umts_sib_set* set = umts_sib_set_alloc();
+  /* The result record is large (fixed arrays of SIB5): one, zeroed, for the whole run. It is
+     the tool's own: handing a library set's pages back at each SIB5 (umts_sib_set_alloc) was
+     measured several times slower here than writing the zeros. */
+  umts_sib_set* set = static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)));
   if (set == nullptr) {
     std::fprintf(stderr, "sibdump: out of memory\n");
     if (in != nullptr) std::fclose(in);
@@ -497,7 +498,7 @@ int main(int argc, char** argv) {
   }
   FILE* json = split_stdout(opt.asn1_text);
   if (json == nullptr) {
-    umts_sib_set_free(set);
+    std::free(set);
     if (in != nullptr) std::fclose(in);
     return 2;
   }
@@ -507,7 +508,7 @@ int main(int argc, char** argv) {
   if (!lines.ok()) {
     std::fprintf(stderr, "sibdump: out of memory\n");
     std::fclose(json);
-    umts_sib_set_free(set);
+    std::free(set);
     if (in != nullptr) std::fclose(in);
     return 2;
   }
@@ -528,7 +529,7 @@ int main(int argc, char** argv) {
       std::fprintf(stderr, "sibdump: error writing the JSON output\n");
       status = 2;
     }
-    umts_sib_set_free(set);
+    std::free(set);
     return status;
   }
   char* text = nullptr;
@@ -547,7 +548,7 @@ int main(int argc, char** argv) {
   umts_sib_print_flush();
   std::fflush(stdout);
   const bool write_error = std::fclose(json) != 0;
-  umts_sib_set_free(set);
+  std::free(set);
 
   std::fprintf(stderr, "sibdump: %lu %s read, %lu records written, %lu bad lines\n", d.counts.blocks,
                opt.sibs ? "SIBs" : "blocks", d.counts.records, d.counts.bad);
