@@ -346,6 +346,42 @@ void convert_sysinfotype5_v890ext_ies(const SysInfoType5_v890ext_IEs* src, umts_
 void convert_sysinfotype5_v8b0ext_ies(const SysInfoType5_v8b0ext_IEs* src, umts_sib5_v8b0ext* dst);
 void convert_sysinfotype5_v8d0ext_ies(const SysInfoType5_v8d0ext_IEs* src, umts_sib5_v8d0ext* dst);
 
+/* ==== SIB5: HS-DSCH and common E-DCH ===================================================== */
+void convert_sysinfotype5_v770ext_ies_mode_specific_info(const SysInfoType5_v770ext_IEs_modeSpecificInfo* src,
+                                                         umts_sib5_v770_mode_specific_info* dst);
+void convert_hs_dsch_common_system_information(const HS_DSCH_CommonSystemInformation* src,
+                                               umts_hs_dsch_common_system_information* dst);
+void convert_common_mac_ehs_reordering_queue_list(const Common_MAC_ehs_ReorderingQueueList* src,
+                                                  umts_common_mac_ehs_reordering_queue_list* dst);
+void convert_hs_scch_system_info(const HS_SCCH_SystemInfo* src, umts_hs_scch_system_info* dst);
+void convert_harq_system_info(const HARQ_Info* src, umts_harq_info* dst);
+void convert_h_rnti(const H_RNTI* src, umts_bit_string32* dst);
+void convert_hs_dsch_common_system_information_common_h_rnti_information(
+    const HS_DSCH_CommonSystemInformation_common_H_RNTI_information* src, umts_h_rnti_list* dst);
+void convert_hs_dsch_paging_system_information(const HS_DSCH_PagingSystemInformation* src,
+                                               umts_hs_dsch_paging_system_information* dst);
+void convert_sysinfotype5_v860ext_ies_mode_specific_info(const SysInfoType5_v860ext_IEs_modeSpecificInfo* src,
+                                                         umts_sib5_v860_mode_specific_info* dst);
+void convert_common_edch_system_info(const CommonEDCHSystemInfo* src, umts_common_edch_system_info* dst);
+void convert_common_edch_system_info_mode_specific_info(const CommonEDCHSystemInfo_modeSpecificInfo* src,
+                                                        umts_common_edch_mode_specific_info* dst);
+void convert_common_edch_system_info_fdd(const CommonEDCHSystemInfoFDD* src, umts_common_edch_system_info_fdd* dst);
+void convert_common_e_dch_mac_d_flow_list(const Common_E_DCH_MAC_d_FlowList* src, umts_common_e_dch_mac_d_flow_list* dst);
+void convert_harq_info(const uint32_t* src, uint32_t* dst);
+void convert_umts1_bit_str32(const rtxBitStr32* src, umts_bit_string32* dst);
+void convert_prach_preamble_for_enhanced_uplink(const PRACH_PreambleForEnhancedUplink* src,
+                                                umts_prach_preamble_for_enhanced_uplink* dst);
+void convert_available_sub_channel_numbers(const AvailableSubChannelNumbers* src, umts_bit_string32* dst);
+void convert_persistence_scaling_factor_list(const PersistenceScalingFactorList* src,
+                                             umts_persistence_scaling_factor_list* dst);
+void convert_prach_partitioning_r7(const PRACH_Partitioning_r7* src, umts_prach_partitioning_r7* dst);
+void convert_ul_dpch_power_control_info_for_common_edch(const UL_DPCHpowerControlInfoForCommonEDCH* src,
+                                                        umts_ul_dpch_power_control_info_for_common_edch* dst);
+void convert_e_dpcch_info_r7(const E_DPCCH_Info_r7* src, umts_e_dpcch_info* dst);
+void convert_e_dpdch_info_r8(const E_DPDCH_Info_r8* src, umts_e_dpdch_info_r8* dst);
+void convert_measurement_feedback_info_r7(const Measurement_Feedback_Info_r7* src, umts_measurement_feedback_info* dst);
+void convert_common_edch_resource_info_list(const rtxDList* src, umts_common_e_dch_resource_info_list* dst);
+
 /* ==== SIB5: PRACH system information ===================================================== */
 void convert_prach_system_information_list(const PRACH_SystemInformationList* src, umts_prach_system_information_list* dst);
 void convert_prach_system_information(const PRACH_SystemInformation* src, umts_prach_system_information* dst);

@@ -705,12 +705,10 @@
 #define umts_sib5_hcr_r5_specific_info_FIELDS(F) UMTS_SIB5_RESERVED_RECORD_FIELDS(F)
 #define umts_sccpch_system_information_mbms_r6_FIELDS(F) UMTS_SIB5_RESERVED_RECORD_FIELDS(F)
 #define umts_additional_prach_tf_and_tfcs_ccch_list_FIELDS(F) UMTS_SIB5_RESERVED_LIST_FIELDS(F)
-#define umts_sib5_v770_mode_specific_info_FIELDS(F) UMTS_SIB5_RESERVED_RECORD_FIELDS(F)
 #define umts_sccpch_system_information_list_hcr_vhcr_r7_FIELDS(F) UMTS_SIB5_RESERVED_LIST_FIELDS(F)
 #define umts_sccpch_system_information_mbms_r7_FIELDS(F) UMTS_SIB5_RESERVED_RECORD_FIELDS(F)
-#define umts_sib5_v860_mode_specific_info_FIELDS(F) UMTS_SIB5_RESERVED_RECORD_FIELDS(F)
-#define umts_common_edch_system_info_FIELDS(F) UMTS_SIB5_RESERVED_RECORD_FIELDS(F)
-#define umts_common_edch_system_info_fdd_FIELDS(F) UMTS_SIB5_RESERVED_RECORD_FIELDS(F)
+
+#include "umts_sib_sib5_hspa.h"
 
 /* TDD-MBSFNInformation: a count, then the pairs packed right after it. */
 #define umts_tdd_mbsfn_tslot_info_FIELDS(F)               \
@@ -992,14 +990,11 @@
   X(RECORD, umts_sib5_hcr_r5_specific_info)                      \
   X(RECORD, umts_sccpch_system_information_mbms_r6)              \
   X(RECORD, umts_additional_prach_tf_and_tfcs_ccch_list)         \
-  X(RECORD, umts_sib5_v770_mode_specific_info)                   \
+  UMTS_SIB5_HSPA_RECORDS(X)                                      \
   X(RECORD, umts_sccpch_system_information_list_hcr_vhcr_r7)     \
   X(RECORD, umts_sccpch_system_information_mbms_r7)              \
   X(RECORD, umts_tdd_mbsfn_tslot_info)                           \
   X(RECORD, umts_tdd_mbsfn_information)                          \
-  X(RECORD, umts_sib5_v860_mode_specific_info)                   \
-  X(RECORD, umts_common_edch_system_info)                        \
-  X(RECORD, umts_common_edch_system_info_fdd)                    \
   X(RECORD, umts_sib5_mode_specific_info_fdd)                    \
   X(RECORD, umts_sib5_mode_specific_info_tdd)                    \
   X(UNION, umts_sib5_mode_specific_info_u)                       \

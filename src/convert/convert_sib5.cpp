@@ -4,8 +4,9 @@
  *
  * The PRACH list is in convert_sib5_prach.cpp, the S-CCPCH list with its PICH in
  * convert_sib5_sccpch.cpp, transport format sets and TFCS in convert_transport_format.cpp.
- * The TDD, LCR, HCR/VHCR, MBMS, HS-DSCH and common E-DCH members of the extensions keep their
- * place (and presence bit) in the record; their own fields are not converted here.
+ * HS-DSCH and common E-DCH members are in convert_sib5_hspa.cpp. The TDD, LCR, HCR/VHCR and
+ * MBMS members of the extensions keep their place (and presence bit) in the record; their own
+ * fields are not converted yet.
  */
 #include <cstring>
 
@@ -211,7 +212,8 @@ void convert_sysinfotype5_v690ext_ies(const SysInfoType5_v690ext_IEs* src, umts_
 }
 
 void convert_sysinfotype5_v770ext_ies(const SysInfoType5_v770ext_IEs* src, umts_sib5_v770ext* dst) {
-  dst->presence_bitmask |= static_cast<uint16_t>(src->m & 0x07u); /* mode part, HCR/VHCR list, MBMS */
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sysinfotype5_v770ext_ies_mode_specific_info, modeSpecificInfo);
+  dst->presence_bitmask |= static_cast<uint16_t>(src->m & 0x06u); /* HCR/VHCR list, MBMS */
   UMTS_CONVERT_OPTIONAL(src, dst, 8u, convert_tdd_mbsfn_information, tDD_MBSFNInformation);
 }
 
@@ -228,6 +230,7 @@ void convert_sysinfotype5_v860ext_ies(const SysInfoType5_v860ext_IEs* src, umts_
     dst->presence_bitmask |= 1u;
     dst->dummy = src->dummy._unused;
   }
+  convert_sysinfotype5_v860ext_ies_mode_specific_info(&src->modeSpecificInfo, &dst->modeSpecificInfo);
 }
 
 void convert_sysinfotype5_v890ext_ies(const SysInfoType5_v890ext_IEs* src, umts_sib5_v890ext* dst) {
@@ -235,7 +238,7 @@ void convert_sysinfotype5_v890ext_ies(const SysInfoType5_v890ext_IEs* src, umts_
     dst->presence_bitmask |= 1u;
     dst->secondFrequencyInfo.uarfcn_Nt = src->secondFrequencyInfo.uarfcn_Nt;
   }
-  dst->presence_bitmask |= static_cast<uint16_t>(src->m & 2u);
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_common_edch_system_info, commonEDCHSystemInfo);
 }
 
 void convert_sysinfotype5_v8b0ext_ies(const SysInfoType5_v8b0ext_IEs* src, umts_sib5_v8b0ext* dst) {
@@ -244,5 +247,5 @@ void convert_sysinfotype5_v8b0ext_ies(const SysInfoType5_v8b0ext_IEs* src, umts_
 }
 
 void convert_sysinfotype5_v8d0ext_ies(const SysInfoType5_v8d0ext_IEs* src, umts_sib5_v8d0ext* dst) {
-  dst->presence_bitmask |= static_cast<uint16_t>(src->m & 1u);
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_common_edch_system_info_fdd, commonEDCHSystemInfoFDD);
 }

@@ -138,13 +138,19 @@ TEST(Sibdump, WholeSibsMatchTheBchPath) {
   const std::string input = kSamples + "/fdd_cell_sibs.txt";
   const Outcome whole = run(kSibdump, "--sibs '" + input + "'");
   EXPECT_EQ(whole.status, 0) << whole.err;
-  // The cycle's SIBs (SIB5 in two forms), then a second SIB11 and a SIB11bis that the cycle
-  // does not carry.
-  EXPECT_NE(whole.err.find("sibdump: 13 SIBs read, 13 records written, 0 bad lines"), std::string::npos) << whole.err;
+  // The cycle's SIBs (SIB5 in two forms), then a second SIB11, a SIB11bis and the HSPA form
+  // of SIB5 that the cycle does not carry.
+  EXPECT_NE(whole.err.find("sibdump: 14 SIBs read, 14 records written, 0 bad lines"), std::string::npos) << whole.err;
   const auto by_sib = records_of(whole.out);
   ASSERT_EQ(by_sib.count("sib11bis"), 1u);
   ASSERT_EQ(by_sib.count("sib11"), 1u);
   EXPECT_EQ(by_sib.at("sib11").size(), 2u);
+  ASSERT_EQ(by_sib.count("sib5"), 1u);
+  ASSERT_EQ(by_sib.at("sib5").size(), 3u);
+  // The HSPA form: the v8d0 common E-DCH with its four resources, as the field lists name them.
+  const std::string& hspa = by_sib.at("sib5")[2];
+  EXPECT_NE(hspa.find("\"common_E_DCH_ResourceInfoList\":{\"count\":4,"), std::string::npos) << hspa;
+  EXPECT_NE(hspa.find("\"hs_dsch_CommonSystemInformation\":{"), std::string::npos) << hspa;
   const auto by_bch = records_of(run(kSibdump, "'" + kSamples + "/fdd_cell.bch'").out);
   const std::string text = read_file(input);
   for (const std::string& name : kCycle) {
@@ -152,8 +158,9 @@ TEST(Sibdump, WholeSibsMatchTheBchPath) {
     const std::string& l = by_sib.at(name)[0];
     EXPECT_EQ(l.rfind("{\"line\":" + std::to_string(line_number(text, name + " ")) + ",", 0), 0u) << l;
     if (by_bch.count(name) != 0) {
-      /* The forms that the cycle carries come first in the file, the second SIB11 after them. */
-      ASSERT_EQ(by_sib.at(name).size(), by_bch.at(name).size() + (name == "sib11" ? 1u : 0u)) << name;
+      /* The forms that the cycle carries come first in the file, the second SIB11 and the
+         HSPA SIB5 after them. */
+      ASSERT_EQ(by_sib.at(name).size(), by_bch.at(name).size() + (name == "sib11" || name == "sib5" ? 1u : 0u)) << name;
       for (size_t i = 0; i < by_bch.at(name).size(); i++)
         EXPECT_EQ(record_part(by_sib.at(name)[i]), record_part(by_bch.at(name)[i])) << name << " " << i;
     }

@@ -414,7 +414,8 @@ TFCS tfcs_2bit(std::initializer_list<uint8_t> ctfcs) {
   return t;
 }
 
-void build_sib5(Sib& sib) {
+/* The SIB5 of the cycle, before encoding. */
+SysInfoType5* sib5_first_form() {
   SysInfoType5* s = make<SysInfoType5>();
   asn1Init_UMTS_SysInfoType5(s);
   s->sib6indicator = 0;
@@ -492,8 +493,10 @@ void build_sib5(Sib& sib) {
   sc->pich_Info.u.fdd->pi_CountPerFrame = UMTS_PI_CountPerFrame_e72;
   sc->pich_Info.u.fdd->sttd_Indicator = 0;
   append(&s->sCCPCH_SystemInformationList, sc);
-  MKS_ENCODE(SysInfoType5, s, sib);
+  return s;
 }
+
+void build_sib5(Sib& sib) { MKS_ENCODE(SysInfoType5, sib5_first_form(), sib); }
 
 /* ---- The second SIB5 form ------------------------------------------------------------------ */
 
@@ -1042,6 +1045,171 @@ void build_sib18(Sib& sib) {
   MKS_ENCODE(SysInfoType18, s, sib);
 }
 
+/* ---- The HSPA form of SIB5 ------------------------------------------------------------------ */
+
+/* Common E-DCH of the cell: two MAC-d flows, the preamble of enhanced uplink, 10 ms TTI, and
+   `resources` common E-DCH resources. Fills the FDD members of either decoded type. */
+template <class Head, class Fdd>
+void set_common_edch(Head* head, Fdd* f, unsigned resources) {
+  head->m |= 1;
+  head->ul_InterferenceForCommonEDCH = -95;
+  for (uint8_t i = 0; i < 2; i++) {
+    Common_E_DCH_MAC_d_Flow* flow = make<Common_E_DCH_MAC_d_Flow>();
+    flow->mac_d_FlowIdentity = i;
+    flow->mac_d_FlowPowerOffset = static_cast<uint8_t>(2 * i);
+    flow->mac_d_FlowMaxRetrans = 4;
+    flow->m = 1;
+    set_bits(&flow->mac_d_FlowMultiplexingList, 8, 0x80u >> i);
+    append(&head->common_E_DCH_MAC_d_FlowList, flow);
+  }
+  PRACH_PreambleForEnhancedUplink* p = &f->prach_PreambleForEnhancedUplink;
+  set_bits(&p->availableSignatures, 16, 0x00FF);
+  p->e_ai_Indication = 1;
+  p->preambleScramblingCodeWordNumber = 1;
+  set_bits(&p->availableSubChannelNumbers, 12, 0xFFF);
+  p->m = (1u << 3) | (1u << 4) | (1u << 5) | (1u << 6) | (1u << 7);
+  p->primaryCPICH_TX_Power = 33;
+  p->constantValue = -20;
+  p->prach_PowerOffset.powerRampStep = 2;
+  p->prach_PowerOffset.preambleRetransMax = 16;
+  p->rach_TransmissionParameters.mmax = 8;
+  p->rach_TransmissionParameters.nb01Min = 0;
+  p->rach_TransmissionParameters.nb01Max = 10;
+  p->aich_Info.channelisationCode256 = 4;
+  p->aich_Info.aich_TransmissionTiming = UMTS_AICH_TransmissionTiming_e1;
+  p->powerOffsetPp_e = 2;
+  f->initialServingGrantValue = 16;
+  f->e_dch_TTI = UMTS_E_DCH_TTI_tti10;
+  f->e_agch_Information.e_AGCH_ChannelisationCode = 250;
+  f->ul_DPCHpowerControlInfoForCommonEDCH.powerControlAlgorithm.t = 1;
+  f->ul_DPCHpowerControlInfoForCommonEDCH.powerControlAlgorithm.u.algorithm1 = 0;
+  f->ul_DPCHpowerControlInfoForCommonEDCH.m = 7;
+  f->ul_DPCHpowerControlInfoForCommonEDCH.deltaACK = 5;
+  f->ul_DPCHpowerControlInfoForCommonEDCH.deltaNACK = 5;
+  f->ul_DPCHpowerControlInfoForCommonEDCH.ack_NACK_repetition_factor = 1;
+  f->e_dpcch_Info.e_DPCCH_DPCCH_PowerOffset = 4;
+  f->e_dpcch_Info.happyBit_DelayCondition = 3;
+  E_DPDCH_Info_r8* d = &f->e_dpdch_Info;
+  d->e_TFCI_TableIndex = 0;
+  for (uint8_t i = 0; i < 3; i++) {
+    E_DPDCH_Reference_E_TFCI_r7* r = make<E_DPDCH_Reference_E_TFCI_r7>();
+    r->reference_E_TFCI = static_cast<uint8_t>(10 + 30 * i);
+    r->reference_E_TFCI_PO_r7 = static_cast<uint8_t>(4 + 6 * i);
+    append(&d->reference_E_TFCIs, r);
+  }
+  d->maxChannelisationCodes = 5;
+  d->pl_NonMax = 21;
+  d->schedulingInfoConfiguration.powerOffsetForSchedInfo = 2;
+  f->dl_FDPCH_TPCcommandErrorRate = 1;
+  f->additional_E_DCH_TransmitBackoff = 2;
+  f->max_CCCH_ResourceAllocation = 2;
+  f->max_PeriodForCollisionResolution = 16;
+  f->e_dch_TransmitContinuationOffset = 2;
+  f->ack_nack_support_on_HS_DPCCH = 1;
+  for (unsigned i = 0; i < resources; i++) {
+    Common_E_DCH_ResourceInfoList* r = make<Common_E_DCH_ResourceInfoList>();
+    r->s_offset = static_cast<uint8_t>(i);
+    r->f_dpch_ChannelisationCodeNumber = static_cast<uint8_t>(10 + i);
+    r->e_hich_Info.channelisationCode = 20;
+    r->e_hich_Info.signatureSequence = static_cast<uint8_t>(2 * i);
+    r->ul_DPCH_CodeInfoForCommonEDCH.ul_DPCCHscramblingCodeType = 1;
+    r->ul_DPCH_CodeInfoForCommonEDCH.ul_DPCCHscramblingCode = 0x100000u + i;
+    append(&f->common_E_DCH_ResourceInfoList, r);
+  }
+}
+
+/* The cycle's SIB5 as an HSPA cell sends it: the HS-DSCH and E-DCH indicators (v680, v690),
+   HS-DSCH in CELL_FACH with its paging (v770 fdd), DRX in CELL_FACH (v860), and common
+   E-DCH (v890, and v8d0 for Release 8 UEs). */
+void build_sib5_hspa(Sib& sib) {
+  SysInfoType5* s = sib5_first_form();
+  s->m |= 4;
+  auto* v4b0 = &s->v4b0NonCriticalExtensions;
+  v4b0->m = 2;
+  auto* v590 = &v4b0->v590NonCriticalExtensions;
+  v590->m = 2;
+  auto* v650 = &v590->v650NonCriticalExtensions;
+  v650->m = 2;
+  auto* v680 = &v650->v680NonCriticalExtensions;
+  v680->m = 3;
+  v680->sysInfoType5_v680ext.m = 1;
+  v680->sysInfoType5_v680ext.hsdpa_CellIndicator = 0;
+  auto* v690 = &v680->v690NonCriticalExtensions;
+  v690->m = 1;
+  v690->sysInfoType5_v690ext.m = 1;
+  v690->sysInfoType5_v690ext.edch_CellIndicator = 0;
+  auto* v770 = &v690->v770NonCriticalExtensions;
+  v770->m = 1;
+  v770->sysInfoType5_v770ext.m = 1;
+  v770->sysInfoType5_v770ext.modeSpecificInfo.t = 1;
+  auto* fdd = make<SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd>();
+  v770->sysInfoType5_v770ext.modeSpecificInfo.u.fdd = fdd;
+  HS_DSCH_CommonSystemInformation* c = &fdd->hs_dsch_CommonSystemInformation;
+  c->ccch_MappingInfo.logicalChannelIdentity = 1;
+  c->ccch_MappingInfo.mac_ehs_QueueId = 0;
+  c->m = 1;
+  c->srb1_MappingInfo.logicalChannelIdentity = 2;
+  c->srb1_MappingInfo.mac_ehs_QueueId = 1;
+  for (uint8_t i = 0; i < 2; i++) {
+    Common_MAC_ehs_ReorderingQueue* q = make<Common_MAC_ehs_ReorderingQueue>();
+    q->mac_ehs_QueueId = i;
+    q->t1_ReleaseTimer = UMTS_T1_ReleaseTimer_rt100;
+    q->mac_ehsWindowSize = UMTS_MAC_hs_WindowSize_mws16;
+    append(&c->common_MAC_ehs_ReorderingQueueList, q);
+  }
+  c->hs_scch_SystemInfo.hS_SCCHChannelisationCodeInfo.n = 2;
+  c->hs_scch_SystemInfo.hS_SCCHChannelisationCodeInfo.elem[0] = 126;
+  c->hs_scch_SystemInfo.hS_SCCHChannelisationCodeInfo.elem[1] = 127;
+  c->harq_SystemInfo.numberOfProcesses = 4;
+  c->harq_SystemInfo.memoryPartitioning.t = 1; /* implicit */
+  c->common_H_RNTI_information.n = 2;
+  set_bits(&c->common_H_RNTI_information.elem[0], 16, 0xFF01);
+  set_bits(&c->common_H_RNTI_information.elem[1], 16, 0xFF02);
+  set_bits(&c->bcchSpecific_H_RNTI, 16, 0xFFFE);
+  fdd->m = 1;
+  HS_DSCH_PagingSystemInformation* pg = &fdd->hs_dsch_PagingSystemInformation;
+  PICH_ForHSDPASupportedPaging* pich = make<PICH_ForHSDPASupportedPaging>();
+  pich->hsdpa_AssociatedPichInfo.t = 1;
+  pich->hsdpa_AssociatedPichInfo.u.fdd = make<PICH_Info_fdd>();
+  pich->hsdpa_AssociatedPichInfo.u.fdd->channelisationCode256 = 5;
+  pich->hsdpa_AssociatedPichInfo.u.fdd->pi_CountPerFrame = UMTS_PI_CountPerFrame_e72;
+  pich->hs_pdschChannelisationCode = 15;
+  append(&pg->pich_ForHSDPASupportedPagingList, pich);
+  pg->numberOfPcchTransmissions = 2;
+  pg->transportBlockSizeList.n = 2;
+  pg->transportBlockSizeList.elem[0] = 5;
+  pg->transportBlockSizeList.elem[1] = 9;
+  auto* v860 = &v770->v860NonCriticalExtensions;
+  v860->m = 1;
+  v860->sysInfoType5_v860ext.modeSpecificInfo.t = 1;
+  auto* drx = make<SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd>();
+  v860->sysInfoType5_v860ext.modeSpecificInfo.u.fdd = drx;
+  drx->m = 1;
+  drx->hs_dsch_DrxCellfach_info.t_321 = 2;
+  drx->hs_dsch_DrxCellfach_info.hs_dsch_DrxCycleFach = 1;
+  drx->hs_dsch_DrxCellfach_info.hs_dsch_DrxBurstFach = 0;
+  drx->hs_dsch_DrxCellfach_info.drxInterruption_hs_dsch = 1;
+  auto* v890 = &v860->v890NonCriticalExtensions;
+  v890->m = 1;
+  v890->sysInfoType5_v890ext.m = 2;
+  CommonEDCHSystemInfo* ce = &v890->sysInfoType5_v890ext.commonEDCHSystemInfo;
+  ce->modeSpecificInfo.t = 1;
+  ce->modeSpecificInfo.u.fdd = make<CommonEDCHSystemInfo_modeSpecificInfo_fdd>();
+  set_common_edch(ce, ce->modeSpecificInfo.u.fdd, 2);
+  auto* v8b0 = &v890->v8b0NonCriticalExtensions;
+  v8b0->m = 1;
+  auto* v8d0 = &v8b0->v8d0NonCriticalExtensions;
+  v8d0->sysInfoType5_v8d0ext.m = 1;
+  set_common_edch(&v8d0->sysInfoType5_v8d0ext.commonEDCHSystemInfoFDD, &v8d0->sysInfoType5_v8d0ext.commonEDCHSystemInfoFDD, 4);
+  MKS_ENCODE(SysInfoType5, s, sib);
+}
+
+/* Blocks of the whole-SIB file for HSPA and SIB16 (not in the cycle). */
+void add_hspa_samples(std::vector<Sib>& whole_only) {
+  whole_only.push_back({"sib5", "SIB5 of an HSPA cell: HS-DSCH and common E-DCH (not in the cycle)", 5, {}, 0});
+  build_sib5_hspa(whole_only.back());
+}
+
 /* ---- The cycle ---------------------------------------------------------------------------- */
 
 enum CycleIndex : uint32_t { kMib, kSb1, kSib1, kSib2, kSib3, kSib5, kSib7, kSib11, kSib12, kSib18, kSib5Second, kCycleSize };
@@ -1157,6 +1325,7 @@ int main(int argc, char** argv) {
   whole_only[1] = {"sib11bis", "SIB11bis (not in the cycle)", 31, {}, 0};
   build_sib11_hcs(whole_only[0]);
   build_sib11bis(whole_only[1]);
+  add_hspa_samples(whole_only);
 
   /* Scheduling: MIB every 8 frames at SFN 0; SB1, SIB1, SIB3 and SIB7 often, the rest less. */
   const std::vector<Scheduled> mib_refs = {

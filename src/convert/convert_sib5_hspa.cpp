@@ -1,0 +1,349 @@
+/*
+ * SIB5: HS-DSCH reception in CELL_FACH and paging (v770 fdd, v860) and common E-DCH (v890
+ * commonEDCHSystemInfo, v8d0 commonEDCHSystemInfoFDD): what an HSPA cell broadcasts.
+ *
+ * The v890 fdd alternative and the v8d0 record carry the same members under decoded types of
+ * their own; one template converts both. The TDD parts of these members keep their tags and
+ * presence bits only.
+ */
+#include <cstring>
+
+#include "convert_frame.h"
+#include "convert_list.h"
+#include "umts_sib_convert.h"
+
+namespace {
+
+/* Copies `n` integers of an inline decoded array into a flat array of `bound` entries. */
+template <class Dst, class Src>
+void copy_inline(Dst* dst, const Src* src, uint32_t n, uint32_t bound) {
+  for (uint32_t i = 0; i < n && i < bound; i++) dst[i] = static_cast<Dst>(src[i]);
+}
+
+void convert_common_rb_mapping_info(const CommonRBMappingInfo* src, umts_common_rb_mapping_info* dst) {
+  dst->logicalChannelIdentity = src->logicalChannelIdentity;
+  dst->mac_ehs_QueueId = src->mac_ehs_QueueId;
+}
+
+/* The FDD members of common E-DCH, from either decoded type; `feedback` is the option bit of
+   measurement_Feedback_Info in `src` and in `dst` alike. */
+template <class Src, class Dst>
+void convert_common_edch_fdd_members(const Src* src, Dst* dst, uint32_t feedback) {
+  convert_prach_preamble_for_enhanced_uplink(&src->prach_PreambleForEnhancedUplink, &dst->prach_PreambleForEnhancedUplink);
+  dst->initialServingGrantValue = src->initialServingGrantValue;
+  dst->e_dch_TTI = src->e_dch_TTI;
+  dst->e_agch_Information.e_AGCH_ChannelisationCode = src->e_agch_Information.e_AGCH_ChannelisationCode;
+  convert_harq_info(&src->harq_Info, &dst->harq_Info);
+  convert_ul_dpch_power_control_info_for_common_edch(&src->ul_DPCHpowerControlInfoForCommonEDCH,
+                                                     &dst->ul_DPCHpowerControlInfoForCommonEDCH);
+  convert_e_dpcch_info_r7(&src->e_dpcch_Info, &dst->e_dpcch_Info);
+  convert_e_dpdch_info_r8(&src->e_dpdch_Info, &dst->e_dpdch_Info);
+  dst->dl_FDPCH_TPCcommandErrorRate = src->dl_FDPCH_TPCcommandErrorRate;
+  dst->additional_E_DCH_TransmitBackoff = src->additional_E_DCH_TransmitBackoff;
+  dst->max_CCCH_ResourceAllocation = src->max_CCCH_ResourceAllocation;
+  dst->max_PeriodForCollisionResolution = src->max_PeriodForCollisionResolution;
+  dst->e_dch_TransmitContinuationOffset = src->e_dch_TransmitContinuationOffset;
+  dst->ack_nack_support_on_HS_DPCCH = src->ack_nack_support_on_HS_DPCCH;
+  UMTS_CONVERT_OPTIONAL(src, dst, feedback, convert_measurement_feedback_info_r7, measurement_Feedback_Info);
+  convert_common_edch_resource_info_list(&src->common_E_DCH_ResourceInfoList, &dst->common_E_DCH_ResourceInfoList);
+}
+
+/* ul_InterferenceForCommonEDCH (bit 0) and the MAC-d flows, the head of both records. */
+template <class Src, class Dst>
+void convert_common_edch_head(const Src* src, Dst* dst) {
+  UMTS_COPY_OPTIONAL(src, dst, 1u, ul_InterferenceForCommonEDCH);
+  convert_common_e_dch_mac_d_flow_list(&src->common_E_DCH_MAC_d_FlowList, &dst->common_E_DCH_MAC_d_FlowList);
+}
+
+}  // namespace
+
+/* ==== v770 fdd: HS-DSCH common and paging system information ============================ */
+
+void convert_sysinfotype5_v770ext_ies_mode_specific_info(const SysInfoType5_v770ext_IEs_modeSpecificInfo* src,
+                                                         umts_sib5_v770_mode_specific_info* dst) {
+  dst->choice_tag = src->t;
+  if (src->t == 1 && src->u.fdd != nullptr) {
+    const SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd* fdd = src->u.fdd;
+    convert_hs_dsch_common_system_information(&fdd->hs_dsch_CommonSystemInformation,
+                                              &dst->u.fdd.hs_dsch_CommonSystemInformation);
+    UMTS_CONVERT_OPTIONAL(fdd, &dst->u.fdd, 1u, convert_hs_dsch_paging_system_information, hs_dsch_PagingSystemInformation);
+  } else if (src->t == 2 && src->u.tdd768 != nullptr) {
+    dst->u.tdd768.presence_bitmask = static_cast<uint16_t>(src->u.tdd768->m & 7u);
+  } else if (src->t == 3 && src->u.tdd128 != nullptr) {
+    dst->u.tdd128.presence_bitmask = static_cast<uint16_t>(src->u.tdd128->m & 1u);
+  }
+}
+
+void convert_hs_dsch_common_system_information(const HS_DSCH_CommonSystemInformation* src,
+                                               umts_hs_dsch_common_system_information* dst) {
+  convert_common_rb_mapping_info(&src->ccch_MappingInfo, &dst->ccch_MappingInfo);
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_common_rb_mapping_info, srb1_MappingInfo);
+  convert_common_mac_ehs_reordering_queue_list(&src->common_MAC_ehs_ReorderingQueueList,
+                                               &dst->common_MAC_ehs_ReorderingQueueList);
+  convert_hs_scch_system_info(&src->hs_scch_SystemInfo, &dst->hs_scch_SystemInfo);
+  convert_harq_system_info(&src->harq_SystemInfo, &dst->harq_SystemInfo);
+  convert_hs_dsch_common_system_information_common_h_rnti_information(&src->common_H_RNTI_information,
+                                                                     &dst->common_H_RNTI_information);
+  convert_h_rnti(&src->bcchSpecific_H_RNTI, &dst->bcchSpecific_H_RNTI);
+}
+
+void convert_common_mac_ehs_reordering_queue_list(const Common_MAC_ehs_ReorderingQueueList* src,
+                                                  umts_common_mac_ehs_reordering_queue_list* dst) {
+  dst->count = static_cast<uint8_t>(src->count);
+  umts_for_each_node<Common_MAC_ehs_ReorderingQueue>(src, 2u, [dst](const Common_MAC_ehs_ReorderingQueue* q, uint32_t i) {
+    umts_common_mac_ehs_reordering_queue* out = &dst->entries[i];
+    out->mac_ehs_QueueId = q->mac_ehs_QueueId;
+    out->t1_ReleaseTimer = q->t1_ReleaseTimer;
+    UMTS_COPY_OPTIONAL(q, out, 1u, reorderingResetTimer);
+    out->mac_ehsWindowSize = q->mac_ehsWindowSize;
+  });
+}
+
+void convert_hs_scch_system_info(const HS_SCCH_SystemInfo* src, umts_hs_scch_system_info* dst) {
+  UMTS_COPY_OPTIONAL(src, dst, 1u, dl_ScramblingCode);
+  dst->hS_SCCHChannelisationCodeInfo.count = src->hS_SCCHChannelisationCodeInfo.n;
+  copy_inline(dst->hS_SCCHChannelisationCodeInfo.entries, src->hS_SCCHChannelisationCodeInfo.elem,
+              src->hS_SCCHChannelisationCodeInfo.n, 4u);
+}
+
+/* implicit stores its tag; explicit its sizes, `count * 4` bytes. */
+void convert_harq_system_info(const HARQ_Info* src, umts_harq_info* dst) {
+  dst->numberOfProcesses = src->numberOfProcesses;
+  dst->memoryPartitioning.choice_tag = src->memoryPartitioning.t;
+  if (src->memoryPartitioning.t == 2 && src->memoryPartitioning.u.explicit_ != nullptr) {
+    const HARQ_Info_memoryPartitioning_explicit_* sizes = src->memoryPartitioning.u.explicit_;
+    dst->memoryPartitioning.u.explicit_.count = sizes->n;
+    copy_inline(dst->memoryPartitioning.u.explicit_.entries, sizes->elem, sizes->n, 8u);
+  }
+}
+
+/* The copy is told the H-RNTI's 16 bits as 16 octets. An entry's run-on lands on the entry
+   after it, which is converted afterwards (or stays as the decoder left it: zero); the last
+   one's on bcchSpecific_H_RNTI, also converted afterwards. Only bcchSpecific_H_RNTI's own
+   run-on would leave the record, and it is not written. */
+void convert_h_rnti(const H_RNTI* src, umts_bit_string32* dst) { umts_copy_bit_string(*src, dst); }
+
+void convert_hs_dsch_common_system_information_common_h_rnti_information(
+    const HS_DSCH_CommonSystemInformation_common_H_RNTI_information* src, umts_h_rnti_list* dst) {
+  dst->count = src->n;
+  for (uint8_t i = 0; i < src->n && i < 4u; i++) convert_h_rnti(&src->elem[i], &dst->entries[i]);
+}
+
+void convert_hs_dsch_paging_system_information(const HS_DSCH_PagingSystemInformation* src,
+                                               umts_hs_dsch_paging_system_information* dst) {
+  UMTS_COPY_OPTIONAL(src, dst, 1u, dlScramblingCode);
+  dst->pich_ForHSDPASupportedPagingList.count = static_cast<uint8_t>(src->pich_ForHSDPASupportedPagingList.count);
+  umts_for_each_node<PICH_ForHSDPASupportedPaging>(
+      &src->pich_ForHSDPASupportedPagingList, 16u, [dst](const PICH_ForHSDPASupportedPaging* p, uint32_t i) {
+        umts_pich_for_hsdpa_supported_paging* out = &dst->pich_ForHSDPASupportedPagingList.entries[i];
+        convert_pich_info(&p->hsdpa_AssociatedPichInfo, &out->hsdpa_AssociatedPichInfo);
+        out->hs_pdschChannelisationCode = p->hs_pdschChannelisationCode;
+      });
+  dst->numberOfPcchTransmissions = src->numberOfPcchTransmissions;
+  dst->transportBlockSizeList.count = src->transportBlockSizeList.n;
+  copy_inline(dst->transportBlockSizeList.entries, src->transportBlockSizeList.elem, src->transportBlockSizeList.n, 2u);
+}
+
+/* ==== v860: HS-DSCH DRX in CELL_FACH ====================================================== */
+
+void convert_sysinfotype5_v860ext_ies_mode_specific_info(const SysInfoType5_v860ext_IEs_modeSpecificInfo* src,
+                                                         umts_sib5_v860_mode_specific_info* dst) {
+  dst->choice_tag = src->t;
+  if (src->t == 1 && src->u.fdd != nullptr) {
+    const SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd* fdd = src->u.fdd;
+    if (fdd->m & 1u) {
+      umts_hs_dsch_drx_cellfach_info* out = &dst->u.fdd.hs_dsch_DrxCellfach_info;
+      dst->u.fdd.presence_bitmask |= 1u;
+      out->t_321 = fdd->hs_dsch_DrxCellfach_info.t_321;
+      out->hs_dsch_DrxCycleFach = fdd->hs_dsch_DrxCellfach_info.hs_dsch_DrxCycleFach;
+      out->hs_dsch_DrxBurstFach = fdd->hs_dsch_DrxCellfach_info.hs_dsch_DrxBurstFach;
+      out->drxInterruption_hs_dsch = fdd->hs_dsch_DrxCellfach_info.drxInterruption_hs_dsch;
+    }
+  } else if (src->t == 2 && src->u.tdd128 != nullptr) {
+    const SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128* tdd = src->u.tdd128;
+    umts_sib5_v860_mode_specific_info_tdd128* out = &dst->u.tdd128;
+    if (tdd->m & 1u) {
+      out->presence_bitmask |= 1u;
+      out->hs_dsch_CommonSysInfo.presence_bitmask = static_cast<uint16_t>(tdd->hs_dsch_CommonSysInfo.m & 1u);
+    }
+    if (tdd->m & 2u) {
+      out->presence_bitmask |= 2u;
+      out->hs_dsch_DrxCellfach_info.t_321 = tdd->hs_dsch_DrxCellfach_info.t_321;
+      out->hs_dsch_DrxCellfach_info.hs_dsch_DrxCycleFach = tdd->hs_dsch_DrxCellfach_info.hs_dsch_DrxCycleFach;
+      out->hs_dsch_DrxCellfach_info.hs_dsch_DrxBurstFach = tdd->hs_dsch_DrxCellfach_info.hs_dsch_DrxBurstFach;
+    }
+  }
+}
+
+/* ==== Common E-DCH ======================================================================= */
+
+void convert_common_edch_system_info(const CommonEDCHSystemInfo* src, umts_common_edch_system_info* dst) {
+  convert_common_edch_head(src, dst);
+  convert_common_edch_system_info_mode_specific_info(&src->modeSpecificInfo, &dst->modeSpecificInfo);
+}
+
+/* fdd converts its members (the message's first alternative is the FDD resources, not a
+   byte); tdd stores its inner tag, of which tdd128 (3) alone has members, not yet kept. */
+void convert_common_edch_system_info_mode_specific_info(const CommonEDCHSystemInfo_modeSpecificInfo* src,
+                                                        umts_common_edch_mode_specific_info* dst) {
+  dst->choice_tag = src->t;
+  if (src->t == 1 && src->u.fdd != nullptr) {
+    convert_common_edch_fdd_members(src->u.fdd, &dst->u.fdd, 1u);
+  } else if (src->t == 2 && src->u.tdd != nullptr) {
+    dst->u.tdd.choice_tag = src->u.tdd->t;
+  }
+}
+
+void convert_common_edch_system_info_fdd(const CommonEDCHSystemInfoFDD* src, umts_common_edch_system_info_fdd* dst) {
+  convert_common_edch_head(src, dst);
+  convert_common_edch_fdd_members(src, dst, 2u);
+}
+
+void convert_common_e_dch_mac_d_flow_list(const Common_E_DCH_MAC_d_FlowList* src, umts_common_e_dch_mac_d_flow_list* dst) {
+  dst->count = static_cast<uint8_t>(src->count);
+  umts_for_each_node<Common_E_DCH_MAC_d_Flow>(src, 8u, [dst](const Common_E_DCH_MAC_d_Flow* flow, uint32_t i) {
+    umts_common_e_dch_mac_d_flow* out = &dst->entries[i];
+    out->mac_d_FlowIdentity = flow->mac_d_FlowIdentity;
+    out->mac_d_FlowPowerOffset = flow->mac_d_FlowPowerOffset;
+    out->mac_d_FlowMaxRetrans = flow->mac_d_FlowMaxRetrans;
+    if (flow->m & 1u) {
+      out->presence_bitmask |= 1u;
+      convert_umts1_bit_str32(&flow->mac_d_FlowMultiplexingList, &out->mac_d_FlowMultiplexingList);
+    }
+    UMTS_COPY_OPTIONAL(flow, out, 2u, e_dch_mac_d_flow_retransmission_timer);
+  });
+}
+
+/* harq-Info of common E-DCH: rv0 or rvtable. */
+void convert_harq_info(const uint32_t* src, uint32_t* dst) { *dst = *src; }
+
+void convert_umts1_bit_str32(const rtxBitStr32* src, umts_bit_string32* dst) { umts_copy_bit_string(*src, dst); }
+
+/* The message always carries availableSignatures, preambleScramblingCodeWordNumber and
+   availableSubChannelNumbers: bits 0 to 2. Its eight optional members take bits 3 to 10. */
+void convert_prach_preamble_for_enhanced_uplink(const PRACH_PreambleForEnhancedUplink* src,
+                                                umts_prach_preamble_for_enhanced_uplink* dst) {
+  dst->presence_bitmask = static_cast<uint16_t>(7u | ((src->m & 0xFFu) << 3));
+  convert_umts1_bit_str32(&src->availableSignatures, &dst->availableSignatures);
+  dst->e_ai_Indication = src->e_ai_Indication;
+  dst->preambleScramblingCodeWordNumber = src->preambleScramblingCodeWordNumber;
+  convert_available_sub_channel_numbers(&src->availableSubChannelNumbers, &dst->availableSubChannelNumbers);
+  if (src->m & 0x01u) convert_prach_partitioning_r7(&src->prach_Partitioning, &dst->prach_Partitioning);
+  if (src->m & 0x02u) convert_persistence_scaling_factor_list(&src->persistenceScalingFactorList, &dst->persistenceScalingFactorList);
+  if (src->m & 0x04u) convert_ac_to_asc_mapping_table(&src->ac_To_ASC_MappingTable, &dst->ac_To_ASC_MappingTable);
+  if (src->m & 0x08u) dst->primaryCPICH_TX_Power = src->primaryCPICH_TX_Power;
+  if (src->m & 0x10u) dst->constantValue = src->constantValue;
+  if (src->m & 0x20u) convert_prach_poweroffset(&src->prach_PowerOffset, &dst->prach_PowerOffset);
+  if (src->m & 0x40u) convert_rach_transmission_parameters(&src->rach_TransmissionParameters, &dst->rach_TransmissionParameters);
+  if (src->m & 0x80u) convert_aich_info(&src->aich_Info, &dst->aich_Info);
+  dst->powerOffsetPp_e = src->powerOffsetPp_e;
+}
+
+void convert_available_sub_channel_numbers(const AvailableSubChannelNumbers* src, umts_bit_string32* dst) {
+  umts_copy_bit_string(*src, dst);
+}
+
+/* One block copy of the levels, `count * 4` bytes. */
+void convert_persistence_scaling_factor_list(const PersistenceScalingFactorList* src,
+                                             umts_persistence_scaling_factor_list* dst) {
+  dst->count = src->n;
+  std::memcpy(dst->entries, src->elem, (src->n < 6u ? src->n : 6u) * sizeof dst->entries[0]);
+}
+
+/* The 8-bit count of the r7 form. The tdd form keeps its count only so far. */
+void convert_prach_partitioning_r7(const PRACH_Partitioning_r7* src, umts_prach_partitioning_r7* dst) {
+  dst->choice_tag = src->t;
+  if (src->t == 1 && src->u.fdd != nullptr) {
+    dst->u.fdd.count = static_cast<uint8_t>(src->u.fdd->count);
+    umts_for_each_node<ASCSetting_FDD>(src->u.fdd, 8u, [dst](const ASCSetting_FDD* entry, uint32_t i) {
+      UMTS_CONVERT_OPTIONAL(entry, &dst->u.fdd.entries[i], 1u, convert_access_service_class_fdd, accessServiceClass_FDD);
+    });
+  } else if (src->t == 2 && src->u.tdd != nullptr) {
+    dst->u.tdd.count = static_cast<uint8_t>(src->u.tdd->count);
+  }
+}
+
+void convert_ul_dpch_power_control_info_for_common_edch(const UL_DPCHpowerControlInfoForCommonEDCH* src,
+                                                        umts_ul_dpch_power_control_info_for_common_edch* dst) {
+  dst->powerControlAlgorithm.choice_tag = src->powerControlAlgorithm.t;
+  if (src->powerControlAlgorithm.t == 1) dst->powerControlAlgorithm.u.algorithm1 = src->powerControlAlgorithm.u.algorithm1;
+  UMTS_COPY_OPTIONAL(src, dst, 1u, deltaACK);
+  UMTS_COPY_OPTIONAL(src, dst, 2u, deltaNACK);
+  UMTS_COPY_OPTIONAL(src, dst, 4u, ack_NACK_repetition_factor);
+}
+
+void convert_e_dpcch_info_r7(const E_DPCCH_Info_r7* src, umts_e_dpcch_info* dst) {
+  dst->e_DPCCH_DPCCH_PowerOffset = src->e_DPCCH_DPCCH_PowerOffset;
+  dst->happyBit_DelayCondition = src->happyBit_DelayCondition;
+  if (src->m & 1u) {
+    dst->presence_bitmask |= 1u;
+    dst->e_TFC_Boost_Info.e_TFCI_Boost = src->e_TFC_Boost_Info.e_TFCI_Boost;
+    UMTS_COPY_OPTIONAL(&src->e_TFC_Boost_Info, &dst->e_TFC_Boost_Info, 1u, delta_T2TP);
+  }
+  UMTS_COPY_OPTIONAL(src, dst, 2u, e_DPDCH_PowerInterpolation);
+}
+
+/* Option bits 0 to 3 are kept as 0x10, 0x20, 0x40, 0x80: the record's own contract. */
+void convert_e_dpdch_info_r8(const E_DPDCH_Info_r8* src, umts_e_dpdch_info_r8* dst) {
+  dst->e_TFCI_TableIndex = src->e_TFCI_TableIndex;
+  if (src->m & 1u) {
+    dst->presence_bitmask |= 0x10u;
+    dst->e_DCH_MinimumSet_E_TFCI = src->e_DCH_MinimumSet_E_TFCI;
+  }
+  dst->reference_E_TFCIs.count = static_cast<uint8_t>(src->reference_E_TFCIs.count);
+  umts_for_each_node<E_DPDCH_Reference_E_TFCI_r7>(&src->reference_E_TFCIs, 8u,
+                                                  [dst](const E_DPDCH_Reference_E_TFCI_r7* ref, uint32_t i) {
+                                                    dst->reference_E_TFCIs.entries[i].reference_E_TFCI = ref->reference_E_TFCI;
+                                                    dst->reference_E_TFCIs.entries[i].reference_E_TFCI_PO = ref->reference_E_TFCI_PO_r7;
+                                                  });
+  if (src->m & 2u) {
+    dst->presence_bitmask |= 0x20u;
+    dst->minReduced_E_DPDCH_GainFactor = src->minReduced_E_DPDCH_GainFactor;
+  }
+  dst->maxChannelisationCodes = src->maxChannelisationCodes;
+  dst->pl_NonMax = src->pl_NonMax;
+  const E_DPDCH_SchedulingInfoConfiguration& sched = src->schedulingInfoConfiguration;
+  UMTS_COPY_OPTIONAL(&sched, &dst->schedulingInfoConfiguration, 1u, periodicityOfSchedInfo_NoGrant);
+  UMTS_COPY_OPTIONAL(&sched, &dst->schedulingInfoConfiguration, 2u, periodicityOfSchedInfo_Grant);
+  dst->schedulingInfoConfiguration.powerOffsetForSchedInfo = sched.powerOffsetForSchedInfo;
+  if (src->m & 4u) {
+    dst->presence_bitmask |= 0x40u;
+    dst->threeIndexStepThreshold = src->threeIndexStepThreshold;
+  }
+  if (src->m & 8u) {
+    dst->presence_bitmask |= 0x80u;
+    dst->twoIndexStepThreshold = src->twoIndexStepThreshold;
+  }
+}
+
+void convert_measurement_feedback_info_r7(const Measurement_Feedback_Info_r7* src, umts_measurement_feedback_info* dst) {
+  dst->choice_tag = src->modeSpecificInfo.t;
+  if (src->modeSpecificInfo.t == 1 && src->modeSpecificInfo.u.fdd != nullptr) {
+    const Measurement_Feedback_Info_r7_modeSpecificInfo_fdd* fdd = src->modeSpecificInfo.u.fdd;
+    dst->u.fdd.measurementPowerOffset = fdd->measurementPowerOffset;
+    dst->u.fdd.feedback_cycle = fdd->feedback_cycle;
+    dst->u.fdd.cqi_RepetitionFactor = fdd->cqi_RepetitionFactor;
+    dst->u.fdd.deltaCQI = fdd->deltaCQI;
+  }
+}
+
+/* s_offset and f_dpch_ChannelisationCodeNumber are always carried: bits 0 and 1 always set;
+   e_RGCH_Information's option bit 0 is kept as bit 2. */
+void convert_common_edch_resource_info_list(const rtxDList* src, umts_common_e_dch_resource_info_list* dst) {
+  dst->count = static_cast<uint8_t>(src->count);
+  umts_for_each_node<Common_E_DCH_ResourceInfoList>(src, 32u, [dst](const Common_E_DCH_ResourceInfoList* res, uint32_t i) {
+    umts_common_e_dch_resource_info* out = &dst->entries[i];
+    out->presence_bitmask = 3u;
+    out->s_offset = res->s_offset;
+    out->f_dpch_ChannelisationCodeNumber = res->f_dpch_ChannelisationCodeNumber;
+    if (res->m & 1u) {
+      out->presence_bitmask |= 4u;
+      out->e_RGCH_Information.signatureSequence = res->e_RGCH_Information.signatureSequence;
+      out->e_RGCH_Information.rg_CombinationIndex = res->e_RGCH_Information.rg_CombinationIndex;
+    }
+    out->e_hich_Info.channelisationCode = res->e_hich_Info.channelisationCode;
+    out->e_hich_Info.signatureSequence = res->e_hich_Info.signatureSequence;
+    out->ul_DPCH_CodeInfoForCommonEDCH.ul_DPCCHscramblingCodeType = res->ul_DPCH_CodeInfoForCommonEDCH.ul_DPCCHscramblingCodeType;
+    out->ul_DPCH_CodeInfoForCommonEDCH.ul_DPCCHscramblingCode = res->ul_DPCH_CodeInfoForCommonEDCH.ul_DPCCHscramblingCode;
+  });
+}

@@ -1,0 +1,555 @@
+// SIB5 of an HSPA cell: HS-DSCH common and paging information (v770 fdd), DRX in CELL_FACH
+// (v860) and common E-DCH (v890, v8d0). Built in code, encoded by the codec, converted, and
+// compared field by field with what went in; whole and over the BCH.
+#include <random>
+
+#include "bch_segmenter.h"
+#include "frame_test_util.h"
+#include "sib5_builder.h"
+#include "umts_sib_convert.h"
+
+using namespace frametest;
+
+namespace {
+
+// The FDD members of common E-DCH, in either decoded type, and their storage.
+struct EdchFddParts {
+  PRACH_Partitioning_r7_fdd partitions;
+  ASCSetting_FDD asc[8];
+  Measurement_Feedback_Info_r7_modeSpecificInfo_fdd feedback;
+  E_DPDCH_Reference_E_TFCI_r7 refs[8];
+  Common_E_DCH_ResourceInfoList resources[32];
+  Common_E_DCH_MAC_d_Flow flows[8];
+  rtxDListNode nodes[64];
+  unsigned used = 0;
+  template <typename T>
+  void add(rtxDList& list, T& value) {
+    append(list, nodes[used++], value);
+  }
+
+  // `k` varies the values between the two records; `resources` and `flows` set list lengths.
+  template <class Head, class Fdd>
+  void fill(Head& head, Fdd& f, unsigned k, unsigned nResources, unsigned nFlows, uint32_t feedbackBit) {
+    head.m |= 1u;
+    head.ul_InterferenceForCommonEDCH = static_cast<int8_t>(-100 + k);
+    for (unsigned i = 0; i < nFlows; i++) {
+      flows[i].mac_d_FlowIdentity = static_cast<uint8_t>(i);
+      flows[i].mac_d_FlowPowerOffset = static_cast<uint8_t>((i + k) % 7);
+      flows[i].mac_d_FlowMaxRetrans = static_cast<uint8_t>(15 - i);
+      if (i % 2 == 0) {
+        flows[i].m |= 1u;
+        flows[i].mac_d_FlowMultiplexingList = bitString<E_DCH_MAC_d_FlowMultiplexingList>({static_cast<uint8_t>(0xA5 ^ i)}, 8);
+      } else {
+        flows[i].m |= 2u;
+        flows[i].e_dch_mac_d_flow_retransmission_timer = i % 8;
+      }
+      add(head.common_E_DCH_MAC_d_FlowList, flows[i]);
+    }
+    PRACH_PreambleForEnhancedUplink& p = f.prach_PreambleForEnhancedUplink;
+    p.availableSignatures = bitString<AvailableSignatures>({0xF0, static_cast<uint8_t>(k)}, 16);
+    p.e_ai_Indication = 1;
+    p.preambleScramblingCodeWordNumber = static_cast<uint8_t>(k % 16);
+    p.availableSubChannelNumbers = bitString<AvailableSubChannelNumbers>({0xAB, 0xC0}, 12);
+    p.m = 0xFFu;
+    p.prach_Partitioning.t = 1;
+    p.prach_Partitioning.u.fdd = &partitions;
+    for (uint8_t i = 0; i < 8; i++) {
+      asc[i].m = i == 3 ? 0u : 1u;
+      asc[i].accessServiceClass_FDD.availableSignatureStartIndex = i;
+      asc[i].accessServiceClass_FDD.availableSignatureEndIndex = 15;
+      asc[i].accessServiceClass_FDD.assignedSubChannelNumber = bitString<AccessServiceClass_FDD_assignedSubChannelNumber>({0x50}, 4);
+      add(partitions, asc[i]);
+    }
+    p.persistenceScalingFactorList.n = 6;
+    for (uint32_t i = 0; i < 6; i++) p.persistenceScalingFactorList.elem[i] = i;
+    p.ac_To_ASC_MappingTable.n = 7;
+    for (uint8_t i = 0; i < 7; i++) p.ac_To_ASC_MappingTable.elem[i] = static_cast<uint8_t>(6 - i);
+    p.primaryCPICH_TX_Power = 30;
+    p.constantValue = -20;
+    p.prach_PowerOffset = {2, 10};
+    p.rach_TransmissionParameters = {4, 1, 9};
+    p.aich_Info = {3, 1, 1};
+    p.powerOffsetPp_e = -3;
+    f.initialServingGrantValue = static_cast<uint8_t>(20 + k);
+    f.e_dch_TTI = 1;
+    f.e_agch_Information.e_AGCH_ChannelisationCode = static_cast<uint8_t>(200 + k);
+    f.harq_Info = 1;
+    UL_DPCHpowerControlInfoForCommonEDCH& pc = f.ul_DPCHpowerControlInfoForCommonEDCH;
+    pc.powerControlAlgorithm.t = 1;
+    pc.powerControlAlgorithm.u.algorithm1 = 1;
+    pc.m = 5;  // deltaACK and the repetition factor
+    pc.deltaACK = 7;
+    pc.ack_NACK_repetition_factor = 3;
+    E_DPCCH_Info_r7& c = f.e_dpcch_Info;
+    c.e_DPCCH_DPCCH_PowerOffset = 6;
+    c.happyBit_DelayCondition = 4;
+    c.m = 3;
+    c.e_TFC_Boost_Info.e_TFCI_Boost = 100;
+    c.e_TFC_Boost_Info.m = 1;
+    c.e_TFC_Boost_Info.delta_T2TP = 5;
+    c.e_DPDCH_PowerInterpolation = 1;
+    E_DPDCH_Info_r8& d = f.e_dpdch_Info;
+    d.e_TFCI_TableIndex = 1;
+    d.m = 0x0Du;  // minimum set, three- and two-index thresholds; no gain factor
+    d.e_DCH_MinimumSet_E_TFCI = 9;
+    for (uint8_t i = 0; i < 8; i++) {
+      refs[i] = {static_cast<uint8_t>(10 * i), static_cast<uint8_t>(31 - i)};
+      add(d.reference_E_TFCIs, refs[i]);
+    }
+    d.maxChannelisationCodes = 5;
+    d.pl_NonMax = 20;
+    d.schedulingInfoConfiguration.m = 2;
+    d.schedulingInfoConfiguration.periodicityOfSchedInfo_Grant = 3;
+    d.schedulingInfoConfiguration.powerOffsetForSchedInfo = 6;
+    d.threeIndexStepThreshold = 30;
+    d.twoIndexStepThreshold = 37;
+    f.dl_FDPCH_TPCcommandErrorRate = 10;
+    f.additional_E_DCH_TransmitBackoff = 15;
+    f.max_CCCH_ResourceAllocation = 7;
+    f.max_PeriodForCollisionResolution = 24;
+    f.e_dch_TransmitContinuationOffset = 5;
+    f.ack_nack_support_on_HS_DPCCH = 1;
+    f.m |= feedbackBit;
+    f.measurement_Feedback_Info.modeSpecificInfo.t = 1;
+    f.measurement_Feedback_Info.modeSpecificInfo.u.fdd = &feedback;
+    feedback = {-12, 3, 4, 8};
+    for (unsigned i = 0; i < nResources; i++) {
+      Common_E_DCH_ResourceInfoList& r = resources[i];
+      r.s_offset = static_cast<uint8_t>(i % 10);
+      r.f_dpch_ChannelisationCodeNumber = static_cast<uint8_t>(255 - i);
+      r.m = i % 3 == 0 ? 1u : 0u;
+      r.e_RGCH_Information = {static_cast<uint8_t>(i), static_cast<uint8_t>(i % 6)};
+      r.e_hich_Info = {static_cast<uint8_t>(127 - i), static_cast<uint8_t>(39 - i)};
+      r.ul_DPCH_CodeInfoForCommonEDCH.ul_DPCCHscramblingCodeType = i % 2;
+      r.ul_DPCH_CodeInfoForCommonEDCH.ul_DPCCHscramblingCode = 0xFFFFFFu - 1000u * i - k;
+      add(f.common_E_DCH_ResourceInfoList, r);
+    }
+  }
+};
+
+template <class Head>
+void checkEdchHead(const Head& flat, unsigned k, unsigned nFlows) {
+  EXPECT_EQ(flat.ul_InterferenceForCommonEDCH, -100 + static_cast<int>(k));
+  ASSERT_EQ(flat.common_E_DCH_MAC_d_FlowList.count, nFlows);
+  for (unsigned i = 0; i < nFlows; i++) {
+    SCOPED_TRACE(i);
+    const umts_common_e_dch_mac_d_flow& fl = flat.common_E_DCH_MAC_d_FlowList.entries[i];
+    EXPECT_EQ(fl.presence_bitmask, i % 2 == 0 ? 1 : 2);
+    EXPECT_EQ(fl.mac_d_FlowIdentity, i);
+    EXPECT_EQ(fl.mac_d_FlowPowerOffset, (i + k) % 7);
+    EXPECT_EQ(fl.mac_d_FlowMaxRetrans, 15 - i);
+    // The 8-bit list copied as 8 octets: what ran on is stored over by the timer.
+    EXPECT_EQ(fl.mac_d_FlowMultiplexingList.numbits, i % 2 == 0 ? 8u : 0u);
+    EXPECT_EQ(fl.mac_d_FlowMultiplexingList.data[0], i % 2 == 0 ? (0xA5 ^ i) : 0);
+    EXPECT_EQ(fl.e_dch_mac_d_flow_retransmission_timer, i % 2 == 0 ? 0u : i % 8);
+  }
+}
+
+// The FDD members as filled by EdchFddParts::fill; `feedbackBit` as the record has it.
+template <class Dst>
+void checkEdchFdd(const Dst& f, unsigned k, unsigned nResources, uint16_t feedbackBit) {
+  const umts_prach_preamble_for_enhanced_uplink& p = f.prach_PreambleForEnhancedUplink;
+  EXPECT_EQ(p.presence_bitmask, 0x7FF);
+  EXPECT_EQ(p.availableSignatures.numbits, 16u);
+  EXPECT_EQ(p.availableSignatures.data[0], 0xF0);
+  EXPECT_EQ(p.availableSignatures.data[1], k);
+  EXPECT_EQ(p.e_ai_Indication, 1);
+  EXPECT_EQ(p.preambleScramblingCodeWordNumber, k % 16);
+  EXPECT_EQ(p.availableSubChannelNumbers.numbits, 12u);
+  EXPECT_EQ(p.availableSubChannelNumbers.data[0], 0xAB);
+  EXPECT_EQ(p.availableSubChannelNumbers.data[1], 0xC0);
+  ASSERT_EQ(p.prach_Partitioning.choice_tag, 1u);
+  ASSERT_EQ(p.prach_Partitioning.u.fdd.count, 8);
+  for (unsigned i = 0; i < 8; i++) {
+    const umts_asc_setting_fdd& a = p.prach_Partitioning.u.fdd.entries[i];
+    if (i == 3) {
+      EXPECT_TRUE(allZero(a));
+      continue;
+    }
+    EXPECT_EQ(a.presence_bitmask, 1);
+    EXPECT_EQ(a.accessServiceClass_FDD.availableSignatureStartIndex, i);
+    EXPECT_EQ(a.accessServiceClass_FDD.assignedSubChannelNumber.data[0], 0x50);
+  }
+  ASSERT_EQ(p.persistenceScalingFactorList.count, 6u);
+  for (uint32_t i = 0; i < 6; i++) EXPECT_EQ(p.persistenceScalingFactorList.entries[i], i);
+  ASSERT_EQ(p.ac_To_ASC_MappingTable.count, 7u);
+  for (uint32_t i = 0; i < 7; i++) EXPECT_EQ(p.ac_To_ASC_MappingTable.entries[i], 6 - i);
+  EXPECT_EQ(p.primaryCPICH_TX_Power, 30);
+  EXPECT_EQ(p.constantValue, -20);
+  EXPECT_EQ(p.prach_PowerOffset.powerRampStep, 2);
+  EXPECT_EQ(p.prach_PowerOffset.preambleRetransMax, 10);
+  EXPECT_EQ(p.rach_TransmissionParameters.mmax, 4);
+  EXPECT_EQ(p.rach_TransmissionParameters.nb01Min, 1);
+  EXPECT_EQ(p.rach_TransmissionParameters.nb01Max, 9);
+  EXPECT_EQ(p.aich_Info.channelisationCode256, 3);
+  EXPECT_EQ(p.powerOffsetPp_e, -3);
+  EXPECT_EQ(f.initialServingGrantValue, 20 + k);
+  EXPECT_EQ(f.e_dch_TTI, 1u);
+  EXPECT_EQ(f.e_agch_Information.e_AGCH_ChannelisationCode, 200 + k);
+  EXPECT_EQ(f.harq_Info, 1u);
+  const umts_ul_dpch_power_control_info_for_common_edch& pc = f.ul_DPCHpowerControlInfoForCommonEDCH;
+  EXPECT_EQ(pc.presence_bitmask, 5);
+  EXPECT_EQ(pc.powerControlAlgorithm.choice_tag, 1u);
+  EXPECT_EQ(pc.powerControlAlgorithm.u.algorithm1, 1);
+  EXPECT_EQ(pc.deltaACK, 7);
+  EXPECT_EQ(pc.deltaNACK, 0);
+  EXPECT_EQ(pc.ack_NACK_repetition_factor, 3);
+  const umts_e_dpcch_info& c = f.e_dpcch_Info;
+  EXPECT_EQ(c.presence_bitmask, 3);
+  EXPECT_EQ(c.e_DPCCH_DPCCH_PowerOffset, 6);
+  EXPECT_EQ(c.happyBit_DelayCondition, 4u);
+  EXPECT_EQ(c.e_TFC_Boost_Info.presence_bitmask, 1);
+  EXPECT_EQ(c.e_TFC_Boost_Info.e_TFCI_Boost, 100);
+  EXPECT_EQ(c.e_TFC_Boost_Info.delta_T2TP, 5);
+  EXPECT_EQ(c.e_DPDCH_PowerInterpolation, 1);
+  // Option bits 0, 2, 3 of the message become 0x10, 0x40, 0x80.
+  const umts_e_dpdch_info_r8& d = f.e_dpdch_Info;
+  EXPECT_EQ(d.presence_bitmask, 0xD0);
+  EXPECT_EQ(d.e_TFCI_TableIndex, 1);
+  EXPECT_EQ(d.e_DCH_MinimumSet_E_TFCI, 9);
+  ASSERT_EQ(d.reference_E_TFCIs.count, 8);
+  for (unsigned i = 0; i < 8; i++) {
+    EXPECT_EQ(d.reference_E_TFCIs.entries[i].reference_E_TFCI, 10 * i);
+    EXPECT_EQ(d.reference_E_TFCIs.entries[i].reference_E_TFCI_PO, 31 - i);
+  }
+  EXPECT_EQ(d.minReduced_E_DPDCH_GainFactor, 0u);
+  EXPECT_EQ(d.maxChannelisationCodes, 5u);
+  EXPECT_EQ(d.pl_NonMax, 20);
+  EXPECT_EQ(d.schedulingInfoConfiguration.presence_bitmask, 2);
+  EXPECT_EQ(d.schedulingInfoConfiguration.periodicityOfSchedInfo_Grant, 3u);
+  EXPECT_EQ(d.schedulingInfoConfiguration.powerOffsetForSchedInfo, 6);
+  EXPECT_EQ(d.threeIndexStepThreshold, 30);
+  EXPECT_EQ(d.twoIndexStepThreshold, 37);
+  EXPECT_EQ(f.dl_FDPCH_TPCcommandErrorRate, 10);
+  EXPECT_EQ(f.additional_E_DCH_TransmitBackoff, 15);
+  EXPECT_EQ(f.max_CCCH_ResourceAllocation, 7u);
+  EXPECT_EQ(f.max_PeriodForCollisionResolution, 24);
+  EXPECT_EQ(f.e_dch_TransmitContinuationOffset, 5u);
+  EXPECT_EQ(f.ack_nack_support_on_HS_DPCCH, 1);
+  EXPECT_EQ(f.presence_bitmask & feedbackBit, feedbackBit);
+  EXPECT_EQ(f.measurement_Feedback_Info.choice_tag, 1u);
+  EXPECT_EQ(f.measurement_Feedback_Info.u.fdd.measurementPowerOffset, -12);
+  EXPECT_EQ(f.measurement_Feedback_Info.u.fdd.feedback_cycle, 3u);
+  EXPECT_EQ(f.measurement_Feedback_Info.u.fdd.cqi_RepetitionFactor, 4);
+  EXPECT_EQ(f.measurement_Feedback_Info.u.fdd.deltaCQI, 8);
+  ASSERT_EQ(f.common_E_DCH_ResourceInfoList.count, nResources);
+  for (unsigned i = 0; i < nResources; i++) {
+    SCOPED_TRACE(i);
+    const umts_common_e_dch_resource_info& r = f.common_E_DCH_ResourceInfoList.entries[i];
+    EXPECT_EQ(r.presence_bitmask, i % 3 == 0 ? 7 : 3);
+    EXPECT_EQ(r.s_offset, i % 10);
+    EXPECT_EQ(r.f_dpch_ChannelisationCodeNumber, 255 - i);
+    EXPECT_EQ(r.e_RGCH_Information.signatureSequence, i % 3 == 0 ? i : 0);
+    EXPECT_EQ(r.e_RGCH_Information.rg_CombinationIndex, i % 3 == 0 ? i % 6 : 0);
+    EXPECT_EQ(r.e_hich_Info.channelisationCode, 127 - i);
+    EXPECT_EQ(r.e_hich_Info.signatureSequence, 39 - i);
+    EXPECT_EQ(r.ul_DPCH_CodeInfoForCommonEDCH.ul_DPCCHscramblingCodeType, i % 2);
+    EXPECT_EQ(r.ul_DPCH_CodeInfoForCommonEDCH.ul_DPCCHscramblingCode, 0xFFFFFFu - 1000u * i - k);
+  }
+}
+
+// The sample-shaped SIB5 with the HSPA chain: v680 HS-DSCH and v690 E-DCH indicators, v770
+// HS-DSCH common and paging information, v860 DRX, v890 and v8d0 common E-DCH.
+struct HspaSib5 : sib5test::Sib5Builder {
+  SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd v770Fdd;
+  Common_MAC_ehs_ReorderingQueue queues[2];
+  HARQ_Info_memoryPartitioning_explicit_ memory;
+  PICH_ForHSDPASupportedPaging paging[16];
+  PICH_Info_fdd pagingPich[16];
+  CommonEDCHSystemInfo_modeSpecificInfo_fdd v890Fdd;
+  EdchFddParts v890Parts, v8d0Parts;
+  rtxDListNode hspaNodes[32];
+  unsigned hspaUsed = 0;
+  unsigned nPaging = 2, nResources890 = 1, nResources8d0 = 32, nFlows = 8;
+
+  void build() {
+    chain(10);
+    v680().sysInfoType5_v680ext.m = 1;
+    v690().sysInfoType5_v690ext.m = 1;
+    SysInfoType5_v770ext_IEs& e770 = v770().sysInfoType5_v770ext;
+    e770.m = 1;
+    e770.modeSpecificInfo.t = 1;
+    e770.modeSpecificInfo.u.fdd = &v770Fdd;
+    HS_DSCH_CommonSystemInformation& c = v770Fdd.hs_dsch_CommonSystemInformation;
+    c.ccch_MappingInfo = {1, 2};
+    c.m = 1;
+    c.srb1_MappingInfo = {3, 4};
+    queues[0] = {1, 5, 14, 3, 6};
+    queues[1] = {0, 7, 2, 0, 1};
+    for (auto& q : queues) append(c.common_MAC_ehs_ReorderingQueueList, hspaNodes[hspaUsed++], q);
+    c.hs_scch_SystemInfo.m = 1;
+    c.hs_scch_SystemInfo.dl_ScramblingCode = 5;
+    c.hs_scch_SystemInfo.hS_SCCHChannelisationCodeInfo.n = 4;
+    for (uint8_t i = 0; i < 4; i++) c.hs_scch_SystemInfo.hS_SCCHChannelisationCodeInfo.elem[i] = static_cast<uint8_t>(120 + i);
+    c.harq_SystemInfo.numberOfProcesses = 6;
+    c.harq_SystemInfo.memoryPartitioning.t = 2;
+    c.harq_SystemInfo.memoryPartitioning.u.explicit_ = &memory;
+    memory.n = 8;
+    for (uint32_t i = 0; i < 8; i++) memory.elem[i] = 60 - i;
+    c.common_H_RNTI_information.n = 4;
+    for (uint8_t i = 0; i < 4; i++) c.common_H_RNTI_information.elem[i] = bitString<H_RNTI>({0x10, static_cast<uint8_t>(i)}, 16);
+    c.bcchSpecific_H_RNTI = bitString<H_RNTI>({0xBC, 0xCB}, 16);
+    HS_DSCH_PagingSystemInformation& pg = v770Fdd.hs_dsch_PagingSystemInformation;
+    v770Fdd.m = 1;
+    pg.m = 1;
+    pg.dlScramblingCode = 9;
+    for (unsigned i = 0; i < nPaging; i++) {
+      paging[i].hsdpa_AssociatedPichInfo.t = 1;
+      paging[i].hsdpa_AssociatedPichInfo.u.fdd = &pagingPich[i];
+      pagingPich[i] = {static_cast<uint8_t>(100 + i), 2, static_cast<uint8_t>(i % 2)};
+      paging[i].hs_pdschChannelisationCode = static_cast<uint8_t>(1 + i % 15);
+      append(pg.pich_ForHSDPASupportedPagingList, hspaNodes[hspaUsed++], paging[i]);
+    }
+    pg.numberOfPcchTransmissions = 5;
+    pg.transportBlockSizeList.n = 2;
+    pg.transportBlockSizeList.elem[0] = 1;
+    pg.transportBlockSizeList.elem[1] = 32;
+
+    v860Fdd.m = 1;
+    v860Fdd.hs_dsch_DrxCellfach_info = {2, 3, 1, 1};
+
+    SysInfoType5_v890ext_IEs& e890 = v890().sysInfoType5_v890ext;
+    e890.m = 2;
+    e890.commonEDCHSystemInfo.modeSpecificInfo.t = 1;
+    e890.commonEDCHSystemInfo.modeSpecificInfo.u.fdd = &v890Fdd;
+    v890Parts.fill(e890.commonEDCHSystemInfo, v890Fdd, 1, nResources890, 2, 1u);
+    SysInfoType5_v8d0ext_IEs& e8d0 = v8d0().sysInfoType5_v8d0ext;
+    e8d0.m = 1;
+    v8d0Parts.fill(e8d0.commonEDCHSystemInfoFDD, e8d0.commonEDCHSystemInfoFDD, 2, nResources8d0, nFlows, 2u);
+  }
+};
+
+const umts_sib5_v680_nces& v680(const umts_sib5_info& f) {
+  return f.v4b0NonCriticalExtensions.v590NonCriticalExtensions.v650NonCriticalExtensions.v680NonCriticalExtensions;
+}
+
+void checkHspa(const umts_sib5_info& f, const HspaSib5& in) {
+  const umts_sib5_v680_nces& l680 = v680(f);
+  EXPECT_EQ(l680.presence_bitmask, 3);
+  EXPECT_EQ(l680.sysInfoType5_v680ext.presence_bitmask, 1);
+  const umts_sib5_v690_nces& l690 = l680.v690NonCriticalExtensions;
+  EXPECT_EQ(l690.sysInfoType5_v690ext.presence_bitmask, 1);
+  const umts_sib5_v770ext& e770 = l690.v770NonCriticalExtensions.sysInfoType5_v770ext;
+  EXPECT_EQ(e770.presence_bitmask, 1);
+  ASSERT_EQ(e770.modeSpecificInfo.choice_tag, 1u);
+  const umts_sib5_v770_mode_specific_info_fdd& fdd = e770.modeSpecificInfo.u.fdd;
+  EXPECT_EQ(fdd.presence_bitmask, 1);
+  const umts_hs_dsch_common_system_information& c = fdd.hs_dsch_CommonSystemInformation;
+  EXPECT_EQ(c.presence_bitmask, 1);
+  EXPECT_EQ(c.ccch_MappingInfo.logicalChannelIdentity, 1);
+  EXPECT_EQ(c.ccch_MappingInfo.mac_ehs_QueueId, 2);
+  EXPECT_EQ(c.srb1_MappingInfo.logicalChannelIdentity, 3);
+  EXPECT_EQ(c.srb1_MappingInfo.mac_ehs_QueueId, 4);
+  ASSERT_EQ(c.common_MAC_ehs_ReorderingQueueList.count, 2);
+  for (int i = 0; i < 2; i++) {
+    const umts_common_mac_ehs_reordering_queue& q = c.common_MAC_ehs_ReorderingQueueList.entries[i];
+    EXPECT_EQ(q.presence_bitmask, in.queues[i].m);
+    EXPECT_EQ(q.mac_ehs_QueueId, in.queues[i].mac_ehs_QueueId);
+    EXPECT_EQ(q.t1_ReleaseTimer, in.queues[i].t1_ReleaseTimer);
+    EXPECT_EQ(q.reorderingResetTimer, in.queues[i].m ? in.queues[i].reorderingResetTimer : 0u);
+    EXPECT_EQ(q.mac_ehsWindowSize, in.queues[i].mac_ehsWindowSize);
+  }
+  EXPECT_EQ(c.hs_scch_SystemInfo.presence_bitmask, 1);
+  EXPECT_EQ(c.hs_scch_SystemInfo.dl_ScramblingCode, 5);
+  ASSERT_EQ(c.hs_scch_SystemInfo.hS_SCCHChannelisationCodeInfo.count, 4u);
+  for (int i = 0; i < 4; i++) EXPECT_EQ(c.hs_scch_SystemInfo.hS_SCCHChannelisationCodeInfo.entries[i], 120 + i);
+  EXPECT_EQ(c.harq_SystemInfo.numberOfProcesses, 6);
+  ASSERT_EQ(c.harq_SystemInfo.memoryPartitioning.choice_tag, 2u);
+  ASSERT_EQ(c.harq_SystemInfo.memoryPartitioning.u.explicit_.count, 8u);
+  for (uint32_t i = 0; i < 8; i++) EXPECT_EQ(c.harq_SystemInfo.memoryPartitioning.u.explicit_.entries[i], 60 - i);
+  // Four H-RNTIs, each copy running on over the next: every one reads as sent.
+  ASSERT_EQ(c.common_H_RNTI_information.count, 4u);
+  for (uint8_t i = 0; i < 4; i++) {
+    EXPECT_EQ(c.common_H_RNTI_information.entries[i].numbits, 16u);
+    EXPECT_EQ(c.common_H_RNTI_information.entries[i].data[0], 0x10);
+    EXPECT_EQ(c.common_H_RNTI_information.entries[i].data[1], i);
+    EXPECT_EQ(c.common_H_RNTI_information.entries[i].data[2], 0);
+  }
+  EXPECT_EQ(c.bcchSpecific_H_RNTI.numbits, 16u);
+  EXPECT_EQ(c.bcchSpecific_H_RNTI.data[0], 0xBC);
+  EXPECT_EQ(c.bcchSpecific_H_RNTI.data[1], 0xCB);
+  const umts_hs_dsch_paging_system_information& pg = fdd.hs_dsch_PagingSystemInformation;
+  EXPECT_EQ(pg.presence_bitmask, 1);
+  EXPECT_EQ(pg.dlScramblingCode, 9);
+  ASSERT_EQ(pg.pich_ForHSDPASupportedPagingList.count, in.nPaging);
+  for (unsigned i = 0; i < in.nPaging; i++) {
+    const umts_pich_for_hsdpa_supported_paging& e = pg.pich_ForHSDPASupportedPagingList.entries[i];
+    EXPECT_EQ(e.hsdpa_AssociatedPichInfo.choice_tag, 1u);
+    EXPECT_EQ(e.hsdpa_AssociatedPichInfo.u.fdd.channelisationCode256, 100 + i);
+    EXPECT_EQ(e.hsdpa_AssociatedPichInfo.u.fdd.pi_CountPerFrame, 2u);
+    EXPECT_EQ(e.hsdpa_AssociatedPichInfo.u.fdd.sttd_Indicator, i % 2);
+    EXPECT_EQ(e.hs_pdschChannelisationCode, 1 + i % 15);
+  }
+  EXPECT_EQ(pg.numberOfPcchTransmissions, 5);
+  ASSERT_EQ(pg.transportBlockSizeList.count, 2u);
+  EXPECT_EQ(pg.transportBlockSizeList.entries[0], 1);
+  EXPECT_EQ(pg.transportBlockSizeList.entries[1], 32);
+
+  const umts_sib5_v860_nces& l860 = l690.v770NonCriticalExtensions.v860NonCriticalExtensions;
+  const umts_sib5_v860_mode_specific_info& m860 = l860.sysInfoType5_v860ext.modeSpecificInfo;
+  ASSERT_EQ(m860.choice_tag, 1u);
+  EXPECT_EQ(m860.u.fdd.presence_bitmask, 1);
+  EXPECT_EQ(m860.u.fdd.hs_dsch_DrxCellfach_info.t_321, 2u);
+  EXPECT_EQ(m860.u.fdd.hs_dsch_DrxCellfach_info.hs_dsch_DrxCycleFach, 3u);
+  EXPECT_EQ(m860.u.fdd.hs_dsch_DrxCellfach_info.hs_dsch_DrxBurstFach, 1u);
+  EXPECT_EQ(m860.u.fdd.hs_dsch_DrxCellfach_info.drxInterruption_hs_dsch, 1);
+
+  const umts_sib5_v890ext& e890 = l860.v890NonCriticalExtensions.sysInfoType5_v890ext;
+  EXPECT_EQ(e890.presence_bitmask, 2);
+  const umts_common_edch_system_info& ce = e890.commonEDCHSystemInfo;
+  EXPECT_EQ(ce.presence_bitmask, 1);
+  checkEdchHead(ce, 1, 2);
+  ASSERT_EQ(ce.modeSpecificInfo.choice_tag, 1u);
+  checkEdchFdd(ce.modeSpecificInfo.u.fdd, 1, in.nResources890, 1);
+  EXPECT_EQ(ce.modeSpecificInfo.u.fdd.presence_bitmask, 1);
+
+  const umts_sib5_v8d0ext& e8d0 =
+      l860.v890NonCriticalExtensions.v8b0NonCriticalExtensions.v8d0NonCriticalExtensions.sysInfoType5_v8d0ext;
+  EXPECT_EQ(e8d0.presence_bitmask, 1);
+  const umts_common_edch_system_info_fdd& cf = e8d0.commonEDCHSystemInfoFDD;
+  EXPECT_EQ(cf.presence_bitmask, 3);
+  checkEdchHead(cf, 2, in.nFlows);
+  checkEdchFdd(cf, 2, in.nResources8d0, 2);
+}
+
+class ConvertSib5Hspa : public FrameTest {};
+
+TEST_F(ConvertSib5Hspa, HsdschAndCommonEdchWholeAndOverTheBch) {
+  static HspaSib5 builder;  // large: built once
+  builder.nResources8d0 = 4;  // short enough for the 16 segments of the BCH
+  builder.nFlows = 2;
+  builder.build();
+  const std::vector<uint8_t> bytes = builder.encode();
+  ASSERT_FALSE(bytes.empty());
+  ASSERT_EQ(whole(umts_sib_sib5, bytes), 1);
+  checkHspa(result->sib5, builder);
+
+  // The same SIB over the BCH, after SIB7, where the segment cuts survive the octet joins.
+  const std::vector<uint8_t> sib7 = fromHex(kSib7Hex);
+  std::vector<uint8_t> expected(sizeof(umts_sib5_info));
+  bool carried = false;
+  for (unsigned variant = 0; variant < 64 && !carried; variant++) {
+    builder.s.cbs_DRX_Level1Information.cbs_FrameOffset = static_cast<uint8_t>(variant);
+    uint32_t bits = 0;
+    const std::vector<uint8_t> sib5 = builder.encode(&bits);
+    const umts_bch_sib in[] = {{7, sib7.data(), 11, 0}, {5, sib5.data(), bits, 0}};
+    std::vector<umts_bch_block> blocks(64);
+    uint32_t count = 0;
+    if (umts_bch_segment(in, 2, 0, blocks.data(), 64, &count, nullptr) != umts_bch_ok) continue;
+    carried = true;
+    ASSERT_EQ(whole(umts_sib_sib5, sib5), 1);
+    std::memcpy(expected.data(), &result->sib5, expected.size());
+    std::memset(&result->sib5, 0xEE, sizeof result->sib5);
+    result->presence_bitmask = 0;
+    for (uint32_t i = 0; i < count; i++)
+      EXPECT_EQ(feed(std::vector<uint8_t>(blocks[i].data, blocks[i].data + UMTS_BCH_BLOCK_OCTETS)), 1) << i;
+    EXPECT_EQ(result->presence_bitmask, (1u << umts_sib_sib5) | (1u << umts_sib_sib7));
+    EXPECT_EQ(std::memcmp(&result->sib5, expected.data(), expected.size()), 0) << count << " blocks";
+    checkHspa(result->sib5, builder);
+  }
+  EXPECT_TRUE(carried);
+}
+
+// The longest lists: 16 paging PICHs, 32 E-DCH resources in both records, 8 MAC-d flows.
+TEST_F(ConvertSib5Hspa, LongestLists) {
+  static HspaSib5 builder;
+  builder.nPaging = 16;
+  builder.nResources890 = 32;
+  builder.build();
+  ASSERT_EQ(whole(umts_sib_sib5, builder.encode()), 1);
+  checkHspa(result->sib5, builder);
+}
+
+// The alternatives that the conversion treats apart, each on its own decoded value.
+TEST(ConvertSib5HspaParts, ModeAlternativesAndTheirTags) {
+  // v770: tdd768 with its three lists announced, tdd128 with none: tag and presence only.
+  SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768 t768 = {};
+  t768.m = 7;
+  SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128 t128 = {};
+  struct Case770 {
+    uint32_t tag;
+    void* alt;
+    uint16_t bits768, bits128;
+  } cases770[] = {{2, &t768, 7, 0}, {3, &t128, 0, 0}, {9, nullptr, 0, 0}};
+  for (const Case770& k : cases770) {
+    SysInfoType5_v770ext_IEs_modeSpecificInfo src = {};
+    src.t = k.tag;
+    src.u.tdd768 = static_cast<SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768*>(k.alt);
+    umts_sib5_v770_mode_specific_info out = {};
+    convert_sysinfotype5_v770ext_ies_mode_specific_info(&src, &out);
+    EXPECT_EQ(out.choice_tag, k.tag);
+    if (k.tag == 2) EXPECT_EQ(out.u.tdd768.presence_bitmask, k.bits768);
+    else EXPECT_TRUE(allZero(out.u));
+  }
+
+  // v860 tdd128: the common information's presence and the three DRX values.
+  SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128 d128 = {};
+  d128.m = 3;
+  d128.hs_dsch_CommonSysInfo.m = 1;
+  d128.hs_dsch_DrxCellfach_info = {1, 2, 3};
+  SysInfoType5_v860ext_IEs_modeSpecificInfo m860 = {};
+  m860.t = 2;
+  m860.u.tdd128 = &d128;
+  umts_sib5_v860_mode_specific_info o860 = {};
+  convert_sysinfotype5_v860ext_ies_mode_specific_info(&m860, &o860);
+  EXPECT_EQ(o860.choice_tag, 2u);
+  EXPECT_EQ(o860.u.tdd128.presence_bitmask, 3);
+  EXPECT_EQ(o860.u.tdd128.hs_dsch_CommonSysInfo.presence_bitmask, 1);
+  EXPECT_EQ(o860.u.tdd128.hs_dsch_DrxCellfach_info.t_321, 1u);
+  EXPECT_EQ(o860.u.tdd128.hs_dsch_DrxCellfach_info.hs_dsch_DrxBurstFach, 3u);
+
+  // Common E-DCH tdd: the inner tag alone, whatever it is.
+  for (uint32_t inner : {1u, 2u, 3u}) {
+    CommonEDCHSystemInfo_modeSpecificInfo_tdd tdd = {};
+    tdd.t = inner;
+    CommonEDCHSystemInfo_modeSpecificInfo m = {};
+    m.t = 2;
+    m.u.tdd = &tdd;
+    umts_common_edch_mode_specific_info out = {};
+    convert_common_edch_system_info_mode_specific_info(&m, &out);
+    EXPECT_EQ(out.choice_tag, 2u);
+    EXPECT_EQ(out.u.tdd.choice_tag, inner);
+  }
+
+  // memoryPartitioning implicit: the tag alone.
+  HARQ_Info harq = {};
+  harq.numberOfProcesses = 8;
+  harq.memoryPartitioning.t = 1;
+  umts_harq_info h = {};
+  convert_harq_system_info(&harq, &h);
+  EXPECT_EQ(h.numberOfProcesses, 8);
+  EXPECT_EQ(h.memoryPartitioning.choice_tag, 1u);
+  EXPECT_TRUE(allZero(h.memoryPartitioning.u));
+}
+
+// E-DPDCH-Info-r8: each option bit n of the message is bit n + 4 of the record.
+TEST(ConvertSib5HspaParts, EdpdchPresenceBitsFourPlacesUp) {
+  for (uint32_t m = 0; m < 16; m++) {
+    E_DPDCH_Info_r8 src = {};
+    src.m = m;
+    src.e_DCH_MinimumSet_E_TFCI = 1;
+    src.minReduced_E_DPDCH_GainFactor = 2;
+    src.threeIndexStepThreshold = 3;
+    src.twoIndexStepThreshold = 4;
+    umts_e_dpdch_info_r8 out = {};
+    convert_e_dpdch_info_r8(&src, &out);
+    EXPECT_EQ(out.presence_bitmask, m << 4);
+    EXPECT_EQ(out.e_DCH_MinimumSet_E_TFCI, (m & 1) ? 1 : 0);
+    EXPECT_EQ(out.minReduced_E_DPDCH_GainFactor, (m & 2) ? 2u : 0u);
+    EXPECT_EQ(out.threeIndexStepThreshold, (m & 4) ? 3 : 0);
+    EXPECT_EQ(out.twoIndexStepThreshold, (m & 8) ? 4 : 0);
+  }
+}
+
+// The preamble's three members always there take bits 0 to 2; each option n is bit n + 3.
+TEST(ConvertSib5HspaParts, PreamblePresenceBits) {
+  for (uint32_t n = 0; n < 8; n++) {
+    PRACH_PreambleForEnhancedUplink src = {};
+    src.m = 1u << n;
+    umts_prach_preamble_for_enhanced_uplink out = {};
+    convert_prach_preamble_for_enhanced_uplink(&src, &out);
+    EXPECT_EQ(out.presence_bitmask, 7u | (1u << (n + 3)));
+  }
+}
+
+}  // namespace
