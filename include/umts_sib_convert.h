@@ -346,6 +346,55 @@ void convert_sysinfotype5_v890ext_ies(const SysInfoType5_v890ext_IEs* src, umts_
 void convert_sysinfotype5_v8b0ext_ies(const SysInfoType5_v8b0ext_IEs* src, umts_sib5_v8b0ext* dst);
 void convert_sysinfotype5_v8d0ext_ies(const SysInfoType5_v8d0ext_IEs* src, umts_sib5_v8d0ext* dst);
 
+/* ==== SIB16: the radio bearers of a predefined configuration =============================== */
+/* Decodes a SysInfoType16 from the host's `context` (its PER buffer set) into the host's area
+   `decoded`, eight bytes in (the area holds 8 + sizeof(SysInfoType16) bytes, aligned for the
+   tree; its first eight bytes are not touched), clears `out` and converts the tree into it,
+   whether the decode succeeded or not. Returns the decoder's status (0 on success), or 0 with
+   nothing done when `decoded` is null. Called by nothing in the library. */
+int umts_convert_sib16(rtxContext* context, void* decoded, umts_sib16_info* out);
+/* The furthest offset in umts_sib16_info that the longest open lists write. */
+size_t umts_sib16_furthest_write(void);
+void decode_pre_def_radio_configuration(const PreDefRadioConfiguration* src, umts_sib16_pre_def_radio_configuration* dst);
+void decode_predefined_rb_configuration(const PredefinedRB_Configuration* src, umts_sib16_predefined_rb_configuration* dst);
+void fill_srb_information_setup_list(const SRB_InformationSetupList* src, umts_sib16_open_list* dst);
+void decode_srb_information_setup(const SRB_InformationSetup* src, umts_sib16_srb_information_setup* dst);
+void fill_rb_information_setup_list(const RB_InformationSetupList* src, umts_sib16_open_list* dst);
+void decode_rb_information_setup(const RB_InformationSetup* src, umts_sib16_rb_information_setup* dst);
+void decode_rlc_info_choice(const RLC_InfoChoice* src, umts_sib16_rlc_info_choice* dst);
+void decode_rlc_info(const RLC_Info* src, umts_sib16_rlc_info* dst);
+void decode_ul_rlc_mode(const UL_RLC_Mode* src, umts_sib16_ul_rlc_mode* dst);
+void decode_ul_am_rlc_mode(const UL_AM_RLC_Mode* src, umts_sib16_ul_am_rlc_mode* dst);
+void decode_ul_um_rlc_mode(const UL_UM_RLC_Mode* src, umts_sib16_ul_um_rlc_mode* dst);
+void decode_ul_tm_rlc_mode(const UL_TM_RLC_Mode* src, umts_sib16_ul_tm_rlc_mode* dst);
+void decode_transmission_rlc_discard(const TransmissionRLC_Discard* src, umts_sib16_transmission_rlc_discard* dst);
+void decode_explicit_discard(const ExplicitDiscard* src, umts_sib16_explicit_discard* dst);
+void decode_max_dat_retransmissions(const MaxDAT_Retransmissions* src, umts_sib16_max_dat_retransmissions* dst);
+void decode_polling_info(const PollingInfo* src, umts_sib16_polling_info* dst);
+void decode_dl_rlc_mode(const DL_RLC_Mode* src, umts_sib16_dl_rlc_mode* dst);
+void decode_dl_am_rlc_mode(const DL_AM_RLC_Mode* src, umts_sib16_dl_am_rlc_mode* dst);
+void decode_dl_tm_rlc_mode(const DL_TM_RLC_Mode* src, uint8_t* dst);
+void decode_dl_rlc_status_info(const DL_RLC_StatusInfo* src, umts_sib16_dl_rlc_status_info* dst);
+void fill_rb_mapping_info_list(const RB_MappingInfo* src, umts_sib16_open_list* dst);
+void decode_rb_mapping_option(const RB_MappingOption* src, umts_sib16_rb_mapping_option* dst);
+void decode_ul_logical_channel_mappings_s(const UL_LogicalChannelMappings* src, umts_sib16_ul_logical_channel_mappings* dst);
+void fill_ul_logical_channel_mapping_list(const UL_LogicalChannelMappingList* src, umts_sib16_ul_logical_channel_mapping_list* dst);
+void fill_ul_logicalchannelmappinglist_ul_logicalchannelmapping(const UL_LogicalChannelMappingList_ul_LogicalChannelMapping* src,
+                                                                umts_sib16_ul_logical_channel_mapping_list* dst);
+void decode_one_ul_logical_channel_mapping(const UL_LogicalChannelMapping* src, umts_sib16_ul_logical_channel_mapping* dst);
+void decode_ul_transport_channel_type(const UL_TransportChannelType* src, umts_sib16_ul_transport_channel_type* dst);
+void fill_ul_logical_channel_mapping_rlc_size_list(const UL_LogicalChannelMapping_rlc_SizeList* src, umts_sib16_rlc_size_list* dst);
+void fill_rlc_size_explicit_list(const RLC_SizeExplicitList* src, umts_sib16_rlc_size_list* dst);
+void fill_dl_logical_channel_mappings(const DL_LogicalChannelMappingList* src, umts_sib16_open_list* dst);
+void decode_dl_logical_channel_mapping(const DL_LogicalChannelMapping* src, umts_sib16_dl_logical_channel_mapping* dst);
+void decode_dl_transport_channel_type(const DL_TransportChannelType* src, umts_sib16_dl_transport_channel_type* dst);
+void decode_pdcp_info(const PDCP_Info* src, umts_sib16_pdcp_info* dst);
+void decode_lossless_srns_reloc_support(const LosslessSRNS_RelocSupport* src, umts_sib16_lossless_srns_reloc_support* dst);
+void decode_header_compression_info_list(const HeaderCompressionInfoList* src, umts_sib16_open_list* dst);
+void decode_header_compression_info(const HeaderCompressionInfo* src, umts_sib16_algorithm_specific_info* dst);
+void decode_algorithm_specific_info(const AlgorithmSpecificInfo* src, umts_sib16_algorithm_specific_info* dst);
+void decode_rfc2507_info(const RFC2507_Info* src, umts_sib16_rfc2507_info* dst);
+
 /* ==== SIB5: HS-DSCH and common E-DCH ===================================================== */
 void convert_sysinfotype5_v770ext_ies_mode_specific_info(const SysInfoType5_v770ext_IEs_modeSpecificInfo* src,
                                                          umts_sib5_v770_mode_specific_info* dst);

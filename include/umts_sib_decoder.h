@@ -25,6 +25,7 @@
 #include "umts_sib_sib3.h"
 #include "umts_sib_sib5.h"
 #include "umts_sib_meas.h"
+#include "umts_sib_sib16.h"
 #include "umts_sib_sib18.h"
 
 #ifdef __cplusplus
@@ -113,6 +114,7 @@ UMTS_RECORD(umts_sib_set)
   UMTS_SIB5_RECORDS(X)      \
   UMTS_MEAS_RECORDS(X)      \
   UMTS_SIB18_RECORDS(X)     \
+  UMTS_SIB16_RECORDS(X)     \
   X(RECORD, umts_sib_set)
 
 /* ---- Entries ------------------------------------------------------------------------- */

@@ -49,6 +49,9 @@ size_t umts_sib_record_json(const umts_sib_set* set, umts_sib_id id, char* buf, 
      {"presence_bitmask":9,"mib":{...},"sib3":{...}} */
 size_t umts_sib_set_json(const umts_sib_set* set, char* buf, size_t size);
 
+/* JSON object of a SIB16 record (umts_convert_sib16), in the same form. */
+size_t umts_sib16_json(const umts_sib16_info* sib16, char* buf, size_t size);
+
 #ifdef __cplusplus
 }
 #endif

@@ -275,6 +275,10 @@ const umts_field_desc* set_field(umts_sib_id id) {
 
 size_t umts_sib_set_size(void) { return sizeof(umts_sib_set); }
 
+size_t umts_sib16_json(const umts_sib16_info* sib16, char* buf, size_t size) {
+  return umts_json_write_record(describe_umts_sib16_info(), sib16, buf, size);
+}
+
 const char* umts_sib_name(umts_sib_id id) {
   static const umts_field_desc* const* fields = [] {
     static const umts_field_desc* by_id[umts_sib_count];

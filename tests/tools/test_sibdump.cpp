@@ -138,9 +138,9 @@ TEST(Sibdump, WholeSibsMatchTheBchPath) {
   const std::string input = kSamples + "/fdd_cell_sibs.txt";
   const Outcome whole = run(kSibdump, "--sibs '" + input + "'");
   EXPECT_EQ(whole.status, 0) << whole.err;
-  // The cycle's SIBs (SIB5 in two forms), then a second SIB11, a SIB11bis and the HSPA form
-  // of SIB5 that the cycle does not carry.
-  EXPECT_NE(whole.err.find("sibdump: 14 SIBs read, 14 records written, 0 bad lines"), std::string::npos) << whole.err;
+  // The cycle's SIBs (SIB5 in two forms), then a second SIB11, a SIB11bis, the HSPA form of
+  // SIB5 and a SIB16 that the cycle does not carry.
+  EXPECT_NE(whole.err.find("sibdump: 15 SIBs read, 15 records written, 0 bad lines"), std::string::npos) << whole.err;
   const auto by_sib = records_of(whole.out);
   ASSERT_EQ(by_sib.count("sib11bis"), 1u);
   ASSERT_EQ(by_sib.count("sib11"), 1u);
@@ -151,6 +151,11 @@ TEST(Sibdump, WholeSibsMatchTheBchPath) {
   const std::string& hspa = by_sib.at("sib5")[2];
   EXPECT_NE(hspa.find("\"common_E_DCH_ResourceInfoList\":{\"count\":4,"), std::string::npos) << hspa;
   EXPECT_NE(hspa.find("\"hs_dsch_CommonSystemInformation\":{"), std::string::npos) << hspa;
+  // SIB16, converted by sibdump through umts_convert_sib16: two SRBs, one RB.
+  ASSERT_EQ(by_sib.count("sib16"), 1u);
+  EXPECT_NE(by_sib.at("sib16")[0].find("\"srb_InformationList\":{\"count\":2},\"rb_InformationList\":{\"count\":1}"),
+            std::string::npos)
+      << by_sib.at("sib16")[0];
   const auto by_bch = records_of(run(kSibdump, "'" + kSamples + "/fdd_cell.bch'").out);
   const std::string text = read_file(input);
   for (const std::string& name : kCycle) {

@@ -457,7 +457,12 @@ TEST_F(Capture, CellsAreCollectedApart) {
       {"sib11", 28}, {"sib12", 30}, {"sib18", 53}, {"sb1", 58}, {"sb2", 59}, {"sib11bis", 29}};
   std::vector<capture::Frame> frames;
   uint64_t t = kT0;
+  /* The sample SIB16 is left out: GSMTAP's SIB16 is counted and skipped (below), sibdump
+     converts a SIB16 only from --sibs. */
+  size_t carried = 0;
   for (const auto& sib : sample_sibs()) {
+    if (sib.first == "sib16") continue;
+    carried++;
     ASSERT_EQ(sub_type.count(sib.first), 1u) << sib.first;
     frames.push_back(gsmtap_frame(Link::linux_sll, t += 1000, sib.second, 10700, sub_type.at(sib.first)));
   }
@@ -469,11 +474,14 @@ TEST_F(Capture, CellsAreCollectedApart) {
   const Outcome whole = run_on("whole_sibs.pcap", capture::pcap_file(Link::linux_sll, frames));
   EXPECT_EQ(whole.status, 0) << whole.err;
   const Outcome by_text = run_sibdump("--sibs '" + kSamples + "/fdd_cell_sibs.txt'");
-  EXPECT_EQ(records_by_block(parse_lines(whole.out)), records_by_block(parse_lines(by_text.out)));
-  const std::string sibs = n_of(sample_sibs().size()), records = n_of(parse_lines(by_text.out).size());
+  auto by_text_records = records_by_block(parse_lines(by_text.out));
+  const size_t sib16_records = by_text_records.count("sib16") ? by_text_records.at("sib16").size() : 0;
+  by_text_records.erase("sib16");
+  EXPECT_EQ(records_by_block(parse_lines(whole.out)), by_text_records);
+  const std::string sibs = n_of(carried), records = n_of(parse_lines(by_text.out).size() - sib16_records);
   EXPECT_TRUE(has(whole.err, "ARFCN 10700: 0 blocks, " + sibs + " SIBs, " + records + " records, 2 skipped, 0 errors"))
       << whole.err;
-  EXPECT_TRUE(has(whole.err, n_of(sample_sibs().size() + 3) + " frames read, 0 blocks, " + sibs + " SIBs, " + records +
+  EXPECT_TRUE(has(whole.err, n_of(carried + 3) + " frames read, 0 blocks, " + sibs + " SIBs, " + records +
                                  " records written, 2 skipped, 1 not GSMTAP"))
       << whole.err;
 }

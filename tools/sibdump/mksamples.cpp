@@ -1204,10 +1204,147 @@ void build_sib5_hspa(Sib& sib) {
   MKS_ENCODE(SysInfoType5, s, sib);
 }
 
+/* ---- SIB16 ------------------------------------------------------------------------------- */
+
+MKS_DEFINE_CHECK(SysInfoType16)
+
+/* AM RLC both ways, as a signalling bearer uses it. */
+RLC_InfoChoice am_rlc(uint32_t window) {
+  RLC_Info* rlc = make<RLC_Info>();
+  rlc->m = 3;
+  rlc->ul_RLC_Mode.t = 1;
+  UL_AM_RLC_Mode* ul = make<UL_AM_RLC_Mode>();
+  rlc->ul_RLC_Mode.u.ul_AM_RLC_Mode = ul;
+  ul->transmissionRLC_Discard.t = 4; /* noDiscard */
+  ul->transmissionRLC_Discard.u.noDiscard = 3;
+  ul->transmissionWindowSize = window;
+  ul->timerRST = 5;
+  ul->max_RST = 2;
+  ul->m = 1;
+  ul->pollingInfo.m = 0x03;
+  ul->pollingInfo.timerPollProhibit = 4;
+  ul->pollingInfo.timerPoll = 6;
+  ul->pollingInfo.lastTransmissionPDU_Poll = 1;
+  ul->pollingInfo.lastRetransmissionPDU_Poll = 1;
+  rlc->dl_RLC_Mode.t = 1;
+  DL_AM_RLC_Mode* dl = make<DL_AM_RLC_Mode>();
+  rlc->dl_RLC_Mode.u.dl_AM_RLC_Mode = dl;
+  dl->inSequenceDelivery = 1;
+  dl->receivingWindowSize = window;
+  dl->dl_RLC_StatusInfo.missingPDU_Indicator = 1;
+  RLC_InfoChoice c = {};
+  c.t = 1;
+  c.u.rlc_Info = rlc;
+  return c;
+}
+
+/* Logical channel `lch` on DCH `dch` both ways, with one explicit RLC size. */
+void add_mapping(rtxDList* list, uint8_t dch, uint8_t lch) {
+  RB_MappingOption* o = make<RB_MappingOption>();
+  o->m = 3;
+  o->ul_LogicalChannelMappings.t = 1;
+  UL_LogicalChannelMapping* ul = make<UL_LogicalChannelMapping>();
+  o->ul_LogicalChannelMappings.u.oneLogicalChannel = ul;
+  ul->ul_TransportChannelType.t = 1;
+  ul->ul_TransportChannelType.u.dch = dch;
+  ul->m = 1;
+  ul->logicalChannelIdentity = lch;
+  ul->rlc_SizeList.t = 3;
+  ul->rlc_SizeList.u.explicitList = make<RLC_SizeExplicitList>();
+  RLC_SizeInfo* size = make<RLC_SizeInfo>();
+  size->rlc_SizeIndex = 1;
+  append(ul->rlc_SizeList.u.explicitList, size);
+  ul->mac_LogicalChannelPriority = lch;
+  DL_LogicalChannelMapping* dl = make<DL_LogicalChannelMapping>();
+  dl->dl_TransportChannelType.t = 1;
+  dl->dl_TransportChannelType.u.dch = dch;
+  dl->m = 1;
+  dl->logicalChannelIdentity = lch;
+  append(&o->dl_LogicalChannelMappingList, dl);
+  append(list, o);
+}
+
+/* A predefined configuration: SRB2 and SRB3 on AM RLC and one AM radio bearer with PDCP
+   (RFC 2507 header compression), all on DCH 1, over a 10 ms DCH of 30-octet blocks. */
+void build_sib16(Sib& sib) {
+  SysInfoType16* s = make<SysInfoType16>();
+  asn1Init_UMTS_SysInfoType16(s);
+  PredefinedRB_Configuration* rb = &s->preDefinedRadioConfiguration.predefinedRB_Configuration;
+  rb->re_EstablishmentTimer = UMTS_Re_EstablishmentTimer_useT315;
+  for (uint8_t id = 2; id <= 3; id++) {
+    SRB_InformationSetup* srb = make<SRB_InformationSetup>();
+    srb->m = 1;
+    srb->rb_Identity = id;
+    srb->rlc_InfoChoice = am_rlc(4);
+    add_mapping(&srb->rb_MappingInfo, 1, id);
+    append(&rb->srb_InformationList, srb);
+  }
+  RB_InformationSetup* bearer = make<RB_InformationSetup>();
+  bearer->rb_Identity = 5;
+  bearer->m = 1;
+  bearer->pdcp_Info.m = 3;
+  bearer->pdcp_Info.losslessSRNS_RelocSupport.t = 1;
+  bearer->pdcp_Info.losslessSRNS_RelocSupport.u.supported = 1;
+  HeaderCompressionInfo* hc = make<HeaderCompressionInfo>();
+  hc->algorithmSpecificInfo.t = 1;
+  RFC2507_Info* rfc = make<RFC2507_Info>();
+  hc->algorithmSpecificInfo.u.rfc2507_Info = rfc;
+  rfc->f_MAX_PERIOD = 256;
+  rfc->f_MAX_TIME = 5;
+  rfc->max_HEADER = 168;
+  rfc->tcp_SPACE = 15;
+  rfc->non_TCP_SPACE = 15;
+  append(&bearer->pdcp_Info.headerCompressionInfoList, hc);
+  bearer->rlc_InfoChoice = am_rlc(8);
+  add_mapping(&bearer->rb_MappingInfo, 1, 6);
+  append(&rb->rb_InformationList, bearer);
+
+  PreDefTransChConfiguration* t = &s->preDefinedRadioConfiguration.preDefTransChConfiguration;
+  DedicatedTransChTFS* tfs = make<DedicatedTransChTFS>();
+  DedicatedDynamicTF_InfoList* dynamic = make<DedicatedDynamicTF_InfoList>();
+  DedicatedDynamicTF_Info* info = make<DedicatedDynamicTF_Info>();
+  info->rlc_Size.t = 2;
+  info->rlc_Size.u.octetModeType1 = make<OctetModeRLC_SizeInfoType1>();
+  info->rlc_Size.u.octetModeType1->t = 1;
+  info->rlc_Size.u.octetModeType1->u.sizeType1 = 30;
+  NumberOfTransportBlocks* one = make<NumberOfTransportBlocks>();
+  one->t = 2;
+  append(&info->numberOfTbSizeList, one);
+  info->logicalChannelList.t = 1;
+  append(dynamic, info);
+  tfs->tti.t = 1;
+  tfs->tti.u.tti10 = dynamic;
+  tfs->semistaticTF_Information.channelCodingType.t = 3; /* turbo */
+  tfs->semistaticTF_Information.rateMatchingAttribute = 200;
+  tfs->semistaticTF_Information.crc_Size = UMTS_CRC_Size_crc16;
+  UL_AddReconfTransChInformation* ul = make<UL_AddReconfTransChInformation>();
+  ul->transportChannelIdentity = 1;
+  ul->transportFormatSet.t = 1;
+  ul->transportFormatSet.u.dedicatedTransChTFS = tfs;
+  append(&t->ul_AddReconfTrChInfoList, ul);
+  DL_AddReconfTransChInformation* dl = make<DL_AddReconfTransChInformation>();
+  dl->dl_transportChannelIdentity = 1;
+  dl->tfs_SignallingMode.t = 2;
+  dl->tfs_SignallingMode.u.sameAsULTrCH = make<UL_TransportChannelIdentity>();
+  dl->tfs_SignallingMode.u.sameAsULTrCH->ul_TransportChannelIdentity = 1;
+  append(&t->dl_TrChInfoList, dl);
+  t->dl_CommonTransChInfo.modeSpecificInfo.t = 1;
+  t->dl_CommonTransChInfo.modeSpecificInfo.u.fdd = make<DL_CommonTransChInfo_modeSpecificInfo_fdd>();
+  PreDefPhyChConfiguration* p = &s->preDefinedRadioConfiguration.preDefPhyChConfiguration;
+  p->ul_DPCH_InfoPredef.ul_DPCH_PowerControlInfo.t = 1;
+  p->ul_DPCH_InfoPredef.ul_DPCH_PowerControlInfo.u.fdd = make<UL_DPCH_PowerControlInfoPredef_fdd>();
+  p->ul_DPCH_InfoPredef.ul_DPCH_PowerControlInfo.u.fdd->powerControlAlgorithm.t = 1;
+  p->ul_DPCH_InfoPredef.modeSpecificInfo.t = 1;
+  p->ul_DPCH_InfoPredef.modeSpecificInfo.u.fdd = make<UL_DPCH_InfoPredef_modeSpecificInfo_fdd>();
+  MKS_ENCODE(SysInfoType16, s, sib);
+}
+
 /* Blocks of the whole-SIB file for HSPA and SIB16 (not in the cycle). */
 void add_hspa_samples(std::vector<Sib>& whole_only) {
   whole_only.push_back({"sib5", "SIB5 of an HSPA cell: HS-DSCH and common E-DCH (not in the cycle)", 5, {}, 0});
   build_sib5_hspa(whole_only.back());
+  whole_only.push_back({"sib16", "SIB16, a predefined configuration (not in the cycle)", 14, {}, 0});
+  build_sib16(whole_only.back());
 }
 
 /* ---- The cycle ---------------------------------------------------------------------------- */

@@ -13,6 +13,7 @@
 
 #include "sibdump_inputs.h"
 #include "umts_rrc_rt.h"
+#include "umts_sib_convert.h"
 #include "umts_sib_decoder.h"
 #include "umts_sib_json.h"
 #include "umts_sib_log.h"
@@ -105,7 +106,7 @@ std::string sib_names() {
     if (!names.empty()) names += ", ";
     names += umts_sib_name(static_cast<umts_sib_id>(i));
   }
-  return names;
+  return names + ", sib16";
 }
 
 int sib_id_of(const char* name, size_t length) {
@@ -254,13 +255,25 @@ class JsonLines {
 
   /* <record>}\n */
   void put_record(const umts_sib_set* set, umts_sib_id id) {
+    put_json([set, id](char* buf, size_t size) { return umts_sib_record_json(set, id, buf, size); });
+  }
+
+  /* {"line":N,"block":"sib16","record":<umts_sib16_info>}\n */
+  void sib16(unsigned long line, const umts_sib16_info* sib16) {
+    put_head(line, "sib16");
+    put_json([sib16](char* buf, size_t size) { return umts_sib16_json(sib16, buf, size); });
+  }
+
+  /* The text of `write` (a JSON writer of the library), then }\n. */
+  template <class Write>
+  void put_json(Write write) {
     size_t room = cap_ - len_;
-    size_t need = umts_sib_record_json(set, id, buf_ + len_, room);
+    size_t need = write(buf_ + len_, room);
     if (need >= room) {
       /* A record larger than the room left: write out what is gathered, grow if needed. */
       write_out();
       reserve(need + 3);
-      need = umts_sib_record_json(set, id, buf_ + len_, cap_ - len_);
+      need = write(buf_ + len_, cap_ - len_);
     }
     len_ += need;
     put("}\n", 2);
@@ -339,6 +352,26 @@ void bad_line(Dumper& d, unsigned long line, const char* why) {
   d.counts.bad++;
 }
 
+/* A whole SIB16: not a block of umts_sib_set, so sibdump decodes it itself, with its own
+   context and decoded area, through umts_convert_sib16. A failed decode is a bad line. */
+void convert_sib16(Dumper& d, unsigned long line, uint8_t* bytes, size_t octets) {
+  static uint64_t area[(8 + sizeof(SysInfoType16)) / 8 + 1];
+  static umts_sib16_info record;
+  rtxContext ctx;
+  int status = rtInitContext(&ctx);
+  if (status == 0) status = pu_setBuffer(&ctx, bytes, static_cast<uint32_t>(octets), 0);
+  if (status == 0) status = umts_convert_sib16(&ctx, area, &record);
+  rtFreeContext(&ctx);
+  if (status != 0) {
+    char why[96];
+    std::snprintf(why, sizeof why, "SIB16 decoding failed (status %d)", status);
+    bad_line(d, line, why);
+    return;
+  }
+  d.json.sib16(line, &record);
+  d.counts.records++;
+}
+
 /* One JSON line per sub-record whose presence bit the last call set. */
 void write_records(Dumper& d, unsigned long line) {
   const uint32_t present = d.set->presence_bitmask;
@@ -390,7 +423,8 @@ void process_line(Dumper& d, bool sibs, unsigned long line, char* text, size_t l
   size_t name_end = start;
   while (name_end < length && !is_blank(text[name_end])) name_end++;
   const int id = sib_id_of(text + start, name_end - start);
-  if (id < 0) {
+  const bool sib16 = name_end - start == 5 && std::memcmp(text + start, "sib16", 5) == 0;
+  if (id < 0 && !sib16) {
     std::snprintf(why, sizeof why, "unknown SIB name '%.*s' (expected one of %s)", static_cast<int>(name_end - start),
                   text + start, sib_names().c_str());
     bad_line(d, line, why);
@@ -405,6 +439,10 @@ void process_line(Dumper& d, bool sibs, unsigned long line, char* text, size_t l
     return;
   }
   d.counts.blocks++;
+  if (sib16) {
+    convert_sib16(d, line, bytes, octets);
+    return;
+  }
   d.set->presence_bitmask = 0;
   umts_sib_msg_decoder(static_cast<umts_sib_id>(id), bytes, d.set, static_cast<uint32_t>(octets));
   write_records(d, line);
