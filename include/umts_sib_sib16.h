@@ -22,7 +22,8 @@
  * 8 RBs, each with 8 mapping options of 2 downlink mappings and 32 RLC sizes, and 8 header
  * compression entries per RB: the furthest of those writes ends at byte 1,708
  * (umts_sib16_furthest_write, checked when the library is built). No write goes beyond the
- * record.
+ * record. (The exported decode_/fill_ functions, called on their own, write the same way
+ * after the list they are given: give them a list inside a umts_sib16_info.)
  */
 #ifndef UMTS_SIB_SIB16_H
 #define UMTS_SIB_SIB16_H

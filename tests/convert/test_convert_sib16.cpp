@@ -168,6 +168,11 @@ struct Sib16Builder {
     add(s.preDefinedRadioConfiguration.predefinedRB_Configuration.rb_InformationList, e);
     return e;
   }
+  // One SRB and one RB, each with one mapping option on its own DCH.
+  void srbAndRb(uint8_t srbId, uint8_t srbDch, uint8_t rbId, uint8_t rbDch) {
+    add(addSrb(srbId).rb_MappingInfo, option(srbDch, 1, 1));
+    add(addRb(rbId).rb_MappingInfo, option(rbDch, 1, 1));
+  }
   std::vector<uint8_t> encode() const { return frametest::encode(asn1PE_UMTS_SysInfoType16, s); }
 };
 
@@ -215,10 +220,7 @@ TEST_F(ConvertSib16, LayoutOfTheOpenLists) {
 // One SRB, then one RB over it: the RB entry stands where the SRB entry was written.
 TEST_F(ConvertSib16, RbListOverwritesTheSrbList) {
   static Sib16Builder b;
-  b.addSrb(1);
-  b.add(b.srb[0].rb_MappingInfo, b.option(1, 1, 1));
-  b.addRb(9);
-  b.add(b.rb[0].rb_MappingInfo, b.option(20, 1, 1));
+  b.srbAndRb(1, 1, 9, 20);
   Host host;
   ASSERT_EQ(host.convert(b.encode(), out), 0);
   EXPECT_EQ(reinterpret_cast<uint64_t*>(host.area.data())[0], 0x1111111111111111ull);  // the host's eight bytes
@@ -387,10 +389,7 @@ TEST_F(ConvertSib16, NullDecodedAreaLeavesTheRecord) {
 // was decoded before the cut.
 TEST_F(ConvertSib16, FailedDecodeIsConvertedPartly) {
   static Sib16Builder b;
-  b.addSrb(4);
-  b.add(b.srb[0].rb_MappingInfo, b.option(1, 1, 1));
-  b.addRb(6);
-  b.add(b.rb[0].rb_MappingInfo, b.option(2, 1, 1));
+  b.srbAndRb(4, 1, 6, 2);
   std::vector<uint8_t> bytes = b.encode();
   ASSERT_GT(bytes.size(), 4u);
   bytes.resize(3);
@@ -406,10 +405,7 @@ TEST_F(ConvertSib16, FailedDecodeIsConvertedPartly) {
 
 TEST_F(ConvertSib16, JsonFromTheFieldLists) {
   static Sib16Builder b;
-  b.addSrb(1);
-  b.add(b.srb[0].rb_MappingInfo, b.option(1, 1, 1));
-  b.addRb(2);
-  b.add(b.rb[0].rb_MappingInfo, b.option(2, 1, 1));
+  b.srbAndRb(1, 1, 2, 2);
   Host host;
   ASSERT_EQ(host.convert(b.encode(), out), 0);
   std::vector<char> text(umts_sib16_json(out, nullptr, 0) + 1);

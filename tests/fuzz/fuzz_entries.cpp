@@ -1,6 +1,8 @@
 // The entry code of the fuzz targets; see fuzz_entries.h for the input formats.
 #include "fuzz_entries.h"
 
+#include "umts_sib_convert.h"
+
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -138,6 +140,26 @@ std::string run_sib_msg(const uint8_t* data, size_t size) {
   else problem = checkSlots();
   resetContext();
   return problem;
+}
+
+std::string run_sib16(const uint8_t* data, size_t size) {
+  static umts_sib16_info* const record = static_cast<umts_sib16_info*>(std::malloc(sizeof(umts_sib16_info)));
+  static uint64_t* const area = static_cast<uint64_t*>(std::malloc(8 + sizeof(SysInfoType16)));
+  if (record == nullptr || area == nullptr) return "";
+  const Bytes copy = exactCopy(data, size);
+  rtxContext ctx;
+  rtInitContext(&ctx);
+  pu_setBuffer(&ctx, copy.get(), static_cast<uint32_t>(size), 0);
+  std::memset(record, 0xA5, sizeof *record);
+  const int status = umts_convert_sib16(&ctx, area, record);
+  rtFreeContext(&ctx);
+  const umts_sib16_predefined_rb_configuration& c = record->preDefinedRadioConfiguration.predefinedRB_Configuration;
+  if (status > 0) return "status " + std::to_string(status);
+  if (record->presence_bitmask > 1) return "presence word beyond bit 0";
+  if (status == 0 && (c.srb_InformationList.count == 0 || c.srb_InformationList.count > 8 || c.rb_InformationList.count == 0 ||
+                      c.rb_InformationList.count > 8))
+    return "list counts outside their bounds after a good decode";
+  return "";
 }
 
 namespace {

@@ -9,6 +9,9 @@
 //            0xF0 up it is passed as it is, an id beyond the enumeration that a C caller
 //            may pass and that must be refused. The rest is the SIB for
 //            umts_sib_msg_decoder.
+//   sib16    a SysInfoType16, handed to umts_convert_sib16 with a context and a decoded
+//            area of this program's own (as a host calls it); the record must keep its
+//            presence word to bit 0 and its open lists to their bounds.
 //   codec    the first two bytes, big-endian, modulo the registry's count pick the type;
 //            the rest is decoded by its generated decoder, and a value that decodes is
 //            encoded, decoded and encoded again.
@@ -25,6 +28,7 @@ namespace umts_fuzz {
 
 std::string run_bch(const uint8_t* data, size_t size);
 std::string run_sib_msg(const uint8_t* data, size_t size);
+std::string run_sib16(const uint8_t* data, size_t size);
 std::string run_codec(const uint8_t* data, size_t size);
 
 // Sends everything that the library writes on standard output (its printf and puts, and the

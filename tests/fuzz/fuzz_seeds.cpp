@@ -99,8 +99,8 @@ int main(int argc, char** argv) {
   }
   const std::string out = argv[1], samples = argv[2];
   mkdir(out.c_str(), 0777);
-  Writer bch{out + "/bch"}, sib{out + "/sib_msg"}, codec{out + "/codec"};
-  for (const Writer* w : {&bch, &sib, &codec}) mkdir(w->dir.c_str(), 0777);
+  Writer bch{out + "/bch"}, sib{out + "/sib_msg"}, sib16{out + "/sib16"}, codec{out + "/codec"};
+  for (const Writer* w : {&bch, &sib, &sib16, &codec}) mkdir(w->dir.c_str(), 0777);
 
   // The sample cell: its transport blocks in order, and its SIBs whole.
   std::vector<Bytes> blocks;
@@ -146,6 +146,7 @@ int main(int argc, char** argv) {
     std::istringstream ls(line);
     std::string name, hex;
     ls >> name >> hex;
+    if (name == "sib16") sib16.put(fromHex(hex));
     auto id = sibIds().find(name);
     if (id == sibIds().end()) continue;
     putSib(sib, id->second, fromHex(hex));
@@ -168,6 +169,7 @@ int main(int argc, char** argv) {
       if (type == "BCCH_BCH_Message" && appendBlock(block, bytes)) bch.put(block);
     }
   }
-  std::printf("fuzz_seeds: %d bch, %d sib_msg, %d codec seeds in %s\n", bch.count, sib.count, codec.count, out.c_str());
+  std::printf("fuzz_seeds: %d bch, %d sib_msg, %d sib16, %d codec seeds in %s\n", bch.count, sib.count, sib16.count, codec.count,
+              out.c_str());
   return 0;
 }

@@ -25,7 +25,10 @@ struct Target {
 
 void PrintTo(const Target& t, std::ostream* os) { *os << t.name; }
 
-const Target kTargets[] = {{"bch", umts_fuzz::run_bch}, {"sib_msg", umts_fuzz::run_sib_msg}, {"codec", umts_fuzz::run_codec}};
+const Target kTargets[] = {{"bch", umts_fuzz::run_bch},
+                           {"sib_msg", umts_fuzz::run_sib_msg},
+                           {"sib16", umts_fuzz::run_sib16},
+                           {"codec", umts_fuzz::run_codec}};
 
 std::vector<uint8_t> readFile(const fs::path& path) {
   std::ifstream in(path, std::ios::binary);
