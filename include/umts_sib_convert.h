@@ -403,6 +403,9 @@ void convert_hs_dsch_common_system_information(const HS_DSCH_CommonSystemInforma
 void convert_common_mac_ehs_reordering_queue_list(const Common_MAC_ehs_ReorderingQueueList* src,
                                                   umts_common_mac_ehs_reordering_queue_list* dst);
 void convert_hs_scch_system_info(const HS_SCCH_SystemInfo* src, umts_hs_scch_system_info* dst);
+void convert_hs_dsch_common_system_information_tdd128(const HS_DSCH_CommonSystemInformation_TDD128* src,
+                                                      umts_hs_dsch_common_system_information_tdd128* dst);
+void convert_hs_scch_system_info_tdd128(const HS_SCCH_SystemInfo_TDD128* src, umts_hs_scch_system_info_tdd128* dst);
 void convert_harq_system_info(const HARQ_Info* src, umts_harq_info* dst);
 void convert_h_rnti(const H_RNTI* src, umts_bit_string32* dst);
 void convert_hs_dsch_common_system_information_common_h_rnti_information(

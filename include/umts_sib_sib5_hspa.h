@@ -3,9 +3,10 @@
  * E-DCH (v890 commonEDCHSystemInfo, v8d0 commonEDCHSystemInfoFDD). Included by
  * umts_sib_sib5.h, whose PICH, PRACH and bit string records they reuse.
  *
- * The TDD parts of these members (v770 tdd768/tdd128, v860 tdd128 common information, the
- * tdd128 common E-DCH resources, the tdd form of PRACH-Partitioning-r7) keep their tag and
- * presence bits; their own fields are not converted yet and stay zero.
+ * The 1.28 Mcps HS-DSCH common information of v860 is converted; the other TDD parts of these
+ * members (v770 tdd768/tdd128, the 1.28 Mcps paging information, the tdd128 common E-DCH
+ * resources, the tdd form of PRACH-Partitioning-r7) keep their tag and presence bits; their
+ * own fields are not converted yet and stay zero.
  */
 #ifndef UMTS_SIB_SIB5_HSPA_H
 #define UMTS_SIB_SIB5_HSPA_H
@@ -117,8 +118,73 @@
   F(SCALAR, uint32_t, hs_dsch_DrxCycleFach, 1, UMTS_ALWAYS, _)  \
   F(SCALAR, uint32_t, hs_dsch_DrxBurstFach, 1, UMTS_ALWAYS, _)
 
-/* The 1.28 Mcps HS-DSCH common information: its presence bit (0 paging) only so far. */
-#define umts_hs_dsch_common_sys_info_tdd128_FIELDS(F) F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)
+/* ==== 1.28 Mcps TDD: HS-DSCH common system information ===================================== */
+
+/* Midamble allocation of an HS-SCCH or HS-PDSCH: 3 ueSpecificMidamble (its shift). */
+#define umts_hs_scch_midamble_allocation_mode_u_FIELDS(F) F(SCALAR, uint8_t, ueSpecificMidamble, 1, 3, _)
+
+#define umts_hs_scch_midamble_allocation_mode_FIELDS(F)  \
+  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)     \
+  F(UNION, umts_hs_scch_midamble_allocation_mode_u, u, 1, UMTS_ALWAYS, choice_tag)
+
+/* Midamble allocation of an HS-SICH: 2 ueSpecificMidamble (its shift). */
+#define umts_hs_sich_midamble_allocation_mode_u_FIELDS(F) F(SCALAR, uint8_t, ueSpecificMidamble, 1, 2, _)
+
+#define umts_hs_sich_midamble_allocation_mode_FIELDS(F)  \
+  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)     \
+  F(UNION, umts_hs_sich_midamble_allocation_mode_u, u, 1, UMTS_ALWAYS, choice_tag)
+
+#define umts_hs_sich_configuration_tdd128_FIELDS(F)                                               \
+  F(SCALAR, uint8_t, timeslotNumber, 1, UMTS_ALWAYS, _)                                           \
+  F(SCALAR, uint32_t, channelisationCode, 1, UMTS_ALWAYS, _)                                      \
+  F(RECORD, umts_hs_sich_midamble_allocation_mode, midambleAllocationMode, 1, UMTS_ALWAYS, _)      \
+  F(SCALAR, uint8_t, midambleConfiguration, 1, UMTS_ALWAYS, _)
+
+#define umts_hs_scch_tdd128_FIELDS(F)                                                             \
+  F(SCALAR, uint8_t, timeslotNumber, 1, UMTS_ALWAYS, _)                                           \
+  F(SCALAR, uint32_t, firstChannelisationCode, 1, UMTS_ALWAYS, _)                                 \
+  F(SCALAR, uint32_t, secondChannelisationCode, 1, UMTS_ALWAYS, _)                                \
+  F(RECORD, umts_hs_scch_midamble_allocation_mode, midambleAllocationMode, 1, UMTS_ALWAYS, _)      \
+  F(SCALAR, uint8_t, midambleConfiguration, 1, UMTS_ALWAYS, _)                                    \
+  F(RECORD, umts_hs_sich_configuration_tdd128, hs_sich_configuration, 1, UMTS_ALWAYS, _)
+
+#define umts_hs_scch_set_configuration_tdd128_FIELDS(F) \
+  F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)          \
+  F(ARRAY, umts_hs_scch_tdd128, entries, 4, UMTS_ALWAYS, count)
+
+#define umts_hs_scch_system_info_tdd128_FIELDS(F)                                                  \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                         \
+  F(RECORD, umts_hs_scch_set_configuration_tdd128, hs_SCCH_SetConfiguration, 1, UMTS_ALWAYS, _)    \
+  F(SCALAR, int8_t, power_level_HSSICH, 1, UMTS_ALWAYS, _)                                         \
+  F(SCALAR, int8_t, nack_ack_power_offset, 1, UMTS_ALWAYS, _)                                      \
+  F(SCALAR, uint32_t, tpc_step_size, 1, UMTS_ALWAYS, _)                                            \
+  F(SCALAR, int8_t, bler_target, 1, UMTS_ALWAYS, _)                                                \
+  F(SCALAR, uint8_t, power_control_gap, 1, 0, _)                                                   \
+  F(BOOL, uint8_t, pathloss_compensation_switch, 1, 1, _)
+
+#define umts_hs_pdsch_midamble_configuration_tdd128_FIELDS(F)                                      \
+  F(RECORD, umts_hs_scch_midamble_allocation_mode, midambleAllocationMode, 1, UMTS_ALWAYS, _)      \
+  F(SCALAR, uint8_t, midambleConfiguration, 1, UMTS_ALWAYS, _)
+
+#define umts_hs_dsch_common_system_information_tdd128_FIELDS(F)                                             \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                                  \
+  F(RECORD, umts_common_rb_mapping_info, ccch_MappingInfo, 1, UMTS_ALWAYS, _)                               \
+  F(RECORD, umts_common_rb_mapping_info, srb1_MappingInfo, 1, 0, _)                                         \
+  F(RECORD, umts_common_mac_ehs_reordering_queue_list, common_MAC_ehs_ReorderingQueueList, 1, UMTS_ALWAYS, _) \
+  F(RECORD, umts_hs_scch_system_info_tdd128, hs_scch_SystemInfo_tdd128, 1, UMTS_ALWAYS, _)                  \
+  F(RECORD, umts_harq_info, harq_SystemInfo, 1, UMTS_ALWAYS, _)                                             \
+  F(RECORD, umts_hs_pdsch_midamble_configuration_tdd128, hs_pdsch_MidambleConfiguration, 1, UMTS_ALWAYS, _) \
+  F(RECORD, umts_h_rnti_list, common_H_RNTI_information, 1, UMTS_ALWAYS, _)                                 \
+  F(RECORD, umts_bit_string32, bcchSpecific_H_RNTI, 1, UMTS_ALWAYS, _)
+
+/* The 1.28 Mcps paging information: its presence bit (0 pcch_InformationList) only so far. */
+#define umts_hs_dsch_paging_system_information_tdd128_FIELDS(F) F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)
+
+/* v860 tdd128 hs_dsch_CommonSysInfo: bit 0 the paging information. */
+#define umts_hs_dsch_common_sys_info_tdd128_FIELDS(F)                                                         \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                                    \
+  F(RECORD, umts_hs_dsch_common_system_information_tdd128, hs_dsch_CommonSystemInformation, 1, UMTS_ALWAYS, _) \
+  F(RECORD, umts_hs_dsch_paging_system_information_tdd128, hs_dsch_PagingSystemInformation, 1, 0, _)
 
 #define umts_sib5_v860_mode_specific_info_fdd_FIELDS(F)                       \
   F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                    \
@@ -351,6 +417,17 @@
   X(RECORD, umts_sib5_v770_mode_specific_info)                   \
   X(RECORD, umts_hs_dsch_drx_cellfach_info)                      \
   X(RECORD, umts_hs_dsch_drx_cellfach_info_tdd128)               \
+  X(UNION, umts_hs_scch_midamble_allocation_mode_u)             \
+  X(RECORD, umts_hs_scch_midamble_allocation_mode)               \
+  X(UNION, umts_hs_sich_midamble_allocation_mode_u)              \
+  X(RECORD, umts_hs_sich_midamble_allocation_mode)               \
+  X(RECORD, umts_hs_sich_configuration_tdd128)                   \
+  X(RECORD, umts_hs_scch_tdd128)                                 \
+  X(RECORD, umts_hs_scch_set_configuration_tdd128)               \
+  X(RECORD, umts_hs_scch_system_info_tdd128)                     \
+  X(RECORD, umts_hs_pdsch_midamble_configuration_tdd128)         \
+  X(RECORD, umts_hs_dsch_common_system_information_tdd128)       \
+  X(RECORD, umts_hs_dsch_paging_system_information_tdd128)       \
   X(RECORD, umts_hs_dsch_common_sys_info_tdd128)                 \
   X(RECORD, umts_sib5_v860_mode_specific_info_fdd)               \
   X(RECORD, umts_sib5_v860_mode_specific_info_tdd128)            \

@@ -87,6 +87,54 @@ void convert_hs_dsch_common_system_information(const HS_DSCH_CommonSystemInforma
   convert_h_rnti(&src->bcchSpecific_H_RNTI, &dst->bcchSpecific_H_RNTI);
 }
 
+/* The 1.28 Mcps form: its own HS-SCCH information and the HS-PDSCH midamble. */
+void convert_hs_dsch_common_system_information_tdd128(const HS_DSCH_CommonSystemInformation_TDD128* src,
+                                                      umts_hs_dsch_common_system_information_tdd128* dst) {
+  convert_common_rb_mapping_info(&src->ccch_MappingInfo, &dst->ccch_MappingInfo);
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_common_rb_mapping_info, srb1_MappingInfo);
+  convert_common_mac_ehs_reordering_queue_list(&src->common_MAC_ehs_ReorderingQueueList,
+                                               &dst->common_MAC_ehs_ReorderingQueueList);
+  convert_hs_scch_system_info_tdd128(&src->hs_scch_SystemInfo_tdd128, &dst->hs_scch_SystemInfo_tdd128);
+  convert_harq_system_info(&src->harq_SystemInfo, &dst->harq_SystemInfo);
+  const HS_PDSCH_Midamble_Configuration_TDD128& mid = src->hs_pdsch_MidambleConfiguration;
+  dst->hs_pdsch_MidambleConfiguration.midambleAllocationMode.choice_tag = mid.midambleAllocationMode.t;
+  if (mid.midambleAllocationMode.t == 3)
+    dst->hs_pdsch_MidambleConfiguration.midambleAllocationMode.u.ueSpecificMidamble = mid.midambleAllocationMode.u.ueSpecificMidamble;
+  dst->hs_pdsch_MidambleConfiguration.midambleConfiguration = mid.midambleConfiguration;
+  /* Its loop index is 32 bits wide; it stops at the count all the same. */
+  dst->common_H_RNTI_information.count = src->common_H_RNTI_information.n;
+  for (uint32_t i = 0; i < src->common_H_RNTI_information.n && i < 4u; i++)
+    convert_h_rnti(&src->common_H_RNTI_information.elem[i], &dst->common_H_RNTI_information.entries[i]);
+  convert_h_rnti(&src->bcchSpecific_H_RNTI, &dst->bcchSpecific_H_RNTI);
+}
+
+/* Each HS-SCCH: its midamble shift inline (tag 3); its HS-SICH's through a pointer (tag 2). */
+void convert_hs_scch_system_info_tdd128(const HS_SCCH_SystemInfo_TDD128* src, umts_hs_scch_system_info_tdd128* dst) {
+  dst->hs_SCCH_SetConfiguration.count = static_cast<uint8_t>(src->hs_SCCH_SetConfiguration.count);
+  umts_for_each_node<HS_SCCH_TDD128_r6>(&src->hs_SCCH_SetConfiguration, 4u, [dst](const HS_SCCH_TDD128_r6* scch, uint32_t i) {
+    umts_hs_scch_tdd128* out = &dst->hs_SCCH_SetConfiguration.entries[i];
+    out->timeslotNumber = scch->timeslotNumber;
+    out->firstChannelisationCode = scch->firstChannelisationCode;
+    out->secondChannelisationCode = scch->secondChannelisationCode;
+    out->midambleAllocationMode.choice_tag = scch->midambleAllocationMode.t;
+    if (scch->midambleAllocationMode.t == 3) out->midambleAllocationMode.u.ueSpecificMidamble = scch->midambleAllocationMode.u.ueSpecificMidamble;
+    out->midambleConfiguration = scch->midambleConfiguration;
+    const HS_SICH_Configuration_TDD128_r6& sich = scch->hs_sich_configuration;
+    out->hs_sich_configuration.timeslotNumber = sich.timeslotNumber;
+    out->hs_sich_configuration.channelisationCode = sich.channelisationCode;
+    out->hs_sich_configuration.midambleAllocationMode.choice_tag = sich.midambleAllocationMode.t;
+    if (sich.midambleAllocationMode.t == 2 && sich.midambleAllocationMode.u.ueSpecificMidamble != nullptr)
+      out->hs_sich_configuration.midambleAllocationMode.u.ueSpecificMidamble = sich.midambleAllocationMode.u.ueSpecificMidamble->midambleShift;
+    out->hs_sich_configuration.midambleConfiguration = sich.midambleConfiguration;
+  });
+  dst->power_level_HSSICH = src->power_level_HSSICH;
+  dst->nack_ack_power_offset = src->nack_ack_power_offset;
+  dst->tpc_step_size = src->tpc_step_size;
+  dst->bler_target = src->bler_target;
+  UMTS_COPY_OPTIONAL(src, dst, 1u, power_control_gap);
+  UMTS_COPY_OPTIONAL(src, dst, 2u, pathloss_compensation_switch);
+}
+
 void convert_common_mac_ehs_reordering_queue_list(const Common_MAC_ehs_ReorderingQueueList* src,
                                                   umts_common_mac_ehs_reordering_queue_list* dst) {
   dst->count = static_cast<uint8_t>(src->count);
@@ -163,8 +211,15 @@ void convert_sysinfotype5_v860ext_ies_mode_specific_info(const SysInfoType5_v860
     const SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128* tdd = src->u.tdd128;
     umts_sib5_v860_mode_specific_info_tdd128* out = &dst->u.tdd128;
     if (tdd->m & 1u) {
+      const SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo& info = tdd->hs_dsch_CommonSysInfo;
       out->presence_bitmask |= 1u;
-      out->hs_dsch_CommonSysInfo.presence_bitmask = static_cast<uint16_t>(tdd->hs_dsch_CommonSysInfo.m & 1u);
+      convert_hs_dsch_common_system_information_tdd128(&info.hs_dsch_CommonSystemInformation,
+                                                       &out->hs_dsch_CommonSysInfo.hs_dsch_CommonSystemInformation);
+      if (info.m & 1u) {
+        out->hs_dsch_CommonSysInfo.presence_bitmask |= 1u;
+        out->hs_dsch_CommonSysInfo.hs_dsch_PagingSystemInformation.presence_bitmask =
+            static_cast<uint16_t>(info.hs_dsch_PagingSystemInformation.m & 1u);
+      }
     }
     if (tdd->m & 2u) {
       out->presence_bitmask |= 2u;

@@ -460,6 +460,122 @@ TEST_F(ConvertSib5Hspa, LongestLists) {
   checkHspa(result->sib5, builder);
 }
 
+// 1.28 Mcps TDD: the HS-DSCH common information of v860, four HS-SCCHs with their HS-SICHs
+// (midamble shift inline for the HS-SCCH, through a pointer for the HS-SICH), the HS-PDSCH
+// midamble, the DRX values; the paging information's presence alone.
+TEST_F(ConvertSib5Hspa, Tdd128HsdschCommonInformation) {
+  static sib5test::Sib5Builder b;
+  b.chain(7);
+  static SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128 tdd;
+  static HS_SCCH_TDD128_r6 scch[4];
+  static HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble sichShift[4];
+  static Common_MAC_ehs_ReorderingQueue queue = {0, 3, 1, 0, 2};
+  static PICH_ForHSDPASupportedPaging_TDD128 pich;
+  static rtxDListNode nodes[8];
+  b.v860().sysInfoType5_v860ext.modeSpecificInfo.t = 2;
+  b.v860().sysInfoType5_v860ext.modeSpecificInfo.u.tdd128 = &tdd;
+  tdd.m = 3;
+  tdd.hs_dsch_DrxCellfach_info = {1, 2, 3};
+  auto& info = tdd.hs_dsch_CommonSysInfo;
+  HS_DSCH_CommonSystemInformation_TDD128& c = info.hs_dsch_CommonSystemInformation;
+  c.ccch_MappingInfo = {5, 6};
+  append(c.common_MAC_ehs_ReorderingQueueList, nodes[0], queue);
+  for (uint8_t i = 0; i < 4; i++) {
+    scch[i].timeslotNumber = static_cast<uint8_t>(1 + i);
+    scch[i].firstChannelisationCode = i;
+    scch[i].secondChannelisationCode = 15u - i;
+    scch[i].midambleAllocationMode.t = i % 2 == 0 ? 3 : 1;
+    scch[i].midambleAllocationMode.u.ueSpecificMidamble = static_cast<uint8_t>(i % 2 == 0 ? 10 + i : 0);
+    scch[i].midambleConfiguration = 8;
+    scch[i].hs_sich_configuration.timeslotNumber = static_cast<uint8_t>(6 - i);
+    scch[i].hs_sich_configuration.channelisationCode = 4u + i;
+    scch[i].hs_sich_configuration.midambleAllocationMode.t = i < 2 ? 2 : 1;
+    sichShift[i].midambleShift = static_cast<uint8_t>(i + 1);
+    if (i < 2) scch[i].hs_sich_configuration.midambleAllocationMode.u.ueSpecificMidamble = &sichShift[i];
+    scch[i].hs_sich_configuration.midambleConfiguration = 4;
+    append(c.hs_scch_SystemInfo_tdd128.hs_SCCH_SetConfiguration, nodes[1 + i], scch[i]);
+  }
+  c.hs_scch_SystemInfo_tdd128.power_level_HSSICH = -100;
+  c.hs_scch_SystemInfo_tdd128.nack_ack_power_offset = -7;
+  c.hs_scch_SystemInfo_tdd128.tpc_step_size = 2;
+  c.hs_scch_SystemInfo_tdd128.bler_target = -20;
+  c.hs_scch_SystemInfo_tdd128.m = 2;
+  c.hs_scch_SystemInfo_tdd128.pathloss_compensation_switch = 1;
+  c.harq_SystemInfo.numberOfProcesses = 2;
+  c.harq_SystemInfo.memoryPartitioning.t = 1;
+  c.hs_pdsch_MidambleConfiguration.midambleAllocationMode.t = 3;
+  c.hs_pdsch_MidambleConfiguration.midambleAllocationMode.u.ueSpecificMidamble = 7;
+  c.hs_pdsch_MidambleConfiguration.midambleConfiguration = 6;
+  c.common_H_RNTI_information.n = 1;
+  c.common_H_RNTI_information.elem[0] = bitString<H_RNTI>({0xAA, 0x55}, 16);
+  c.bcchSpecific_H_RNTI = bitString<H_RNTI>({0x01, 0x02}, 16);
+  info.m = 1;
+  info.hs_dsch_PagingSystemInformation.m = 1;
+  pich.t = 1;
+  static PICH_ForHSDPASupportedPaging_TDD128_implicit implicitPich;
+  pich.u.implicit = &implicitPich;
+  append(info.hs_dsch_PagingSystemInformation.pich_ForHsdschList, nodes[5], pich);
+  info.hs_dsch_PagingSystemInformation.dtch_DCCH_reception_window_size = 4;
+  static PCCH_InformationList_paging_associatedHspdschInfo_element paging;
+  paging.hs_pdsch_MidambleConfiguration.midambleAllocationMode.t = 1;
+  paging.hs_pdsch_MidambleConfiguration.midambleConfiguration = 2;
+  paging.timeslotResourceRelatedInfo = bitString<decltype(paging.timeslotResourceRelatedInfo)>({0x10}, 6);
+  append(info.hs_dsch_PagingSystemInformation.pcch_InformationList.paging_associatedHspdschInfo, nodes[6], paging);
+  info.hs_dsch_PagingSystemInformation.pcch_InformationList.paging_sub_Channel_size = 1;
+  info.hs_dsch_PagingSystemInformation.pcch_InformationList.transportBlockSizeList.n = 1;
+  info.hs_dsch_PagingSystemInformation.pcch_InformationList.transportBlockSizeList.elem[0] = 3;
+  ASSERT_EQ(whole(umts_sib_sib5, b.encode()), 1);
+
+  const umts_sib5_v860_mode_specific_info& m =
+      v680(result->sib5).v690NonCriticalExtensions.v770NonCriticalExtensions.v860NonCriticalExtensions.sysInfoType5_v860ext.modeSpecificInfo;
+  ASSERT_EQ(m.choice_tag, 2u);
+  EXPECT_EQ(m.u.tdd128.presence_bitmask, 3);
+  EXPECT_EQ(m.u.tdd128.hs_dsch_DrxCellfach_info.hs_dsch_DrxCycleFach, 2u);
+  const umts_hs_dsch_common_sys_info_tdd128& ci = m.u.tdd128.hs_dsch_CommonSysInfo;
+  EXPECT_EQ(ci.presence_bitmask, 1);
+  EXPECT_EQ(ci.hs_dsch_PagingSystemInformation.presence_bitmask, 1);
+  const umts_hs_dsch_common_system_information_tdd128& t = ci.hs_dsch_CommonSystemInformation;
+  EXPECT_EQ(t.presence_bitmask, 0);
+  EXPECT_EQ(t.ccch_MappingInfo.logicalChannelIdentity, 5);
+  EXPECT_EQ(t.ccch_MappingInfo.mac_ehs_QueueId, 6);
+  ASSERT_EQ(t.common_MAC_ehs_ReorderingQueueList.count, 1);
+  EXPECT_EQ(t.common_MAC_ehs_ReorderingQueueList.entries[0].mac_ehs_QueueId, 3);
+  const umts_hs_scch_system_info_tdd128& h = t.hs_scch_SystemInfo_tdd128;
+  EXPECT_EQ(h.presence_bitmask, 2);
+  ASSERT_EQ(h.hs_SCCH_SetConfiguration.count, 4);
+  for (uint8_t i = 0; i < 4; i++) {
+    SCOPED_TRACE(i);
+    const umts_hs_scch_tdd128& e = h.hs_SCCH_SetConfiguration.entries[i];
+    EXPECT_EQ(e.timeslotNumber, 1 + i);
+    EXPECT_EQ(e.firstChannelisationCode, i);
+    EXPECT_EQ(e.secondChannelisationCode, 15u - i);
+    EXPECT_EQ(e.midambleAllocationMode.choice_tag, i % 2 == 0 ? 3u : 1u);
+    EXPECT_EQ(e.midambleAllocationMode.u.ueSpecificMidamble, i % 2 == 0 ? 10 + i : 0);
+    EXPECT_EQ(e.midambleConfiguration, 8);
+    EXPECT_EQ(e.hs_sich_configuration.timeslotNumber, 6 - i);
+    EXPECT_EQ(e.hs_sich_configuration.channelisationCode, 4u + i);
+    EXPECT_EQ(e.hs_sich_configuration.midambleAllocationMode.choice_tag, i < 2 ? 2u : 1u);
+    EXPECT_EQ(e.hs_sich_configuration.midambleAllocationMode.u.ueSpecificMidamble, i < 2 ? i + 1 : 0);
+    EXPECT_EQ(e.hs_sich_configuration.midambleConfiguration, 4);
+  }
+  EXPECT_EQ(h.power_level_HSSICH, -100);
+  EXPECT_EQ(h.nack_ack_power_offset, -7);
+  EXPECT_EQ(h.tpc_step_size, 2u);
+  EXPECT_EQ(h.bler_target, -20);
+  EXPECT_EQ(h.power_control_gap, 0);
+  EXPECT_EQ(h.pathloss_compensation_switch, 1);
+  EXPECT_EQ(t.harq_SystemInfo.numberOfProcesses, 2);
+  EXPECT_EQ(t.harq_SystemInfo.memoryPartitioning.choice_tag, 1u);
+  EXPECT_EQ(t.hs_pdsch_MidambleConfiguration.midambleAllocationMode.choice_tag, 3u);
+  EXPECT_EQ(t.hs_pdsch_MidambleConfiguration.midambleAllocationMode.u.ueSpecificMidamble, 7);
+  EXPECT_EQ(t.hs_pdsch_MidambleConfiguration.midambleConfiguration, 6);
+  ASSERT_EQ(t.common_H_RNTI_information.count, 1u);
+  EXPECT_EQ(t.common_H_RNTI_information.entries[0].data[0], 0xAA);
+  EXPECT_EQ(t.common_H_RNTI_information.entries[0].data[1], 0x55);
+  EXPECT_TRUE(allZero(t.common_H_RNTI_information.entries[1]));
+  EXPECT_EQ(t.bcchSpecific_H_RNTI.data[1], 0x02);
+}
+
 // The alternatives that the conversion treats apart, each on its own decoded value.
 TEST(ConvertSib5HspaParts, ModeAlternativesAndTheirTags) {
   // v770: tdd768 with its three lists announced, tdd128 with none: tag and presence only.
