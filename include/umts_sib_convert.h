@@ -406,6 +406,13 @@ void convert_hs_scch_system_info(const HS_SCCH_SystemInfo* src, umts_hs_scch_sys
 void convert_hs_dsch_common_system_information_tdd128(const HS_DSCH_CommonSystemInformation_TDD128* src,
                                                       umts_hs_dsch_common_system_information_tdd128* dst);
 void convert_hs_scch_system_info_tdd128(const HS_SCCH_SystemInfo_TDD128* src, umts_hs_scch_system_info_tdd128* dst);
+void convert_hs_dsch_paging_system_information_tdd128(const HS_DSCH_PagingSystemInformation_TDD128* src,
+                                                      umts_hs_dsch_paging_system_information_tdd128* dst);
+void convert_hs_pdsch_midamble_configuration_tdd128(const HS_PDSCH_Midamble_Configuration_TDD128* src,
+                                                    umts_hs_pdsch_midamble_configuration_tdd128* dst);
+void convert_midamble_shift_and_burst_type_lcr_r4(const MidambleShiftAndBurstType_LCR_r4* src,
+                                                  umts_midamble_shift_and_burst_type_lcr_r4* dst);
+void convert_pich_info_lcr_r4(const PICH_Info_LCR_r4* src, umts_pich_info_lcr_r4* dst);
 void convert_harq_system_info(const HARQ_Info* src, umts_harq_info* dst);
 void convert_h_rnti(const H_RNTI* src, umts_bit_string32* dst);
 void convert_hs_dsch_common_system_information_common_h_rnti_information(

@@ -3,10 +3,10 @@
  * E-DCH (v890 commonEDCHSystemInfo, v8d0 commonEDCHSystemInfoFDD). Included by
  * umts_sib_sib5.h, whose PICH, PRACH and bit string records they reuse.
  *
- * The 1.28 Mcps HS-DSCH common information of v860 is converted; the other TDD parts of these
- * members (v770 tdd768/tdd128, the 1.28 Mcps paging information, the tdd128 common E-DCH
- * resources, the tdd form of PRACH-Partitioning-r7) keep their tag and presence bits; their
- * own fields are not converted yet and stay zero.
+ * The 1.28 Mcps HS-DSCH common and paging information of v860 is converted; the other TDD
+ * parts of these members (v770 tdd768/tdd128, the tdd128 common E-DCH resources, the tdd form
+ * of PRACH-Partitioning-r7) keep their tag and presence bits; their own fields are not
+ * converted yet and stay zero.
  */
 #ifndef UMTS_SIB_SIB5_HSPA_H
 #define UMTS_SIB_SIB5_HSPA_H
@@ -177,8 +177,69 @@
   F(RECORD, umts_h_rnti_list, common_H_RNTI_information, 1, UMTS_ALWAYS, _)                                 \
   F(RECORD, umts_bit_string32, bcchSpecific_H_RNTI, 1, UMTS_ALWAYS, _)
 
-/* The 1.28 Mcps paging information: its presence bit (0 pcch_InformationList) only so far. */
-#define umts_hs_dsch_paging_system_information_tdd128_FIELDS(F) F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)
+/* MidambleShiftAndBurstType-LCR-r4: the allocation mode (3 ueSpecificMidamble, whose shift
+   is `midambleShift`), then the configuration. */
+#define umts_midamble_shift_and_burst_type_lcr_r4_FIELDS(F)      \
+  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)             \
+  F(SCALAR, uint8_t, midambleShift, 1, UMTS_ALWAYS, _)           \
+  F(SCALAR, uint8_t, midambleConfiguration, 1, UMTS_ALWAYS, _)
+
+#define umts_pich_channelisation_code_list_lcr_r4_FIELDS(F) \
+  F(SCALAR, uint32_t, count, 1, UMTS_ALWAYS, _)             \
+  F(ARRAY, uint32_t, entries, 2, UMTS_ALWAYS, count)
+
+/* PICH-Info-LCR-r4: bit 0 timeslot, bit 1 repetitionPeriodLengthOffset. */
+#define umts_pich_info_lcr_r4_FIELDS(F)                                                                     \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                                  \
+  F(SCALAR, uint8_t, timeslot, 1, 0, _)                                                                     \
+  F(RECORD, umts_pich_channelisation_code_list_lcr_r4, pichChannelisationCodeList_LCR_r4, 1, UMTS_ALWAYS, _) \
+  F(RECORD, umts_midamble_shift_and_burst_type_lcr_r4, midambleShiftAndBurstType, 1, UMTS_ALWAYS, _)        \
+  F(RECORD, umts_rep_per_length_offset_pich, repetitionPeriodLengthOffset, 1, 1, _)                         \
+  F(SCALAR, uint32_t, pagingIndicatorLength, 1, UMTS_ALWAYS, _)                                             \
+  F(SCALAR, uint32_t, n_GAP, 1, UMTS_ALWAYS, _)                                                             \
+  F(SCALAR, uint8_t, n_PCH, 1, UMTS_ALWAYS, _)
+
+#define umts_pich_for_hsdpa_implicit_tdd128_FIELDS(F)                     \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                \
+  F(SCALAR, uint8_t, occurrenceSequenceNumberOfPICH, 1, 0, _)
+
+/* PICH-ForHSDPASupportedPaging-TDD128: 1 implicit, 2 explicit. */
+#define umts_pich_for_hsdpa_supported_paging_tdd128_u_FIELDS(F)              \
+  F(RECORD, umts_pich_for_hsdpa_implicit_tdd128, implicit, 1, 1, _)          \
+  F(RECORD, umts_pich_info_lcr_r4, explicit_, 1, 2, _)
+
+#define umts_pich_for_hsdpa_supported_paging_tdd128_FIELDS(F) \
+  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)           \
+  F(UNION, umts_pich_for_hsdpa_supported_paging_tdd128_u, u, 1, UMTS_ALWAYS, choice_tag)
+
+#define umts_pich_for_hsdsch_list_tdd128_FIELDS(F)  \
+  F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)       \
+  F(ARRAY, umts_pich_for_hsdpa_supported_paging_tdd128, entries, 16, UMTS_ALWAYS, count)
+
+#define umts_code_resource_information_tdd128_FIELDS(F)  \
+  F(SCALAR, uint32_t, start_code, 1, UMTS_ALWAYS, _)      \
+  F(SCALAR, uint32_t, stop_code, 1, UMTS_ALWAYS, _)
+
+#define umts_paging_associated_hspdsch_info_FIELDS(F)                                                     \
+  F(RECORD, umts_hs_pdsch_midamble_configuration_tdd128, hs_pdsch_MidambleConfiguration, 1, UMTS_ALWAYS, _) \
+  F(RECORD, umts_bit_string32, timeslotResourceRelatedInfo, 1, UMTS_ALWAYS, _)                            \
+  F(RECORD, umts_code_resource_information_tdd128, codeResourceInformation, 1, UMTS_ALWAYS, _)
+
+#define umts_paging_associated_hspdsch_info_list_FIELDS(F) \
+  F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)             \
+  F(ARRAY, umts_paging_associated_hspdsch_info, entries, 16, UMTS_ALWAYS, count)
+
+#define umts_pcch_information_list_FIELDS(F)                                                            \
+  F(RECORD, umts_paging_associated_hspdsch_info_list, paging_associatedHspdschInfo, 1, UMTS_ALWAYS, _)  \
+  F(SCALAR, uint8_t, paging_sub_Channel_size, 1, UMTS_ALWAYS, _)                                        \
+  F(RECORD, umts_transport_block_size_list, transportBlockSizeList, 1, UMTS_ALWAYS, _)
+
+/* The 1.28 Mcps paging information: bit 0 pcch_InformationList. */
+#define umts_hs_dsch_paging_system_information_tdd128_FIELDS(F)                         \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                              \
+  F(RECORD, umts_pich_for_hsdsch_list_tdd128, pich_ForHsdschList, 1, UMTS_ALWAYS, _)    \
+  F(SCALAR, uint8_t, dtch_DCCH_reception_window_size, 1, UMTS_ALWAYS, _)                \
+  F(RECORD, umts_pcch_information_list, pcch_InformationList, 1, 0, _)
 
 /* v860 tdd128 hs_dsch_CommonSysInfo: bit 0 the paging information. */
 #define umts_hs_dsch_common_sys_info_tdd128_FIELDS(F)                                                         \
@@ -427,6 +488,17 @@
   X(RECORD, umts_hs_scch_system_info_tdd128)                     \
   X(RECORD, umts_hs_pdsch_midamble_configuration_tdd128)         \
   X(RECORD, umts_hs_dsch_common_system_information_tdd128)       \
+  X(RECORD, umts_midamble_shift_and_burst_type_lcr_r4)           \
+  X(RECORD, umts_pich_channelisation_code_list_lcr_r4)           \
+  X(RECORD, umts_pich_info_lcr_r4)                               \
+  X(RECORD, umts_pich_for_hsdpa_implicit_tdd128)                 \
+  X(UNION, umts_pich_for_hsdpa_supported_paging_tdd128_u)        \
+  X(RECORD, umts_pich_for_hsdpa_supported_paging_tdd128)         \
+  X(RECORD, umts_pich_for_hsdsch_list_tdd128)                    \
+  X(RECORD, umts_code_resource_information_tdd128)               \
+  X(RECORD, umts_paging_associated_hspdsch_info)                 \
+  X(RECORD, umts_paging_associated_hspdsch_info_list)            \
+  X(RECORD, umts_pcch_information_list)                          \
   X(RECORD, umts_hs_dsch_paging_system_information_tdd128)       \
   X(RECORD, umts_hs_dsch_common_sys_info_tdd128)                 \
   X(RECORD, umts_sib5_v860_mode_specific_info_fdd)               \

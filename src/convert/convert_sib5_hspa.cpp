@@ -96,11 +96,7 @@ void convert_hs_dsch_common_system_information_tdd128(const HS_DSCH_CommonSystem
                                                &dst->common_MAC_ehs_ReorderingQueueList);
   convert_hs_scch_system_info_tdd128(&src->hs_scch_SystemInfo_tdd128, &dst->hs_scch_SystemInfo_tdd128);
   convert_harq_system_info(&src->harq_SystemInfo, &dst->harq_SystemInfo);
-  const HS_PDSCH_Midamble_Configuration_TDD128& mid = src->hs_pdsch_MidambleConfiguration;
-  dst->hs_pdsch_MidambleConfiguration.midambleAllocationMode.choice_tag = mid.midambleAllocationMode.t;
-  if (mid.midambleAllocationMode.t == 3)
-    dst->hs_pdsch_MidambleConfiguration.midambleAllocationMode.u.ueSpecificMidamble = mid.midambleAllocationMode.u.ueSpecificMidamble;
-  dst->hs_pdsch_MidambleConfiguration.midambleConfiguration = mid.midambleConfiguration;
+  convert_hs_pdsch_midamble_configuration_tdd128(&src->hs_pdsch_MidambleConfiguration, &dst->hs_pdsch_MidambleConfiguration);
   /* Its loop index is 32 bits wide; it stops at the count all the same. */
   dst->common_H_RNTI_information.count = src->common_H_RNTI_information.n;
   for (uint32_t i = 0; i < src->common_H_RNTI_information.n && i < 4u; i++)
@@ -215,11 +211,8 @@ void convert_sysinfotype5_v860ext_ies_mode_specific_info(const SysInfoType5_v860
       out->presence_bitmask |= 1u;
       convert_hs_dsch_common_system_information_tdd128(&info.hs_dsch_CommonSystemInformation,
                                                        &out->hs_dsch_CommonSysInfo.hs_dsch_CommonSystemInformation);
-      if (info.m & 1u) {
-        out->hs_dsch_CommonSysInfo.presence_bitmask |= 1u;
-        out->hs_dsch_CommonSysInfo.hs_dsch_PagingSystemInformation.presence_bitmask =
-            static_cast<uint16_t>(info.hs_dsch_PagingSystemInformation.m & 1u);
-      }
+      UMTS_CONVERT_OPTIONAL(&info, &out->hs_dsch_CommonSysInfo, 1u, convert_hs_dsch_paging_system_information_tdd128,
+                            hs_dsch_PagingSystemInformation);
     }
     if (tdd->m & 2u) {
       out->presence_bitmask |= 2u;
@@ -401,4 +394,68 @@ void convert_common_edch_resource_info_list(const rtxDList* src, umts_common_e_d
     out->ul_DPCH_CodeInfoForCommonEDCH.ul_DPCCHscramblingCodeType = res->ul_DPCH_CodeInfoForCommonEDCH.ul_DPCCHscramblingCodeType;
     out->ul_DPCH_CodeInfoForCommonEDCH.ul_DPCCHscramblingCode = res->ul_DPCH_CodeInfoForCommonEDCH.ul_DPCCHscramblingCode;
   });
+}
+
+/* ==== 1.28 Mcps TDD: HS-DSCH paging ====================================================== */
+
+void convert_hs_dsch_paging_system_information_tdd128(const HS_DSCH_PagingSystemInformation_TDD128* src,
+                                                      umts_hs_dsch_paging_system_information_tdd128* dst) {
+  dst->pich_ForHsdschList.count = static_cast<uint8_t>(src->pich_ForHsdschList.count);
+  umts_for_each_node<PICH_ForHSDPASupportedPaging_TDD128>(
+      &src->pich_ForHsdschList, 16u, [dst](const PICH_ForHSDPASupportedPaging_TDD128* pich, uint32_t i) {
+        umts_pich_for_hsdpa_supported_paging_tdd128* out = &dst->pich_ForHsdschList.entries[i];
+        out->choice_tag = pich->t;
+        if (pich->t == 1 && pich->u.implicit != nullptr) {
+          UMTS_COPY_OPTIONAL(pich->u.implicit, &out->u.implicit, 1u, occurrenceSequenceNumberOfPICH);
+        } else if (pich->t == 2 && pich->u.explicit_ != nullptr) {
+          convert_pich_info_lcr_r4(pich->u.explicit_, &out->u.explicit_);
+        }
+      });
+  dst->dtch_DCCH_reception_window_size = src->dtch_DCCH_reception_window_size;
+  if (src->m & 1u) {
+    dst->presence_bitmask |= 1u;
+    const PCCH_InformationList& pcch = src->pcch_InformationList;
+    umts_pcch_information_list* out = &dst->pcch_InformationList;
+    out->paging_associatedHspdschInfo.count = static_cast<uint8_t>(pcch.paging_associatedHspdschInfo.count);
+    umts_for_each_node<PCCH_InformationList_paging_associatedHspdschInfo_element>(
+        &pcch.paging_associatedHspdschInfo, 16u,
+        [out](const PCCH_InformationList_paging_associatedHspdschInfo_element* e, uint32_t i) {
+          umts_paging_associated_hspdsch_info* info = &out->paging_associatedHspdschInfo.entries[i];
+          convert_hs_pdsch_midamble_configuration_tdd128(&e->hs_pdsch_MidambleConfiguration, &info->hs_pdsch_MidambleConfiguration);
+          umts_copy_bit_string(e->timeslotResourceRelatedInfo, &info->timeslotResourceRelatedInfo);
+          info->codeResourceInformation.start_code = e->codeResourceInformation.start_code;
+          info->codeResourceInformation.stop_code = e->codeResourceInformation.stop_code;
+        });
+    out->paging_sub_Channel_size = pcch.paging_sub_Channel_size;
+    out->transportBlockSizeList.count = pcch.transportBlockSizeList.n;
+    copy_inline(out->transportBlockSizeList.entries, pcch.transportBlockSizeList.elem, pcch.transportBlockSizeList.n, 2u);
+  }
+}
+
+void convert_hs_pdsch_midamble_configuration_tdd128(const HS_PDSCH_Midamble_Configuration_TDD128* src,
+                                                    umts_hs_pdsch_midamble_configuration_tdd128* dst) {
+  dst->midambleAllocationMode.choice_tag = src->midambleAllocationMode.t;
+  if (src->midambleAllocationMode.t == 3) dst->midambleAllocationMode.u.ueSpecificMidamble = src->midambleAllocationMode.u.ueSpecificMidamble;
+  dst->midambleConfiguration = src->midambleConfiguration;
+}
+
+/* The midamble shift of ueSpecificMidamble (3) is read through the decoder's pointer. */
+void convert_midamble_shift_and_burst_type_lcr_r4(const MidambleShiftAndBurstType_LCR_r4* src,
+                                                  umts_midamble_shift_and_burst_type_lcr_r4* dst) {
+  dst->choice_tag = src->midambleAllocationMode.t;
+  if (src->midambleAllocationMode.t == 3 && src->midambleAllocationMode.u.ueSpecificMidamble != nullptr)
+    dst->midambleShift = src->midambleAllocationMode.u.ueSpecificMidamble->midambleShift;
+  dst->midambleConfiguration = src->midambleConfiguration;
+}
+
+void convert_pich_info_lcr_r4(const PICH_Info_LCR_r4* src, umts_pich_info_lcr_r4* dst) {
+  UMTS_COPY_OPTIONAL(src, dst, 1u, timeslot);
+  dst->pichChannelisationCodeList_LCR_r4.count = src->pichChannelisationCodeList_LCR_r4.n;
+  copy_inline(dst->pichChannelisationCodeList_LCR_r4.entries, src->pichChannelisationCodeList_LCR_r4.elem,
+              src->pichChannelisationCodeList_LCR_r4.n, 2u);
+  convert_midamble_shift_and_burst_type_lcr_r4(&src->midambleShiftAndBurstType, &dst->midambleShiftAndBurstType);
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_rep_per_length_offset_pich, repetitionPeriodLengthOffset);
+  dst->pagingIndicatorLength = src->pagingIndicatorLength;
+  dst->n_GAP = src->n_GAP;
+  dst->n_PCH = src->n_PCH;
 }

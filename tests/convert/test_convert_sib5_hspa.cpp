@@ -462,7 +462,8 @@ TEST_F(ConvertSib5Hspa, LongestLists) {
 
 // 1.28 Mcps TDD: the HS-DSCH common information of v860, four HS-SCCHs with their HS-SICHs
 // (midamble shift inline for the HS-SCCH, through a pointer for the HS-SICH), the HS-PDSCH
-// midamble, the DRX values; the paging information's presence alone.
+// midamble, the DRX values; the paging information with an implicit PICH (its option clear)
+// and an explicit one.
 TEST_F(ConvertSib5Hspa, Tdd128HsdschCommonInformation) {
   static sib5test::Sib5Builder b;
   b.chain(7);
@@ -515,10 +516,30 @@ TEST_F(ConvertSib5Hspa, Tdd128HsdschCommonInformation) {
   static PICH_ForHSDPASupportedPaging_TDD128_implicit implicitPich;
   pich.u.implicit = &implicitPich;
   append(info.hs_dsch_PagingSystemInformation.pich_ForHsdschList, nodes[5], pich);
+  static PICH_ForHSDPASupportedPaging_TDD128 pich2;
+  static PICH_Info_LCR_r4 lcr;
+  static MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble lcrShift = {9};
+  pich2.t = 2;
+  pich2.u.explicit_ = &lcr;
+  lcr.m = 3;
+  lcr.timeslot = 4;
+  lcr.pichChannelisationCodeList_LCR_r4.n = 2;
+  lcr.pichChannelisationCodeList_LCR_r4.elem[0] = 3;
+  lcr.pichChannelisationCodeList_LCR_r4.elem[1] = 11;
+  lcr.midambleShiftAndBurstType.midambleAllocationMode.t = 3;
+  lcr.midambleShiftAndBurstType.midambleAllocationMode.u.ueSpecificMidamble = &lcrShift;
+  lcr.midambleShiftAndBurstType.midambleConfiguration = 8;
+  lcr.repetitionPeriodLengthOffset.t = 2;
+  lcr.repetitionPeriodLengthOffset.u.rpp8_2 = 5;
+  lcr.pagingIndicatorLength = 1;
+  lcr.n_GAP = 2;
+  lcr.n_PCH = 7;
+  append(info.hs_dsch_PagingSystemInformation.pich_ForHsdschList, nodes[7], pich2);
   info.hs_dsch_PagingSystemInformation.dtch_DCCH_reception_window_size = 4;
   static PCCH_InformationList_paging_associatedHspdschInfo_element paging;
   paging.hs_pdsch_MidambleConfiguration.midambleAllocationMode.t = 1;
   paging.hs_pdsch_MidambleConfiguration.midambleConfiguration = 2;
+  paging.codeResourceInformation = {1, 14};
   paging.timeslotResourceRelatedInfo = bitString<decltype(paging.timeslotResourceRelatedInfo)>({0x10}, 6);
   append(info.hs_dsch_PagingSystemInformation.pcch_InformationList.paging_associatedHspdschInfo, nodes[6], paging);
   info.hs_dsch_PagingSystemInformation.pcch_InformationList.paging_sub_Channel_size = 1;
@@ -533,7 +554,37 @@ TEST_F(ConvertSib5Hspa, Tdd128HsdschCommonInformation) {
   EXPECT_EQ(m.u.tdd128.hs_dsch_DrxCellfach_info.hs_dsch_DrxCycleFach, 2u);
   const umts_hs_dsch_common_sys_info_tdd128& ci = m.u.tdd128.hs_dsch_CommonSysInfo;
   EXPECT_EQ(ci.presence_bitmask, 1);
-  EXPECT_EQ(ci.hs_dsch_PagingSystemInformation.presence_bitmask, 1);
+  const umts_hs_dsch_paging_system_information_tdd128& pg = ci.hs_dsch_PagingSystemInformation;
+  EXPECT_EQ(pg.presence_bitmask, 1);
+  ASSERT_EQ(pg.pich_ForHsdschList.count, 2);
+  EXPECT_EQ(pg.pich_ForHsdschList.entries[0].choice_tag, 1u);  // implicit, its option clear: the tag alone
+  EXPECT_TRUE(allZero(pg.pich_ForHsdschList.entries[0].u));
+  ASSERT_EQ(pg.pich_ForHsdschList.entries[1].choice_tag, 2u);
+  const umts_pich_info_lcr_r4& lp = pg.pich_ForHsdschList.entries[1].u.explicit_;
+  EXPECT_EQ(lp.presence_bitmask, 3);
+  EXPECT_EQ(lp.timeslot, 4);
+  ASSERT_EQ(lp.pichChannelisationCodeList_LCR_r4.count, 2u);
+  EXPECT_EQ(lp.pichChannelisationCodeList_LCR_r4.entries[1], 11u);
+  EXPECT_EQ(lp.midambleShiftAndBurstType.choice_tag, 3u);
+  EXPECT_EQ(lp.midambleShiftAndBurstType.midambleShift, 9);
+  EXPECT_EQ(lp.midambleShiftAndBurstType.midambleConfiguration, 8);
+  EXPECT_EQ(lp.repetitionPeriodLengthOffset.choice_tag, 2u);
+  EXPECT_EQ(lp.repetitionPeriodLengthOffset.u.rpp8_2, 5);
+  EXPECT_EQ(lp.pagingIndicatorLength, 1u);
+  EXPECT_EQ(lp.n_GAP, 2u);
+  EXPECT_EQ(lp.n_PCH, 7);
+  EXPECT_EQ(pg.dtch_DCCH_reception_window_size, 4);
+  ASSERT_EQ(pg.pcch_InformationList.paging_associatedHspdschInfo.count, 1);
+  const umts_paging_associated_hspdsch_info& ai = pg.pcch_InformationList.paging_associatedHspdschInfo.entries[0];
+  EXPECT_EQ(ai.hs_pdsch_MidambleConfiguration.midambleAllocationMode.choice_tag, 1u);
+  EXPECT_EQ(ai.hs_pdsch_MidambleConfiguration.midambleConfiguration, 2);
+  EXPECT_EQ(ai.timeslotResourceRelatedInfo.numbits, 6u);
+  EXPECT_EQ(ai.timeslotResourceRelatedInfo.data[0], 0x10);
+  EXPECT_EQ(ai.codeResourceInformation.start_code, 1u);
+  EXPECT_EQ(ai.codeResourceInformation.stop_code, 14u);
+  EXPECT_EQ(pg.pcch_InformationList.paging_sub_Channel_size, 1);
+  ASSERT_EQ(pg.pcch_InformationList.transportBlockSizeList.count, 1u);
+  EXPECT_EQ(pg.pcch_InformationList.transportBlockSizeList.entries[0], 3);
   const umts_hs_dsch_common_system_information_tdd128& t = ci.hs_dsch_CommonSystemInformation;
   EXPECT_EQ(t.presence_bitmask, 0);
   EXPECT_EQ(t.ccch_MappingInfo.logicalChannelIdentity, 5);
