@@ -20,7 +20,8 @@
 
 namespace {
 
-// The `index`-th SIB5 of the sample cell (0: the cycle's, 1: the second form when present).
+// The `index`-th SIB5 of the sample cell (0: the cycle's, 1: the second form, 2: the HSPA
+// form, when present).
 std::vector<uint8_t> sampleSib5(size_t index) {
   std::ifstream in(UMTS_SAMPLES_DIR "/fdd_cell_sibs.txt");
   std::string line;
@@ -99,6 +100,8 @@ void BM_Sib5_Convert_LibrarySet(benchmark::State& s) { convert(s, 0, true); }
 void BM_Sib5Second_Decode(benchmark::State& s) { decodeOnly(s, 1); }
 void BM_Sib5Second_Convert_CallerSet(benchmark::State& s) { convert(s, 1, false); }
 void BM_Sib5Second_Convert_LibrarySet(benchmark::State& s) { convert(s, 1, true); }
+void BM_Sib5Hspa_Decode(benchmark::State& s) { decodeOnly(s, 2); }
+void BM_Sib5Hspa_Convert_CallerSet(benchmark::State& s) { convert(s, 2, false); }
 void BM_Sib5_Convert_CallerSet_Cold(benchmark::State& s) { convert(s, 0, false, true); }
 void BM_Sib5_Convert_LibrarySet_Cold(benchmark::State& s) { convert(s, 0, true, true); }
 BENCHMARK(BM_Sib5_Decode);
@@ -109,6 +112,8 @@ BENCHMARK(BM_Sib5_Convert_LibrarySet);
 BENCHMARK(BM_Sib5Second_Decode);
 BENCHMARK(BM_Sib5Second_Convert_CallerSet);
 BENCHMARK(BM_Sib5Second_Convert_LibrarySet);
+BENCHMARK(BM_Sib5Hspa_Decode);
+BENCHMARK(BM_Sib5Hspa_Convert_CallerSet);
 
 }  // namespace
 
