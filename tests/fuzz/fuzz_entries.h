@@ -12,6 +12,11 @@
 //   sib16    a SysInfoType16, handed to umts_convert_sib16 with a context and a decoded
 //            area of this program's own (as a host calls it); the record must keep its
 //            presence word to bit 0 and its open lists to their bounds.
+//   gsmtap   first byte: modulo 6 the link of the frames (Ethernet, Linux cooked capture v1
+//            and v2, raw IP, IPv4, IPv6); then frames, each two length bytes (big-endian;
+//            fewer at the end of the input) and that many octets, taken as sibdump takes the
+//            frames of a capture: link, IP and UDP layers, GSMTAP header, per-cell collection,
+//            JSON of every converted record.
 //   codec    the first two bytes, big-endian, modulo the registry's count pick the type;
 //            the rest is decoded by its generated decoder, and a value that decodes is
 //            encoded, decoded and encoded again.
@@ -29,6 +34,7 @@ namespace umts_fuzz {
 std::string run_bch(const uint8_t* data, size_t size);
 std::string run_sib_msg(const uint8_t* data, size_t size);
 std::string run_sib16(const uint8_t* data, size_t size);
+std::string run_gsmtap(const uint8_t* data, size_t size);
 std::string run_codec(const uint8_t* data, size_t size);
 
 // Sends everything that the library writes on standard output (its printf and puts, and the

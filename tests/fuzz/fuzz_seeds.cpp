@@ -5,7 +5,8 @@
 //
 // <out-dir>/bch: each sample transport block, every run of three, and the whole cycle;
 // the BCCH-BCH-Message vectors; SIBs over two blocks of a live network, and a MIB that
-// schedules SIB11bis with the SIB11bis at its place. <out-dir>/sib_msg: each sample SIB and the vectors of the
+// schedules SIB11bis with the SIB11bis at its place. <out-dir>/gsmtap: the frames of the sample
+// capture (samples/fdd_cell.pcap), each alone and all in order. <out-dir>/sib_msg: each sample SIB and the vectors of the
 // twelve SIB types, behind their umts_sib_id. <out-dir>/codec: every vector and every sample
 // behind the registry index of its type. A missing vector file is skipped. Files are named
 // after a hash of their contents, so that a seed written twice is one file.
@@ -13,6 +14,7 @@
 
 #include <cstdio>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <sstream>
 #include <string>
@@ -99,8 +101,9 @@ int main(int argc, char** argv) {
   }
   const std::string out = argv[1], samples = argv[2];
   mkdir(out.c_str(), 0777);
-  Writer bch{out + "/bch"}, sib{out + "/sib_msg"}, sib16{out + "/sib16"}, codec{out + "/codec"};
-  for (const Writer* w : {&bch, &sib, &sib16, &codec}) mkdir(w->dir.c_str(), 0777);
+  Writer bch{out + "/bch"}, sib{out + "/sib_msg"}, sib16{out + "/sib16"}, codec{out + "/codec"},
+      gsmtap{out + "/gsmtap"};
+  for (const Writer* w : {&bch, &sib, &sib16, &codec, &gsmtap}) mkdir(w->dir.c_str(), 0777);
 
   // The sample cell: its transport blocks in order, and its SIBs whole.
   std::vector<Bytes> blocks;
@@ -169,7 +172,8 @@ int main(int argc, char** argv) {
       if (type == "BCCH_BCH_Message" && appendBlock(block, bytes)) bch.put(block);
     }
   }
-  std::printf("fuzz_seeds: %d bch, %d sib_msg, %d sib16, %d codec seeds in %s\n", bch.count, sib.count, sib16.count, codec.count,
-              out.c_str());
+  putCapture(gsmtap, samples + "/fdd_cell.pcap");
+  std::printf("fuzz_seeds: %d bch, %d sib_msg, %d sib16, %d codec, %d gsmtap seeds in %s\n", bch.count, sib.count, sib16.count,
+              codec.count, gsmtap.count, out.c_str());
   return 0;
 }

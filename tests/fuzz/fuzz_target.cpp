@@ -1,5 +1,5 @@
-// One libFuzzer program per entry: built three times, with UMTS_FUZZ_ENTRY naming the run_*
-// function of fuzz_entries.h (fuzz_bch, fuzz_sib_msg, fuzz_codec).
+// One libFuzzer program per entry: built once per entry, with UMTS_FUZZ_ENTRY naming the run_*
+// function of fuzz_entries.h (fuzz_bch, fuzz_sib_msg, fuzz_sib16, fuzz_gsmtap, fuzz_codec).
 #include <cstdio>
 #include <cstdlib>
 

@@ -28,6 +28,7 @@ void PrintTo(const Target& t, std::ostream* os) { *os << t.name; }
 const Target kTargets[] = {{"bch", umts_fuzz::run_bch},
                            {"sib_msg", umts_fuzz::run_sib_msg},
                            {"sib16", umts_fuzz::run_sib16},
+                           {"gsmtap", umts_fuzz::run_gsmtap},
                            {"codec", umts_fuzz::run_codec}};
 
 std::vector<uint8_t> readFile(const fs::path& path) {

@@ -1,0 +1,93 @@
+// The GSMTAP entry: frames of a capture or datagrams of a live stream, as sibdump takes them,
+// through the link, IP and UDP layers, the GSMTAP header and the per-cell collection.
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "cell_feed.h"
+#include "fuzz_entries.h"
+#include "gsmtap.h"
+#include "umts_sib_json.h"
+
+namespace umts_fuzz {
+
+namespace {
+
+umts_sib_set* feedRecord() {
+  static umts_sib_set* const record = static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)));
+  return record;
+}
+
+FILE* discard() {
+  static FILE* const sink = std::fopen("/dev/null", "w");
+  return sink;
+}
+
+const gsmtap::Link kLinks[] = {gsmtap::Link::ethernet, gsmtap::Link::linux_sll, gsmtap::Link::linux_sll2,
+                               gsmtap::Link::raw_ip,   gsmtap::Link::ipv4,      gsmtap::Link::ipv6};
+
+}  // namespace
+
+std::string run_gsmtap(const uint8_t* data, size_t size) {
+  umts_sib_set* set = feedRecord();
+  if (set == nullptr || discard() == nullptr || size == 0) return "";
+  const gsmtap::Link link = kLinks[data[0] % (sizeof kLinks / sizeof kLinks[0])];
+  std::string problem;
+  std::vector<char> json(1 << 16);
+  // Every record that a datagram completes is written as sibdump writes it, so that the JSON
+  // of whatever the conversions left in the record is made too.
+  RecordOutput output{[&](const std::string&) {
+                        size_t lines = 0;
+                        for (unsigned id = 0; id < umts_sib_count; id++) {
+                          if ((set->presence_bitmask >> id & 1u) == 0) continue;
+                          size_t n = umts_sib_record_json(set, static_cast<umts_sib_id>(id), json.data(), json.size());
+                          if (n >= json.size()) {
+                            json.resize(n + 1);
+                            n = umts_sib_record_json(set, static_cast<umts_sib_id>(id), json.data(), json.size());
+                          }
+                          if (n == 0 || json[0] != '{' || json[n - 1] != '}') problem = "record " + std::to_string(id) + ": not a JSON object";
+                          lines++;
+                        }
+                        return lines;
+                      },
+                      nullptr};
+  {
+    CellFeed feed(set, output, "fuzz", "frame", discard());
+    size_t pos = 1;
+    unsigned long number = 0;
+    while (pos < size && problem.empty()) {
+      size_t n = data[pos++];
+      if (pos < size) n = n << 8 | data[pos++];
+      if (n > size - pos) n = size - pos;
+      // An exact copy, so that a read past the frame is reported; the wire length may claim more.
+      std::vector<uint8_t> frame(data + pos, data + pos + n);
+      pos += n;
+      number++;
+      gsmtap::Datagram d;
+      std::string why;
+      switch (gsmtap::unwrap_frame(link, frame.data(), frame.size(), frame.size() + (number % 3 == 0), &d, &why)) {
+        case gsmtap::Unwrap::udp:
+          if (d.payload < frame.data() || d.payload + d.length > frame.data() + frame.size())
+            problem = "frame " + std::to_string(number) + ": datagram outside its frame";
+          else
+            feed.datagram(number, number * 10000u, d);
+          break;
+        case gsmtap::Unwrap::other:
+          feed.not_gsmtap();
+          break;
+        case gsmtap::Unwrap::damaged:
+          if (why.empty()) problem = "frame " + std::to_string(number) + ": damaged without a reason";
+          feed.bad(number, why);
+          break;
+      }
+    }
+    feed.summary(discard(), number);
+  }  // the feed releases the segments of every cell
+  for (const umts_sib_slot& slot : g_umts_ctxt.slots)
+    if (slot.buffer != nullptr && problem.empty()) problem = "a slot left in the global context";
+  return problem;
+}
+
+}  // namespace umts_fuzz
