@@ -92,6 +92,35 @@ void putSib(Writer& w, int id, const Bytes& bytes) {
   w.put(input);
 }
 
+// The frames of a little-endian pcap file with microsecond times, as gsmtap inputs: the link
+// byte (the index of the link type in the entry's list), then each frame behind its length.
+void putCapture(Writer& w, const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  const Bytes file((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  auto le32 = [&file](size_t at) {
+    return uint32_t(file[at]) | uint32_t(file[at + 1]) << 8 | uint32_t(file[at + 2]) << 16 | uint32_t(file[at + 3]) << 24;
+  };
+  if (file.size() < 24 || le32(0) != 0xA1B2C3D4u) return;
+  static const uint32_t kLinkTypes[] = {1, 113, 276, 101, 228, 229};
+  uint8_t link = 0;
+  while (link < 6 && kLinkTypes[link] != le32(20)) link++;
+  if (link == 6) return;
+  Bytes all{link};
+  for (size_t at = 24; at + 16 <= file.size();) {
+    const size_t n = le32(at + 8);
+    if (n > 0xFFFF || at + 16 + n > file.size()) break;
+    Bytes one{link};
+    for (Bytes* input : {&one, &all}) {
+      input->push_back(static_cast<uint8_t>(n >> 8));
+      input->push_back(static_cast<uint8_t>(n));
+      input->insert(input->end(), file.begin() + long(at + 16), file.begin() + long(at + 16 + n));
+    }
+    w.put(one);
+    at += 16 + n;
+  }
+  w.put(all);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
