@@ -147,10 +147,13 @@ void umts_sib_print_flush(void);
 /* ---- Result sets allocated by the library ------------------------------------------- */
 
 /* A zeroed umts_sib_set in whole pages of its own, or null when memory is short. The caller
-   may equally allocate the set itself; the records read the same either way. In a set from
-   here a conversion clears its sub-record by handing the record's whole pages back to the
-   system, which gives them back zeroed when they are next touched, instead of writing zeros
-   over megabytes; only the partial pages at the record's edges are written. */
+   may equally allocate the set itself; the records read the same either way. Before a
+   conversion fills a record, the record is cleared: in the caller's own memory by writing
+   zeros over all of it (4.4 MB for SIB5), in a set from here by zeroing only what the
+   conversion before wrote (each list up to its count, each choice in its alternative), which
+   costs what the cell sent, not the record's size. So write nothing into a set from here
+   yourself (presence_bitmask aside): what a conversion did not write would not be cleared.
+   Only the pages that conversions wrote are resident. */
 umts_sib_set* umts_sib_set_alloc(void);
 /* Releases a set of umts_sib_set_alloc; null is ignored. */
 void umts_sib_set_free(umts_sib_set* set);

@@ -34,6 +34,7 @@ import ctypes.util
 import json
 import os
 import threading
+import weakref
 from pathlib import Path
 from typing import Dict, Iterable, Iterator, Optional, Tuple, Union
 
@@ -121,7 +122,8 @@ class Library:
         except OSError as err:
             raise LibraryNotFoundError(f"cannot load libsibdecoder_umts from {os.fspath(path)}: {err}") from None
         needed = ("umts_sib_decoder", "umts_sib_msg_decoder", "umts_sib_set_size", "umts_sib_name",
-                  "umts_sib_id_of_name", "umts_sib_record_json", "umts_sib_print_to")
+                  "umts_sib_id_of_name", "umts_sib_record_json", "umts_sib_print_to", "umts_sib_set_alloc",
+                  "umts_sib_set_free")
         missing = [name for name in needed if not hasattr(dll, name)]
         if missing:
             raise LibraryNotFoundError(
@@ -141,6 +143,10 @@ class Library:
         dll.umts_sib_record_json.argtypes = [setp, ctypes.c_int, ctypes.c_char_p, size_t]
         dll.umts_sib_print_to.restype = None
         dll.umts_sib_print_to.argtypes = [ctypes.c_void_p]
+        dll.umts_sib_set_alloc.restype = setp
+        dll.umts_sib_set_alloc.argtypes = []
+        dll.umts_sib_set_free.restype = None
+        dll.umts_sib_set_free.argtypes = [setp]
         self._dll = dll
         self.path = _file_of(dll.umts_sib_decoder, os.fspath(path))
         self.set_size = int(dll.umts_sib_set_size())
@@ -322,14 +328,19 @@ class Decoder:
     """One result record (umts_sib_set) of a library, filled by transport blocks or whole SIBs.
 
     The record is large (the fixed arrays of SIB5 above all): make one Decoder and
-    keep it. Segments are collected in the library, shared by every Decoder of the process.
+    keep it. It is a set of umts_sib_set_alloc, which the library clears by what each
+    conversion wrote, and is released with the Decoder. Segments are collected in the
+    library, shared by every Decoder of the process.
     """
 
     def __init__(self, library: Optional[Union[PathLike, Library]] = None):
         self.library = load(library)
-        self._set = (ctypes.c_char * self.library.set_size)()
-        self._set_address = ctypes.addressof(self._set)
-        self._presence = ctypes.c_uint16.from_buffer(self._set)
+        address = self.library._dll.umts_sib_set_alloc()
+        if not address:
+            raise MemoryError("umts_sib_set_alloc: no memory for a result record")
+        self._set_address = address
+        weakref.finalize(self, self.library._dll.umts_sib_set_free, address)
+        self._presence = ctypes.c_uint16.from_address(address)
         self._json = ctypes.create_string_buffer(_JSON_START)
         #: What the last call of an entry returned (1 success, 0 failure).
         self.last_status: Optional[int] = None

@@ -38,7 +38,8 @@
  *   UMTS_FRAME_DECODE  zeroes `decoded` and runs asn1PD_UMTS_<Type>; on a nonzero status:
  *                      decode_failed, context freed, 0, the record untouched. Otherwise
  *                      asn1Print_UMTS_<Type> with the title (unless the host switched the
- *                      text off), decoded, the record zeroed, 1.
+ *                      text off), decoded, the record cleared (umts_clear_record: in a set of the library only
+ *                      what the last conversion wrote), 1.
  *   umts_frame_close   closing, context freed, 1.
  * After a 0 from either of the first two the context is already freed: just return 0.
  *
@@ -55,6 +56,7 @@
 #include "umts_rrc_rt_print.h"
 #include "umts_sib_decoder.h"
 #include "umts_sib_frame.h"
+#include "../frame/sib_set_alloc.h"
 
 #if defined(__GNUC__) || defined(__clang__)
 #define UMTS_FRAME_LOCAL __attribute__((visibility("hidden")))
@@ -104,15 +106,15 @@ UMTS_FRAME_LOCAL uint8_t umts_frame_decoded(rtxContext* ctx, int status, const u
 /* Ends a successful conversion: closing, the context freed, 1. */
 UMTS_FRAME_LOCAL uint8_t umts_frame_close(rtxContext* ctx, const umts_frame_desc* desc);
 
-/* Decodes the slot's bytes as `Type` into `decoded`, prints it under the title and zeroes the
-   record `*record`; true on success, false with the context freed and the record untouched.
+/* Decodes the slot's bytes as `Type` into `decoded`, prints it under the title and clears the
+   record `*record` (umts_clear_record); true on success, false with the context freed and the record untouched.
    `ctx`, `decoded` and `desc` are named objects, `record` a pointer. */
 #define UMTS_FRAME_DECODE(ctx, Type, decoded, desc, record)                                       \
   (memset(&(decoded), 0, sizeof(decoded)),                                                        \
    umts_frame_decoded(&(ctx), asn1PD_UMTS_##Type(&(ctx), &(decoded)), &(desc)) &&                 \
        ((rtxPrintIsOn() ? asn1Print_UMTS_##Type((desc).title, &(decoded)) : (void)0),             \
         umts_frame_say(&(desc).decoded),                                                          \
-        memset((record), 0, sizeof *(record)), 1))
+        umts_clear_record(record), 1))
 
 /* An OPTIONAL element copied as it stands: its presence bit, then its value. */
 #define UMTS_COPY_OPTIONAL(src, dst, bit, field) \

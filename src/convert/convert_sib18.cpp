@@ -154,7 +154,9 @@ uint8_t fill_sysinfotype18_v3a0_nce(const SysInfoType18_v6b0NonCriticalExtension
     puts("fill_sysinfotype18_v3a0_nce: null value received for p_v6b0NonCriticalExtensions");
     return 0;
   }
-  std::memset(record, 0, sizeof *record);
+  /* 20 KB: in a set of the library, only what was written there is cleared (the conversion
+     of the block has just cleared it with the rest of the record). */
+  umts_clear_record(record);
   convert_sysinfotype18_v6b0ext(&value->sysInfoType18_v6b0ext, &record->sysInfoType18_v6b0ext);
   if (value->m & 1u) {
     record->presence_bitmask |= 1u;

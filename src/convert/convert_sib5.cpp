@@ -10,7 +10,6 @@
  */
 #include <cstring>
 
-#include "../frame/sib_set_alloc.h"
 #include "convert_frame.h"
 #include "convert_list.h"
 #include "umts_sib_convert.h"
@@ -45,13 +44,7 @@ uint8_t umts_convert_sib5(umts_sib5_info* sib5) {
   rtxContext ctx;
   SysInfoType5 decoded;
   if (!umts_frame_open(&ctx, &kSib5Frame)) return 0;
-  /* The frame's decode step, with the record cleared by umts_clear_record: megabytes, whose
-     pages a set of umts_sib_set_alloc hands back instead of writing them. */
-  std::memset(&decoded, 0, sizeof decoded);
-  if (!umts_frame_decoded(&ctx, asn1PD_UMTS_SysInfoType5(&ctx, &decoded), &kSib5Frame)) return 0;
-  asn1Print_UMTS_SysInfoType5(kSib5Frame.title, &decoded);
-  umts_frame_say(&kSib5Frame.decoded);
-  umts_clear_record(sib5, sizeof *sib5);
+  if (!UMTS_FRAME_DECODE(ctx, SysInfoType5, decoded, kSib5Frame, sib5)) return 0;
 
   sib5->sib6indicator = decoded.sib6indicator;
   sib5->pich_PowerOffset = decoded.pich_PowerOffset;

@@ -94,7 +94,11 @@ void convert_common_dynamic_tf_info_list(const CommonDynamicTF_InfoList* src, um
    before it (what an earlier element wrote and a later one does not write stays), so that it
    ends with the last one while `count` holds them all. The walk goes on while the list has
    nodes: the continuation words that the system once read lay past the list header, outside
-   the decoded value, and are not read. */
+   the decoded value, and are not read. What the earlier elements wrote beyond the last one's
+   own counts stays in entries[0]; a set of the library clears that entry whole, as it clears
+   every entry of this size. */
+static_assert(sizeof(umts_common_dynamic_tf_info_dynamic_tti) <= UMTS_RECORD_WRITE_WHOLE,
+              "entries[0] of a common dynamic TTI list must be cleared whole");
 void convert_common_dynamic_tf_info_list_dynamic_tti(const CommonDynamicTF_InfoList_DynamicTTI* src,
                                                      umts_common_dynamic_tf_info_list_dynamic_tti* dst) {
   dst->count = static_cast<uint8_t>(src->count);

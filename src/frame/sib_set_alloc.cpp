@@ -1,12 +1,14 @@
 /*
- * Result sets that the library allocates itself, and the clearing of large records.
+ * Result sets that the library allocates itself, and the clearing of records before a
+ * conversion fills them.
  *
- * A set from umts_sib_set_alloc is an anonymous private mapping of whole pages. Its address
- * range is noted in a small table, so that umts_clear_record can tell such memory from the
- * caller's own: there, the whole pages of a record are handed back with MADV_DONTNEED, after
- * which the kernel supplies zero-filled pages on the next touch, exactly what writing zeros
- * would have left; the partial pages at the edges (shared with neighbouring records) are
- * written. Anywhere else the record is written with zeros.
+ * A set from umts_sib_set_alloc is an anonymous private mapping of whole pages, zero when
+ * made. Its address range is noted in a small table, so that umts_clear_record can tell such
+ * memory from the caller's own. Only conversions write into it (the set is the library's
+ * result; a host reads it), and each conversion writes within what its record's counts and
+ * tags show. So a record there is cleared by walking its description and zeroing what the
+ * last conversion left: the parts in use, kilobytes for a SIB5 record of 4.4 MB. Anywhere
+ * else the record is written with zeros whole.
  */
 #include <sys/mman.h>
 #include <unistd.h>
@@ -49,8 +51,8 @@ bool in_mapping(uintptr_t begin, uintptr_t end) {
 umts_sib_set* umts_sib_set_alloc(void) {
   void* p = mmap(nullptr, mapped_length(), PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
   if (p == MAP_FAILED) return nullptr;
-  /* Small pages: a record's first touch after a clear then costs a 4 KiB page, not the
-     zeroing of a 2 MiB one. Only speed depends on it. */
+  /* Small pages: only the pages that conversions write become resident, and a first touch
+     costs a 4 KiB page, not the zeroing of a 2 MiB one. */
   madvise(p, mapped_length(), MADV_NOHUGEPAGE);
   for (Mapping& m : g_mappings) {
     if (m.length == 0) {
@@ -68,16 +70,8 @@ void umts_sib_set_free(umts_sib_set* set) {
   munmap(set, mapped_length());
 }
 
-void umts_clear_record(void* record, size_t size) {
-  const uintptr_t begin = reinterpret_cast<uintptr_t>(record), end = begin + size;
-  const size_t page = page_size();
-  const uintptr_t first = (begin + page - 1) / page * page, last = end / page * page;
-  if (last <= first || !in_mapping(begin, end)) {
-    std::memset(record, 0, size);
-    return;
-  }
-  std::memset(record, 0, first - begin);
-  if (madvise(reinterpret_cast<void*>(first), last - first, MADV_DONTNEED) != 0)
-    std::memset(reinterpret_cast<void*>(first), 0, last - first);
-  std::memset(reinterpret_cast<void*>(last), 0, end - last);
+void umts_clear_record(void* record, const umts_record_desc* desc) {
+  const uintptr_t begin = reinterpret_cast<uintptr_t>(record);
+  if (in_mapping(begin, begin + desc->size)) umts_record_clear_written(desc, record);
+  else std::memset(record, 0, desc->size);
 }

@@ -74,6 +74,12 @@ struct umts_record_desc {
 UMTS_ALL_RECORDS(UMTS_DESCRIBE_DECL)
 #undef UMTS_DESCRIBE_DECL
 
+/* umts_desc_of(record): the description of a record, chosen by the record's type. */
+#define UMTS_DESC_OF(kind, name) \
+  inline const umts_record_desc* umts_desc_of(const name*) { return describe_##name(); }
+UMTS_ALL_RECORDS(UMTS_DESC_OF)
+#undef UMTS_DESC_OF
+
 /* Every description of UMTS_ALL_RECORDS, in that order; *count receives their number. */
 const umts_record_desc* const* umts_all_record_descs(size_t* count);
 
@@ -89,6 +95,23 @@ size_t umts_record_desc_check(const umts_record_desc* desc, std::string* report)
 /* The JSON object of the record at `record` into buf, snprintf-style: at most `size` bytes
    with the null, returns the whole text's length. */
 size_t umts_json_write_record(const umts_record_desc* desc, const void* record, char* buf, size_t size);
+
+/* The integer of `size` octets (1, 2, 4 or 8) at `p`, unsigned; 0 for another size. */
+uint64_t umts_record_load_unsigned(const void* p, uint32_t size);
+
+/* The member of union description `desc` whose tag is `tag`, or null. */
+const umts_field_desc* umts_record_union_member(const umts_record_desc* desc, uint64_t tag);
+
+/* Records, unions and list entries up to this size are cleared whole by
+   umts_record_clear_written, which costs less than reading their description. A conversion
+   that writes an entry beyond what its counts show relies on it (and asserts it). */
+#define UMTS_RECORD_WRITE_WHOLE 2048u
+
+/* Leaves the record at `record` as zero as a whole clearing would, provided that before the
+   writes since its last clearing it was all zero and that those writes stayed within what
+   the record's counts and tags show: each list up to its count, each union in the member of
+   its tag, every other field. Costs what those parts hold, not the record's size. */
+void umts_record_clear_written(const umts_record_desc* desc, void* record);
 
 /* Appends the JSON object of the record at `record`. */
 inline void umts_json_append_record(std::string& out, const umts_record_desc* desc, const void* record) {

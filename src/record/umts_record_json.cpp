@@ -246,6 +246,14 @@ bool integer_field_at(const umts_record_desc* desc, const char* name, int32_t of
 
 }  // namespace
 
+uint64_t umts_record_load_unsigned(const void* p, uint32_t size) {
+  return load_unsigned(static_cast<const uint8_t*>(p), size);
+}
+
+const umts_field_desc* umts_record_union_member(const umts_record_desc* desc, uint64_t tag) {
+  return union_member(desc, tag);
+}
+
 size_t umts_json_write_record(const umts_record_desc* desc, const void* record, char* buf, size_t size) {
   char none = 0;
   if (buf == nullptr || size == 0) {

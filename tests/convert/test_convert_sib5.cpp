@@ -309,9 +309,9 @@ TEST_F(ConvertSib5, FailedDecodingKeepsThePreviousRecordAndASecondLeavesNothingO
   EXPECT_EQ(std::memcmp(&f, alone.data(), alone.size()), 0);
 }
 
-// A set of umts_sib_set_alloc is cleared by handing pages back: the record reads exactly as
-// in the caller's own memory, over whatever was there, and the neighbouring records keep
-// their bytes.
+// A set of umts_sib_set_alloc is cleared from what the conversion before wrote: the record
+// reads exactly as in the caller's own memory, whatever SIB5 came before, and the
+// neighbouring records stay as they were.
 TEST_F(ConvertSib5, LibraryAllocatedSetReadsTheSame) {
   Sib5Builder builder;
   const std::vector<uint8_t> bytes = builder.encode();
@@ -319,15 +319,19 @@ TEST_F(ConvertSib5, LibraryAllocatedSetReadsTheSame) {
   umts_sib_set* own = umts_sib_set_alloc();
   ASSERT_NE(own, nullptr);
   EXPECT_TRUE(allZero(*own));
+  Sib5Builder longer;
+  for (unsigned i = 1; i < 16; i++) longer.addPrach(i);
+  for (unsigned i = 2; i < 16; i++) longer.addSccpch(i, i == 2 ? 8 : 0);
+  const std::vector<uint8_t> longBytes = longer.encode();
   for (int round = 0; round < 2; round++) {
-    std::memset(own, 0xEE, sizeof *own);
+    ASSERT_EQ(umts_sib_msg_decoder(umts_sib_sib5, longBytes.data(), own, static_cast<uint32_t>(longBytes.size())), 1);
     const uint8_t ret = umts_sib_msg_decoder(umts_sib_sib5, bytes.data(), own, static_cast<uint32_t>(bytes.size()));
     ASSERT_EQ(ret, 1);
     EXPECT_EQ(std::memcmp(&own->sib5, &result->sib5, sizeof own->sib5), 0);
     const uint8_t* sib3 = reinterpret_cast<const uint8_t*>(&own->sib3);
     const uint8_t* sib7 = reinterpret_cast<const uint8_t*>(&own->sib7);
-    EXPECT_EQ(std::count(sib3, sib3 + sizeof own->sib3, 0xEE), static_cast<long>(sizeof own->sib3));
-    EXPECT_EQ(std::count(sib7, sib7 + sizeof own->sib7, 0xEE), static_cast<long>(sizeof own->sib7));
+    EXPECT_EQ(std::count(sib3, sib3 + sizeof own->sib3, 0), static_cast<long>(sizeof own->sib3));
+    EXPECT_EQ(std::count(sib7, sib7 + sizeof own->sib7, 0), static_cast<long>(sizeof own->sib7));
   }
   umts_sib_set_free(own);
   umts_sib_set_free(nullptr);

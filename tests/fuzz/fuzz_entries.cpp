@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <cstdarg>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -55,6 +56,24 @@ umts_sib_set* resultRecord() {
   static umts_sib_set* const record = static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)));
   return record;
 }
+
+// The same record from the library: its records are cleared by what the conversion before
+// wrote, and must read byte for byte as the caller's own, which are written with zeros whole.
+umts_sib_set* librarySet() {
+  static umts_sib_set* const record = umts_sib_set_alloc();
+  return record;
+}
+
+// Where each block's record lies in the set, by slot.
+struct RecordSpan {
+  size_t offset, size;
+};
+#define UMTS_FUZZ_SPAN(member) {offsetof(umts_sib_set, member), sizeof(umts_sib_set::member)}
+const RecordSpan kRecordSpans[umts_sib_count] = {
+    UMTS_FUZZ_SPAN(mib),  UMTS_FUZZ_SPAN(sib1),     UMTS_FUZZ_SPAN(sib2),  UMTS_FUZZ_SPAN(sib3),
+    UMTS_FUZZ_SPAN(sib5), UMTS_FUZZ_SPAN(sib7),     UMTS_FUZZ_SPAN(sib11), UMTS_FUZZ_SPAN(sib11bis),
+    UMTS_FUZZ_SPAN(sib12), UMTS_FUZZ_SPAN(sib18), UMTS_FUZZ_SPAN(sb1), UMTS_FUZZ_SPAN(sb2)};
+#undef UMTS_FUZZ_SPAN
 
 void resetContext() {
   for (umts_sib_slot& slot : g_umts_ctxt.slots) std::free(slot.buffer);
@@ -139,6 +158,16 @@ std::string run_sib_msg(const uint8_t* data, size_t size) {
   else if (id < umts_sib_count && g_umts_ctxt.slots[id].buffer != nullptr) problem = "slot not emptied after its conversion";
   else problem = checkSlots();
   resetContext();
+  umts_sib_set* own = librarySet();
+  if (problem.empty() && own != nullptr && id < umts_sib_count) {
+    const uint8_t again = umts_sib_msg_decoder(static_cast<umts_sib_id>(id), copy.get(), own, static_cast<uint32_t>(n));
+    const RecordSpan span = kRecordSpans[id];
+    if (again != status) problem = "the library's set gave another status";
+    else if (std::memcmp(reinterpret_cast<const uint8_t*>(own) + span.offset,
+                         reinterpret_cast<const uint8_t*>(result) + span.offset, span.size) != 0)
+      problem = "the library's set reads otherwise than the caller's after the same conversions";
+    resetContext();
+  }
   return problem;
 }
 

@@ -1,0 +1,143 @@
+// A set of umts_sib_set_alloc is cleared record by record from what the last conversion wrote
+// (lists to their counts, unions in their tag's member), not written whole. Whatever
+// sequence of conversions it receives, each record must read byte for byte as in a set of
+// the caller's own, where the whole record is written with zeros before each conversion.
+// The sequences here: every random valid encoding of each block that the generator wrote
+// for the round-trip tests, one after another in both orders, and the sample cell's SIBs.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "frame_test_util.h"
+#include "umts_sib_json.h"
+
+namespace {
+
+using frametest::captureStdout;
+using frametest::FrameTest;
+using Bytes = std::vector<uint8_t>;
+
+Bytes fromHex(const std::string& hex) {
+  Bytes out;
+  for (size_t i = 0; i + 1 < hex.size(); i += 2) out.push_back(static_cast<uint8_t>(std::stoul(hex.substr(i, 2), nullptr, 16)));
+  return out;
+}
+
+// The codec type of each block that a set holds.
+const std::map<std::string, umts_sib_id>& blockTypes() {
+  static const std::map<std::string, umts_sib_id> types = {
+      {"MasterInformationBlock", umts_sib_mib}, {"SysInfoType1", umts_sib_sib1},   {"SysInfoType2", umts_sib_sib2},
+      {"SysInfoType3", umts_sib_sib3},          {"SysInfoType5", umts_sib_sib5},   {"SysInfoType7", umts_sib_sib7},
+      {"SysInfoType11", umts_sib_sib11},        {"SysInfoType11bis", umts_sib_sib11bis},
+      {"SysInfoType12", umts_sib_sib12},        {"SysInfoType18", umts_sib_sib18}, {"SysInfoTypeSB1", umts_sib_sb1},
+      {"SysInfoTypeSB2", umts_sib_sb2}};
+  return types;
+}
+
+struct Encoding {
+  umts_sib_id id;
+  Bytes bytes;
+};
+
+// The generator's random encodings of the blocks, in file order.
+std::vector<Encoding> randomEncodings() {
+  std::vector<Encoding> out;
+  std::ifstream in(UMTS_TEST_DATA_DIR "/roundtrip_vectors.txt");
+  std::string line;
+  while (std::getline(in, line)) {
+    std::istringstream fields(line);
+    std::string type, bits, hex;
+    if (!(fields >> type >> bits >> hex)) continue;
+    auto it = blockTypes().find(type);
+    if (it != blockTypes().end()) out.push_back({it->second, fromHex(hex)});
+  }
+  return out;
+}
+
+// The sample cell's SIBs, whole.
+std::vector<Encoding> sampleEncodings() {
+  std::vector<Encoding> out;
+  std::ifstream in(UMTS_SAMPLES_DIR "/fdd_cell_sibs.txt");
+  std::string line;
+  while (std::getline(in, line)) {
+    std::istringstream fields(line);
+    std::string name, hex;
+    if (line.empty() || line[0] == '#' || !(fields >> name >> hex)) continue;
+    const umts_sib_id id = umts_sib_id_of_name(name.c_str(), name.size());
+    if (id != umts_sib_count) out.push_back({id, fromHex(hex)});
+  }
+  return out;
+}
+
+class LibrarySetClearing : public FrameTest {
+ protected:
+  void TearDown() override {
+    umts_sib_set_free(own);
+    FrameTest::TearDown();
+  }
+  // The record of `id` in both sets, as JSON where they differ (for the message).
+  void expectSameRecord(umts_sib_id id, const std::string& what) {
+    std::vector<char> a(1 << 20), b(1 << 20);
+    umts_sib_record_json(own, id, a.data(), a.size());
+    umts_sib_record_json(result, id, b.data(), b.size());
+    EXPECT_EQ(std::string(a.data()), std::string(b.data())) << what;
+    EXPECT_TRUE(sameBytes()) << what << ": the records hold the same values but not the same bytes, from offset "
+                             << firstDifference() << " of the set";
+  }
+  size_t firstDifference() const {
+    const uint8_t* a = reinterpret_cast<const uint8_t*>(own);
+    const uint8_t* b = reinterpret_cast<const uint8_t*>(result);
+    size_t i = 0;
+    while (i < sizeof *own && a[i] == b[i]) i++;
+    return i;
+  }
+  bool sameBytes() const { return std::memcmp(own, result, sizeof *own) == 0; }
+  // One conversion into both sets; both must agree on success.
+  void convertBoth(const Encoding& e, const std::string& what) {
+    uint8_t mine = 0, theirs = 0;
+    captureStdout([&] {
+      mine = umts_sib_msg_decoder(e.id, e.bytes.data(), own, static_cast<uint32_t>(e.bytes.size()));
+      theirs = umts_sib_msg_decoder(e.id, e.bytes.data(), result, static_cast<uint32_t>(e.bytes.size()));
+    });
+    ASSERT_EQ(mine, theirs) << what;
+    expectSameRecord(e.id, what);
+  }
+  umts_sib_set* own = umts_sib_set_alloc();
+};
+
+TEST_F(LibrarySetClearing, RandomEncodingsInTurnReadAsInTheCallersSet) {
+  ASSERT_NE(own, nullptr);
+  const std::vector<Encoding> all = randomEncodings();
+  ASSERT_EQ(all.size(), 12u * blockTypes().size());
+  for (size_t i = 0; i < all.size(); i++) convertBoth(all[i], "random encoding " + std::to_string(i));
+  for (size_t i = all.size(); i-- > 0;) convertBoth(all[i], "random encoding " + std::to_string(i) + ", backwards");
+}
+
+TEST_F(LibrarySetClearing, SampleCellAfterRandomEncodings) {
+  ASSERT_NE(own, nullptr);
+  const std::vector<Encoding> samples = sampleEncodings();
+  ASSERT_GE(samples.size(), 12u);
+  for (const Encoding& e : randomEncodings()) convertBoth(e, "random encoding");
+  for (const Encoding& e : samples) convertBoth(e, std::string("sample ") + umts_sib_name(e.id));
+  // And back: the sample's small lists over the random ones' long lists, then the random
+  // ones over the sample's.
+  for (const Encoding& e : randomEncodings()) convertBoth(e, "random encoding after the samples");
+}
+
+// The set holds zeros wherever no conversion wrote, and a failed conversion leaves the record
+// as it was: the clearing runs only once the bytes decoded.
+TEST_F(LibrarySetClearing, FailedDecodingClearsNothing) {
+  ASSERT_NE(own, nullptr);
+  for (const Encoding& e : sampleEncodings()) convertBoth(e, std::string("sample ") + umts_sib_name(e.id));
+  const Bytes damaged(40, 0xFF);
+  for (const auto& type : blockTypes()) convertBoth({type.second, damaged}, "damaged " + type.first);
+  EXPECT_TRUE(sameBytes());
+}
+
+}  // namespace
