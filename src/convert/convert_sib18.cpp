@@ -148,20 +148,27 @@ void convert_sysinfotype18_v6b0ext(const SysInfoType18_v6b0ext* src, umts_sysinf
   UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_plmn_identities_of_neighbour_cells, connectedModePLMNIdentitiesSIB11bis);
 }
 
+namespace {
+
+/* The extensions into a record already zero. */
+void fill_cleared_v6b0_nce(const SysInfoType18_v6b0NonCriticalExtensions* value, umts_sysinfotype18_v6b0_nce* record) {
+  convert_sysinfotype18_v6b0ext(&value->sysInfoType18_v6b0ext, &record->sysInfoType18_v6b0ext);
+  if (value->m & 1u) {
+    record->presence_bitmask |= 1u;
+    convert_sysinfotype18_v6b0_nce_v860_nce(&value->v860NonCriticalExtensions, &record->v860NonCriticalExtensions);
+  }
+}
+
+}  // namespace
+
 uint8_t fill_sysinfotype18_v3a0_nce(const SysInfoType18_v6b0NonCriticalExtensions* value,
                                     umts_sysinfotype18_v6b0_nce* record) {
   if (value == nullptr) {
     puts("fill_sysinfotype18_v3a0_nce: null value received for p_v6b0NonCriticalExtensions");
     return 0;
   }
-  /* 20 KB: in a set of the library, only what was written there is cleared (the conversion
-     of the block has just cleared it with the rest of the record). */
   umts_clear_record(record);
-  convert_sysinfotype18_v6b0ext(&value->sysInfoType18_v6b0ext, &record->sysInfoType18_v6b0ext);
-  if (value->m & 1u) {
-    record->presence_bitmask |= 1u;
-    convert_sysinfotype18_v6b0_nce_v860_nce(&value->v860NonCriticalExtensions, &record->v860NonCriticalExtensions);
-  }
+  fill_cleared_v6b0_nce(value, record);
   return 1;
 }
 
@@ -183,7 +190,8 @@ uint8_t umts_convert_sib18(umts_sib18_info* sib18) {
   }
   if (decoded.m & 4u) {
     sib18->presence_bitmask |= 4u;
-    (void)fill_sysinfotype18_v3a0_nce(&decoded.v6b0NonCriticalExtensions, &sib18->v6b0NonCriticalExtensions);
+    /* The record was cleared with the block's: filled without clearing its 20 KB again. */
+    fill_cleared_v6b0_nce(&decoded.v6b0NonCriticalExtensions, &sib18->v6b0NonCriticalExtensions);
   }
   return umts_frame_close(&ctx, &kSib18Frame);
 }
