@@ -9,7 +9,8 @@
  * written whole, which costs less than reading their description.
  *
  * The descriptions are read once into a plan per record: the spans of plain bytes to write
- * (neighbouring fields joined into one span) and the lists, unions and records to walk.
+ * (neighbouring fields joined into one span) and the lists and unions to walk. A nested
+ * record adds its own spans and walks to the plan of the record that holds it.
  */
 #include <cstring>
 #include <memory>
@@ -24,15 +25,15 @@ constexpr uint32_t kWriteWhole = UMTS_RECORD_WRITE_WHOLE;
 
 struct Plan;
 
-/* A part to walk: a list to its count, a union in its tag's member, or a nested record. */
+/* A part to walk: a list to its count or a union in its tag's member. */
 struct Walk {
-  enum Kind { kRecord, kList, kUnion } kind;
+  enum Kind { kList, kUnion } kind;
   uint32_t offset;      /* of the part in its record */
   uint32_t aux_offset;  /* list: the count; union: the tag */
   uint32_t aux_size;
   uint32_t dim;         /* list: entries reserved */
   uint32_t elem_size;   /* list: bytes per entry */
-  const Plan* elem;     /* record or list entries to walk; null: list entries written whole */
+  const Plan* elem;     /* list entries to walk; null: list entries written whole */
   const umts_record_desc* members; /* union: its description */
   std::vector<const Plan*> member_plans; /* union: per member of `members`, null when whole */
 };
@@ -79,7 +80,7 @@ class Plans {
   static void add_span(Plan& plan, uint32_t offset, uint32_t size) {
     if (!plan.spans.empty()) {
       Span& last = plan.spans.back();
-      /* Joined across padding: padding is never anything but zero. */
+      /* Joined across padding, which may as well be written. */
       if (offset >= last.offset + last.size && offset - (last.offset + last.size) < 8) {
         last.size = offset + size - last.offset;
         return;
@@ -99,14 +100,21 @@ class Plans {
     w.aux_offset = f.aux_offset < 0 ? 0u : static_cast<uint32_t>(f.aux_offset);
     w.aux_size = f.aux_size;
     switch (f.kind) {
-      case umts_field_record:
-        w.kind = Walk::kRecord;
-        w.elem = plan_of(f.elem_desc);
-        if (w.elem == nullptr) {
+      case umts_field_record: {
+        /* A nested record's own parts join the plan at the record's offset: no step of its own. */
+        const Plan* nested = plan_of(f.elem_desc);
+        if (nested == nullptr) {
           add_span(plan, f.offset, f.size);
           return;
         }
-        break;
+        for (Walk inner : nested->walks) {
+          inner.offset += f.offset;
+          inner.aux_offset += f.offset;
+          plan.walks.push_back(std::move(inner));
+        }
+        for (const Span& inner : nested->spans) add_span(plan, f.offset + inner.offset, inner.size);
+        return;
+      }
       case umts_field_array:
         w.kind = Walk::kList;
         w.dim = f.dim;
@@ -135,9 +143,6 @@ void clear(const Plan* plan, uint8_t* record, uint32_t size);
 void clear_walk(const Walk& w, uint8_t* base) {
   uint8_t* p = base + w.offset;
   switch (w.kind) {
-    case Walk::kRecord:
-      clear(w.elem, p, 0);
-      break;
     case Walk::kList: {
       uint64_t count = umts_record_load_unsigned(base + w.aux_offset, w.aux_size);
       if (count > w.dim) count = w.dim;

@@ -105,7 +105,7 @@ const umts_field_desc* umts_record_union_member(const umts_record_desc* desc, ui
 /* Records, unions and list entries up to this size are cleared whole by
    umts_record_clear_written, which costs less than reading their description. A conversion
    that writes an entry beyond what its counts show relies on it (and asserts it). */
-#define UMTS_RECORD_WRITE_WHOLE 2048u
+#define UMTS_RECORD_WRITE_WHOLE 512u
 
 /* Leaves the record at `record` as zero as a whole clearing would, provided that before the
    writes since its last clearing it was all zero and that those writes stayed within what
