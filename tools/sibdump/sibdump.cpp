@@ -12,6 +12,7 @@
 #include <string>
 
 #include "sibdump_inputs.h"
+#include "summary.h"
 #include "umts_rrc_rt.h"
 #include "umts_sib_convert.h"
 #include "umts_sib_decoder.h"
@@ -55,6 +56,12 @@ const char kUsage[] =
     "                     them) on ADDRESS:PORT, default " SIBDUMP_UDP_DEFAULT "; records are written\n"
     "                     as they are decoded until SIGINT (Ctrl-C) or SIGTERM, then a count\n"
     "                     summary per cell goes to standard error\n"
+    "  --summary[=FORMAT] instead of the records, one summary per cell once the input ends\n"
+    "                     (for --udp: once interrupted): identity, access, cell selection\n"
+    "                     and reselection, the broadcast schedule, common channels and\n"
+    "                     neighbours, in names and units beside the coded values, and\n"
+    "                     what was not received. FORMAT: text (default) or json (one\n"
+    "                     object per cell and line).\n"
     "  -h, --help         show this help\n"
     "\n"
     "Output: after each input line, one line per block converted by that call, e.g.\n"
@@ -90,6 +97,7 @@ struct Options {
   bool log_level_set = false;
   bool udp = false;
   const char* udp_address = nullptr; /* null: the default */
+  const char* summary = nullptr;     /* "text" or "json"; null: records */
 };
 
 struct Counts {
@@ -149,6 +157,12 @@ bool parse_args(int argc, char** argv, Options* opt) {
       opt->udp = true;
       if (a[5] == '=') opt->udp_address = a + 6;
       else if (i + 1 < argc && argv[i + 1][0] != '-') opt->udp_address = argv[++i];
+    } else if (std::strcmp(a, "--summary") == 0 || std::strncmp(a, "--summary=", 10) == 0) {
+      opt->summary = a[9] == '=' ? a + 10 : "text";
+      if (std::strcmp(opt->summary, "text") != 0 && std::strcmp(opt->summary, "json") != 0) {
+        std::fprintf(stderr, "sibdump: --summary takes text or json, not '%s'\n", opt->summary);
+        return false;
+      }
     } else if (take_value("--asn1-text")) {
       if (value == nullptr) return false;
       opt->asn1_text = value;
@@ -342,7 +356,49 @@ struct Dumper {
   const char* input_name;
   umts_sib_set* set;
   Counts counts;
+  CellCollection* cells = nullptr; /* --summary: the records are collected here */
 };
+
+/* Bits set in the set's presence_bitmask: the blocks the last call converted. */
+size_t converted(const umts_sib_set* set) {
+  size_t n = 0;
+  for (uint32_t i = 0; i < umts_sib_count; i++) n += (set->presence_bitmask >> i) & 1u;
+  return n;
+}
+
+/* The cell of a capture line's members: what follows "source" ("...","arfcn":N). */
+std::string cell_key(const std::string& head) {
+  const size_t at = head.find("\"source\":");
+  return at == std::string::npos ? std::string() : head.substr(at);
+}
+
+/* "source 127.0.0.1, ARFCN 10700" from the key. */
+std::string cell_label(const std::string& key) {
+  const size_t s = key.find(":\"");
+  const size_t e = s == std::string::npos ? s : key.find('"', s + 2);
+  const size_t a = key.find("\"arfcn\":");
+  if (s == std::string::npos || e == std::string::npos || a == std::string::npos) return key;
+  return "source " + key.substr(s + 2, e - s - 2) + ", ARFCN " + key.substr(a + 8);
+}
+
+/* The summaries of all cells, in the chosen format. */
+void write_summaries(FILE* out, const CellCollection& cells, const char* format) {
+  const bool json = std::strcmp(format, "json") == 0;
+  bool first = true;
+  for (const auto& cell : cells.cells()) {
+    const SummaryNode summary = cell_summary(*cell);
+    if (json) {
+      std::fprintf(out, "%s\n", summary_json(summary).c_str());
+    } else {
+      std::fprintf(out, "%s%s", first ? "" : "\n", summary_text(summary).c_str());
+    }
+    first = false;
+  }
+  if (cells.cells().empty()) {
+    if (json) std::fprintf(out, "{\"cell\":null,\"missing\":\"no block of any cell was converted\"}\n");
+    else std::fprintf(out, "no block of any cell was converted\n");
+  }
+}
 
 void bad_line(Dumper& d, unsigned long line, const char* why) {
   /* The library's text may be going to standard error too: keep the order readable. */
@@ -374,6 +430,11 @@ void convert_sib16(Dumper& d, unsigned long line, uint8_t* bytes, size_t octets)
 
 /* One JSON line per sub-record whose presence bit the last call set. */
 void write_records(Dumper& d, unsigned long line) {
+  if (d.cells != nullptr) {
+    if (d.set->presence_bitmask != 0) d.cells->cell("", d.input_name).take(d.set);
+    d.counts.records += converted(d.set);
+    return;
+  }
   const uint32_t present = d.set->presence_bitmask;
   for (uint32_t i = 0; i < umts_sib_count; i++) {
     if (((present >> i) & 1u) == 0) continue;
@@ -385,6 +446,12 @@ void write_records(Dumper& d, unsigned long line) {
 /* The same, each line starting with the members `head` (a capture's frame, time and cell).
    Returns the number of lines. */
 size_t write_records(Dumper& d, const std::string& head) {
+  if (d.cells != nullptr) {
+    const std::string key = cell_key(head);
+    if (d.set->presence_bitmask != 0) d.cells->cell(key, cell_label(key)).take(d.set);
+    d.counts.records += converted(d.set);
+    return converted(d.set);
+  }
   size_t written = 0;
   const uint32_t present = d.set->presence_bitmask;
   for (uint32_t i = 0; i < umts_sib_count; i++) {
@@ -551,6 +618,8 @@ int main(int argc, char** argv) {
     return 2;
   }
   Dumper d{lines, input_name, set, Counts()};
+  CellCollection cells;
+  if (opt.summary != nullptr) d.cells = &cells;
   if (opt.udp || capture) {
     RecordOutput output{[&d](const std::string& head) { return write_records(d, head); }, nullptr};
     /* Live records reach the stream as each datagram is decoded. */
@@ -561,6 +630,7 @@ int main(int argc, char** argv) {
     /* run_capture closes `in`. */
     int status = opt.udp ? run_udp(opt.udp_address, set, output) : run_capture(in, input_name, set, output);
     lines.write_out();
+    if (opt.summary != nullptr) write_summaries(json, cells, opt.summary);
     umts_sib_print_flush();
     std::fflush(stdout);
     if (std::fclose(json) != 0) {
@@ -583,6 +653,7 @@ int main(int argc, char** argv) {
   std::fclose(in);
 
   lines.write_out();
+  if (opt.summary != nullptr) write_summaries(json, cells, opt.summary);
   umts_sib_print_flush();
   std::fflush(stdout);
   const bool write_error = std::fclose(json) != 0;

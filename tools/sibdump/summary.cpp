@@ -1,0 +1,756 @@
+/*
+ * The per-cell summary: the records of a cell read as a radio engineer reads a cell, values
+ * in their units beside the coded value, enumerations by the codec's names.
+ */
+#include "summary.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "umts_rrc.h"
+#include "umts_sib_json.h"
+
+/* ---- Nodes ------------------------------------------------------------------------------ */
+
+const SummaryNode* SummaryNode::find(const std::string& key) const {
+  for (const auto& m : members)
+    if (m.first == key) return &m.second;
+  return nullptr;
+}
+
+/* ---- Records of a cell ------------------------------------------------------------------ */
+
+CellRecords::CellRecords(std::string label)
+    : label_(std::move(label)), records_(static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)))) {
+  if (records_ == nullptr) {
+    std::fprintf(stderr, "sibdump: out of memory\n");
+    std::exit(2);
+  }
+}
+
+CellRecords::~CellRecords() { std::free(records_); }
+
+void CellRecords::take(const umts_sib_set* set) {
+  const uint32_t present = set->presence_bitmask;
+#define UMTS_TAKE(slot, member)                                                  \
+  if ((present >> (slot)) & 1u) {                                                \
+    std::memcpy(&records_->member, &set->member, sizeof records_->member);       \
+    conversions_[slot]++;                                                        \
+  }
+  UMTS_TAKE(umts_sib_mib, mib)
+  UMTS_TAKE(umts_sib_sib1, sib1)
+  UMTS_TAKE(umts_sib_sib2, sib2)
+  UMTS_TAKE(umts_sib_sib3, sib3)
+  UMTS_TAKE(umts_sib_sib5, sib5)
+  UMTS_TAKE(umts_sib_sib7, sib7)
+  UMTS_TAKE(umts_sib_sib11, sib11)
+  UMTS_TAKE(umts_sib_sib11bis, sib11bis)
+  UMTS_TAKE(umts_sib_sib12, sib12)
+  UMTS_TAKE(umts_sib_sib18, sib18)
+  UMTS_TAKE(umts_sib_sb1, sb1)
+  UMTS_TAKE(umts_sib_sb2, sb2)
+#undef UMTS_TAKE
+  seen_ |= present & ((1u << umts_sib_count) - 1u);
+  records_->presence_bitmask = static_cast<uint16_t>(seen_);
+}
+
+CellRecords& CellCollection::cell(const std::string& key, const std::string& label) {
+  auto it = index_.find(key);
+  if (it != index_.end()) return *cells_[it->second];
+  index_.emplace(key, cells_.size());
+  cells_.emplace_back(new CellRecords(label));
+  return *cells_.back();
+}
+
+/* ---- Small pieces ----------------------------------------------------------------------- */
+
+namespace {
+
+SummaryNode missing(const std::string& why) { return SummaryNode::object().add("missing", why); }
+
+/* A value in its unit, with the coded value beside it. */
+SummaryNode quantity(double value, const char* unit, long coded) {
+  SummaryNode n = SummaryNode::object();
+  if (value == static_cast<double>(static_cast<long long>(value))) n.add("value", static_cast<long long>(value));
+  else n.add("value", value);
+  return n.add("unit", unit).add("coded", coded);
+}
+
+/* An enumerated value by its name, with its ordinal. */
+SummaryNode named(const char* name, uint32_t ordinal) {
+  return SummaryNode::object().add("name", name).add("coded", static_cast<unsigned long>(ordinal));
+}
+
+const char* block_missing(umts_sib_id id) {
+  switch (id) {
+    case umts_sib_mib: return "no MIB received";
+    case umts_sib_sib1: return "SIB1 not received";
+    case umts_sib_sib2: return "SIB2 not received";
+    case umts_sib_sib3: return "SIB3 not received";
+    case umts_sib_sib5: return "SIB5 not received";
+    case umts_sib_sib7: return "SIB7 not received";
+    case umts_sib_sib11: return "SIB11 not received";
+    case umts_sib_sib11bis: return "SIB11bis not received";
+    case umts_sib_sib12: return "SIB12 not received";
+    case umts_sib_sib18: return "SIB18 not received";
+    case umts_sib_sb1: return "SB1 not received";
+    case umts_sib_sb2: return "SB2 not received";
+    default: return "not received";
+  }
+}
+
+std::string digits(const uint8_t* d, uint32_t count) {
+  std::string s;
+  for (uint32_t i = 0; i < count && i < 3; i++) s += static_cast<char>('0' + (d[i] % 10));
+  return s;
+}
+
+std::string plmn_text(const umts_plmn_identity& p) {
+  return digits(p.mcc.digits, p.mcc.count) + "-" + digits(p.mnc.digits, p.mnc.count);
+}
+
+/* Alternatives of SIBSb-TypeAndTag (MIB) and SIB-TypeAndTag (SB1, SB2), from 1. */
+const char* const kSibSbTypes[] = {
+    "sysInfoType1",    "sysInfoType2",    "sysInfoType3",    "sysInfoType4",    "sysInfoType5",
+    "sysInfoType6",    "sysInfoType7",    "dummy",           "dummy2",          "dummy3",
+    "sysInfoType11",   "sysInfoType12",   "sysInfoType13",   "sysInfoType13-1", "sysInfoType13-2",
+    "sysInfoType13-3", "sysInfoType13-4", "sysInfoType14",   "sysInfoType15",   "sysInfoType16",
+    "sysInfoType17",   "sysInfoTypeSB1",  "sysInfoTypeSB2",  "sysInfoType15-1", "sysInfoType15-2",
+    "sysInfoType15-3", "sysInfoType15-4", "sysInfoType18",   "sysInfoType15-5", "sysInfoType5bis",
+    "spare2",          "spare1"};
+const char* const kSibTypes[] = {
+    "sysInfoType1",    "sysInfoType2",    "sysInfoType3",    "sysInfoType4",    "sysInfoType5",
+    "sysInfoType6",    "sysInfoType7",    "dummy",           "dummy2",          "dummy3",
+    "sysInfoType11",   "sysInfoType12",   "sysInfoType13",   "sysInfoType13-1", "sysInfoType13-2",
+    "sysInfoType13-3", "sysInfoType13-4", "sysInfoType14",   "sysInfoType15",   "sysInfoType16",
+    "sysInfoType17",   "sysInfoType15-1", "sysInfoType15-2", "sysInfoType15-3", "sysInfoType15-4",
+    "sysInfoType18",   "sysInfoType15-5", "sysInfoType5bis", "spare4",          "spare3",
+    "spare2",          "spare1"};
+/* SIB-TypeExt2, from 1. */
+const char* const kSibTypesExt2[] = {"systemInfoType19", "systemInfoType15-2ter", "systemInfoType20", "spare5",
+                                     "spare4",           "spare3",                "spare2",           "spare1"};
+
+const char* alternative(const char* const* names, size_t count, uint32_t tag) {
+  return tag >= 1 && tag <= count ? names[tag - 1] : "unknown";
+}
+
+/* The slot that holds a block of this name, or umts_sib_count. */
+umts_sib_id slot_of(const std::string& name) {
+  static const std::pair<const char*, umts_sib_id> kSlots[] = {
+      {"sysInfoType1", umts_sib_sib1},    {"sysInfoType2", umts_sib_sib2},   {"sysInfoType3", umts_sib_sib3},
+      {"sysInfoType5", umts_sib_sib5},    {"sysInfoType7", umts_sib_sib7},   {"sysInfoType11", umts_sib_sib11},
+      {"sysInfoType12", umts_sib_sib12},  {"sysInfoType18", umts_sib_sib18}, {"sysInfoTypeSB1", umts_sib_sb1},
+      {"sysInfoTypeSB2", umts_sib_sb2}};
+  for (const auto& s : kSlots)
+    if (name == s.first) return s.second;
+  return umts_sib_count;
+}
+
+/* Repetition period in frames and position of a sib-Pos choice. */
+bool position(const umts_scheduling_pos& pos, unsigned* rep, unsigned* at) {
+  if (pos.choice_tag < 1 || pos.choice_tag > 11) return false;
+  *rep = 4u << (pos.choice_tag - 1);
+  const umts_scheduling_pos_u& u = pos.u;
+  switch (pos.choice_tag) {
+    case 1: *at = u.rep4; break;
+    case 2: *at = u.rep8; break;
+    case 3: *at = u.rep16; break;
+    case 4: *at = u.rep32; break;
+    case 5: *at = u.rep64; break;
+    case 6: *at = u.rep128; break;
+    case 7: *at = u.rep256; break;
+    case 8: *at = u.rep512; break;
+    case 9: *at = u.rep1024; break;
+    case 10: *at = u.rep2048; break;
+    default: *at = u.rep4096; break;
+  }
+  *at *= 2; /* the position counts frame pairs */
+  return true;
+}
+
+/* One scheduled block: name, period, position, segments, value tag, seen. */
+SummaryNode schedule_entry(const CellRecords& cell, const char* name, const umts_scheduling_info& s,
+                           const char* announced_by, SummaryNode value_tag) {
+  SummaryNode e = SummaryNode::object();
+  e.add("sib", name).add("announced_by", announced_by);
+  unsigned rep = 0, at = 0;
+  if (position(s.sib_Pos, &rep, &at)) {
+    e.add("repetition_frames", rep).add("position_frame", at);
+  } else {
+    e.add("repetition_frames", SummaryNode()).add("position_frame", SummaryNode());
+  }
+  e.add("segment_count", static_cast<unsigned>(s.segCount));
+  /* The first segment at SFN mod rep = position, each further one two frames later, or at
+     the offsets the block lists (SibOFF so2 ... so32: 2 ... 32 frames). */
+  SummaryNode frames = SummaryNode::list();
+  if (rep != 0) {
+    unsigned f = at;
+    for (unsigned i = 0; i < s.segCount && i < 16; i++) {
+      if (i > 0) {
+        const bool listed = (s.presence_bitmask & 1u) && i - 1 < s.sib_PosOffsetInfo.count;
+        f += listed ? 2u * (s.sib_PosOffsetInfo.entries[i - 1] + 1u) : 2u;
+      }
+      frames.push(f % rep);
+    }
+  }
+  e.add("segment_frames", frames);
+  e.add("value_tag", std::move(value_tag));
+  const umts_sib_id slot = slot_of(name);
+  if (slot == umts_sib_count) e.add("seen", SummaryNode());
+  else e.add("seen", cell.has(slot));
+  return e;
+}
+
+/* Value tag of an alternative of SIBSb-TypeAndTag or SIB-TypeAndTag (`sb` the latter). */
+template <class U>
+SummaryNode value_tag(uint32_t tag, const U& u, bool sb) {
+  if (tag == 1) return SummaryNode(static_cast<unsigned>(u.sysInfoType1));
+  if (tag == 20) return SummaryNode(static_cast<unsigned>(u.sysInfoType16.predefinedConfigValueTag));
+  const uint32_t occurrence_a = sb ? 23 : 25, occurrence_b = sb ? 24 : 26;
+  if (tag == occurrence_a) return SummaryNode(static_cast<unsigned>(u.sysInfoType15_2.sibOccurValueTag));
+  if (tag == occurrence_b) return SummaryNode(static_cast<unsigned>(u.sysInfoType15_3.sibOccurValueTag));
+  /* No tag: sysInfoType7, dummy2, dummy3, sysInfoType14, sysInfoType17 and the spares. */
+  if (tag == 7 || tag == 9 || tag == 10 || tag == 18 || tag == 21 || tag > (sb ? 28u : 30u)) return SummaryNode();
+  return SummaryNode(static_cast<unsigned>(u.sysInfoType2)); /* the one-octet tags share their place */
+}
+
+SummaryNode ext_value_tag(const umts_value_tag_info& v) {
+  switch (v.choice_tag) {
+    case 2: return SummaryNode(static_cast<unsigned>(v.u.cellValueTag));
+    case 3: return SummaryNode(static_cast<unsigned>(v.u.plmn_ValueTag));
+    case 4: return SummaryNode(static_cast<unsigned>(v.u.sIBOccurrenceIdentityAndValueTag.sibOccurValueTag));
+    default: return SummaryNode();
+  }
+}
+
+/* The SIBs of a scheduling block (SB1 or SB2). */
+template <class Sb>
+void schedule_of_sb(const CellRecords& cell, const Sb& sb, const char* by, SummaryNode& out) {
+  const umts_sib_reference_list& l = sb.sib_ReferenceList;
+  for (unsigned i = 0; i < l.count && i < 32; i++) {
+    const umts_scheduling_info_sib& e = l.entries[i];
+    const uint32_t tag = e.sib_Type.choice_tag;
+    out.push(schedule_entry(cell, alternative(kSibTypes, 32, tag), e.scheduling, by,
+                            value_tag(tag, e.sib_Type.u, true)));
+  }
+  if ((sb.presence_bitmask & 1u) == 0) return;
+  const umts_sb_v6b0_nc_extensions& v6b0 = sb.v6b0NonCriticalExtensions;
+  if ((v6b0.presence_bitmask & 1u) == 0) return;
+  const umts_sb_v860_ext& v860 = v6b0.v860NonCriticalExtensions.sysInfoTypeSB_v860ext;
+  if ((v860.presence_bitmask & 1u) == 0) return;
+  const umts_ext_sib_type_info_scheduling_info_list2& l2 = v860.extSIBTypeInfoSchedulingInfo_List;
+  for (unsigned i = 0; i < l2.count && i < 32; i++)
+    out.push(schedule_entry(cell, alternative(kSibTypesExt2, 8, l2.entries[i].extensionSIB_Type2),
+                            l2.entries[i].schedulingInfo, by, ext_value_tag(l2.entries[i].valueTagInfo)));
+}
+
+/* ---- Neighbour lists of the four SIB11 forms --------------------------------------------- */
+
+template <class Info>
+void add_offsets(SummaryNode& n, const Info& cell) {
+  n.add("cell_individual_offset", quantity(cell.cellIndividualOffset * 0.5, "dB", cell.cellIndividualOffset));
+}
+
+void add_reselection(SummaryNode& n, const umts_cell_select_reselect_info_sib_11_12_rscp& r) {
+  n.add("q_offset_s_n", quantity(r.q_OffsetS_N, "dB", r.q_OffsetS_N));
+}
+void add_reselection(SummaryNode& n, const umts_cell_select_reselect_info_sib_11_12_hcs_rscp& r) {
+  n.add("q_offset_s_n", quantity(r.q_OffsetS_N, "dB", r.q_OffsetS_N));
+  if (r.presence_bitmask & 2u)
+    n.add("hcs_priority", static_cast<unsigned>(r.hcs_NeighbouringCellInformation_RSCP.hcs_PRIO))
+        .add("q_hcs_coded", static_cast<unsigned>(r.hcs_NeighbouringCellInformation_RSCP.q_HCS));
+}
+void add_reselection(SummaryNode& n, const umts_cell_select_reselect_info_sib_11_12_ecno& r) {
+  n.add("q_offset1_s_n", quantity(r.q_Offset1S_N, "dB", r.q_Offset1S_N));
+  n.add("q_offset2_s_n", quantity(r.q_Offset2S_N, "dB", r.q_Offset2S_N));
+}
+void add_reselection(SummaryNode& n, const umts_cell_select_reselect_info_sib_11_12_hcs_ecno& r) {
+  n.add("q_offset1_s_n", quantity(r.q_Offset1S_N, "dB", r.q_Offset1S_N));
+  n.add("q_offset2_s_n", quantity(r.q_Offset2S_N, "dB", r.q_Offset2S_N));
+  if (r.presence_bitmask & 2u)
+    n.add("hcs_priority", static_cast<unsigned>(r.hcs_NeighbouringCellInformation_ECN0.hcs_PRIO))
+        .add("q_hcs_coded", static_cast<unsigned>(r.hcs_NeighbouringCellInformation_ECN0.q_HCS));
+}
+
+/* Scrambling code, offsets and reselection values of one cell of a list. */
+template <class CellInfo>
+SummaryNode utran_cell(const CellInfo& c) {
+  SummaryNode n = SummaryNode::object();
+  if (c.modeSpecificInfo.choice_tag == 1 && (c.modeSpecificInfo.u.fdd.presence_bitmask & 1u))
+    n.add("primary_scrambling_code", static_cast<unsigned>(c.modeSpecificInfo.u.fdd.primaryCPICH_Info));
+  else
+    n.add("primary_scrambling_code", SummaryNode());
+  add_offsets(n, c);
+  if (c.presence_bitmask & 2u) add_reselection(n, c.cellSelectionReselectionInfo);
+  return n;
+}
+
+template <class Alternative>
+void utran_lists(const Alternative& a, SummaryNode& intra, SummaryNode& inter) {
+  if (a.presence_bitmask & 1u) {
+    const auto& m = a.intraFreqMeasurementSysInfo;
+    if (m.presence_bitmask & 1u) {
+      const auto& l = m.intraFreqCellInfoSI_List.newIntraFreqCellList;
+      for (unsigned i = 0; i < l.count && i < 32; i++) {
+        SummaryNode n = SummaryNode::object();
+        if (l.entries[i].presence_bitmask & 1u) n.add("cell_id", static_cast<unsigned>(l.entries[i].intraFreqCellID));
+        for (auto& member : utran_cell(l.entries[i].cellInfo).members) n.add(member.first, member.second);
+        intra.push(std::move(n));
+      }
+    }
+  }
+  if (a.presence_bitmask & 2u) {
+    const auto& m = a.interFreqMeasurementSysInfo;
+    if ((m.presence_bitmask & 1u) && (m.interFreqCellInfoSI_List.presence_bitmask & 2u)) {
+      const auto& l = m.interFreqCellInfoSI_List.newInterFreqCellList;
+      for (unsigned i = 0; i < l.count && i < 32; i++) {
+        const auto& e = l.entries[i];
+        SummaryNode n = SummaryNode::object();
+        if (e.presence_bitmask & 1u) n.add("cell_id", static_cast<unsigned>(e.interFreqCellID));
+        if (e.frequencyInfo.choice_tag == 1) n.add("uarfcn_dl", static_cast<unsigned>(e.frequencyInfo.u.fdd.uarfcn_DL));
+        else if (e.frequencyInfo.choice_tag == 2) n.add("uarfcn", static_cast<unsigned>(e.frequencyInfo.u.tdd.uarfcn_Nt));
+        else n.add("uarfcn_dl", "same as the cell before");
+        for (auto& member : utran_cell(e.cellInfo).members) n.add(member.first, member.second);
+        inter.push(std::move(n));
+      }
+    }
+  }
+}
+
+template <class List>
+void gsm_list(const List& l, SummaryNode& gsm) {
+  for (unsigned i = 0; i < l.count && i < 32; i++) {
+    const umts_new_inter_rat_cell& c = l.entries[i];
+    if (c.technologySpecificInfo.choice_tag != 1) continue;
+    const umts_new_inter_rat_cell_gsm& g = c.technologySpecificInfo.u.gsm;
+    SummaryNode n = SummaryNode::object();
+    if (c.presence_bitmask & 1u) n.add("cell_id", static_cast<unsigned>(c.interRATCellID));
+    char bsic[8];
+    std::snprintf(bsic, sizeof bsic, "%u-%u", g.bsic.ncc, g.bsic.bcc);
+    n.add("bcch_arfcn", static_cast<unsigned>(g.bcch_ARFCN))
+        .add("band", named(UMTS_Frequency_Band_ToString(g.frequency_band), g.frequency_band))
+        .add("bsic", bsic)
+        .add("individual_offset", quantity(g.interRATCellIndividualOffset, "dB", g.interRATCellIndividualOffset));
+    if (g.presence_bitmask & 1u)
+      n.add("q_offset1_s_n", quantity(g.cellSelectionReselectionInfo.q_Offset1S_N, "dB",
+                                      g.cellSelectionReselectionInfo.q_Offset1S_N));
+    gsm.push(std::move(n));
+  }
+}
+
+/* ---- Output ----------------------------------------------------------------------------- */
+
+void json_string(std::string& out, const std::string& s) {
+  out += '"';
+  for (unsigned char c : s) {
+    if (c == '"' || c == '\\') {
+      out += '\\';
+      out += static_cast<char>(c);
+    } else if (c < 0x20) {
+      char esc[8];
+      std::snprintf(esc, sizeof esc, "\\u%04x", c);
+      out += esc;
+    } else {
+      out += static_cast<char>(c);
+    }
+  }
+  out += '"';
+}
+
+void json_node(std::string& out, const SummaryNode& n) {
+  char num[40];
+  switch (n.kind) {
+    case SummaryNode::Null: out += "null"; break;
+    case SummaryNode::Bool: out += n.flag ? "true" : "false"; break;
+    case SummaryNode::Int: out += std::to_string(n.integer); break;
+    case SummaryNode::Real:
+      std::snprintf(num, sizeof num, "%g", n.real);
+      out += num;
+      break;
+    case SummaryNode::Text: json_string(out, n.text); break;
+    case SummaryNode::Object:
+      out += '{';
+      for (size_t i = 0; i < n.members.size(); i++) {
+        if (i) out += ',';
+        json_string(out, n.members[i].first);
+        out += ':';
+        json_node(out, n.members[i].second);
+      }
+      out += '}';
+      break;
+    case SummaryNode::List:
+      out += '[';
+      for (size_t i = 0; i < n.items.size(); i++) {
+        if (i) out += ',';
+        json_node(out, n.items[i]);
+      }
+      out += ']';
+      break;
+  }
+}
+
+/* A value on one line: scalars as they are, quantities as "v unit (coded c)", names as
+   "name (coded c)", small flat objects as "k=v, k=v". */
+bool inline_text(const SummaryNode& n, std::string& out) {
+  char num[40];
+  switch (n.kind) {
+    case SummaryNode::Null: out += "-"; return true;
+    case SummaryNode::Bool: out += n.flag ? "yes" : "no"; return true;
+    case SummaryNode::Int: out += std::to_string(n.integer); return true;
+    case SummaryNode::Real:
+      std::snprintf(num, sizeof num, "%g", n.real);
+      out += num;
+      return true;
+    case SummaryNode::Text: out += n.text; return true;
+    case SummaryNode::Object: {
+      const SummaryNode* value = n.find("value");
+      const SummaryNode* unit = n.find("unit");
+      const SummaryNode* coded = n.find("coded");
+      const SummaryNode* name = n.find("name");
+      const SummaryNode* why = n.find("missing");
+      if (why != nullptr && n.members.size() == 1) {
+        out += "(" + why->text + ")";
+        return true;
+      }
+      if (value && unit && coded && n.members.size() == 3) {
+        inline_text(*value, out);
+        out += " " + unit->text + " (coded ";
+        inline_text(*coded, out);
+        out += ")";
+        return true;
+      }
+      if (name && coded && n.members.size() == 2) {
+        out += name->text + " (coded ";
+        inline_text(*coded, out);
+        out += ")";
+        return true;
+      }
+      for (const auto& m : n.members)
+        if (m.second.kind == SummaryNode::List) return false;
+      if (n.members.size() > 12) return false;
+      for (size_t i = 0; i < n.members.size(); i++) {
+        const SummaryNode& v = n.members[i].second;
+        if (v.kind == SummaryNode::Object && !v.find("missing") && !v.find("unit") && !v.find("name")) return false;
+        if (i) out += ", ";
+        out += n.members[i].first + " ";
+        if (!inline_text(v, out)) return false;
+      }
+      return true;
+    }
+    case SummaryNode::List: {
+      if (n.items.empty()) {
+        out += "none";
+        return true;
+      }
+      for (const auto& item : n.items)
+        if (item.kind == SummaryNode::Object || item.kind == SummaryNode::List) return false;
+      for (size_t i = 0; i < n.items.size(); i++) {
+        if (i) out += " ";
+        inline_text(n.items[i], out);
+      }
+      return true;
+    }
+  }
+  return false;
+}
+
+void text_node(std::string& out, const std::string& key, const SummaryNode& n, int depth) {
+  const std::string indent(static_cast<size_t>(depth) * 2, ' ');
+  std::string line;
+  if (inline_text(n, line)) {
+    out += indent + key + (key.empty() ? "" : ": ") + line + "\n";
+    return;
+  }
+  out += indent + key + (key.empty() ? "" : ":") + "\n";
+  if (n.kind == SummaryNode::List) {
+    for (const auto& item : n.items) text_node(out, "-", item, depth + 1);
+  } else {
+    for (const auto& m : n.members) text_node(out, m.first, m.second, depth + 1);
+  }
+}
+
+}  // namespace
+
+/* ---- Sections --------------------------------------------------------------------------- */
+
+SummaryNode summary_identity(const CellRecords& cell) {
+  const umts_sib_set& r = cell.records();
+  SummaryNode n = SummaryNode::object();
+  /* PLMN: the MIB's PLMN-Type. */
+  if (!cell.has(umts_sib_mib)) {
+    n.add("plmn", missing(block_missing(umts_sib_mib)));
+  } else {
+    const umts_plmn_type& t = r.mib.plmn_Type;
+    if (t.choice_tag == 1) n.add("plmn", plmn_text(t.u.gsm_MAP));
+    else if (t.choice_tag == 3) n.add("plmn", plmn_text(t.u.gsm_MAP_and_ANSI_41.plmn_Identity));
+    else n.add("plmn", missing("the MIB carries no GSM-MAP PLMN identity"));
+  }
+  /* LAC: the first two octets of the common GSM-MAP NAS information; RAC: the first octet
+     of the PS domain's. */
+  if (!cell.has(umts_sib_sib1)) {
+    n.add("lac", missing(block_missing(umts_sib_sib1))).add("rac", missing(block_missing(umts_sib_sib1)));
+  } else {
+    const umts_nas_system_gsm_map_info& common = r.sib1.cn_CommonGSM_MAP_NAS_SysInfo;
+    if (common.count >= 2) n.add("lac", (static_cast<unsigned>(common.octets[0]) << 8) | common.octets[1]);
+    else n.add("lac", missing("SIB1's common NAS information is shorter than a LAC"));
+    SummaryNode rac = missing("SIB1 has no PS domain");
+    const umts_cn_domain_sysinfo_list& l = r.sib1.cn_DomainSysInfoList;
+    for (unsigned i = 0; i < l.count && i < 4; i++) {
+      const umts_cn_domain_sysinfo& d = l.entries[i];
+      if (d.cn_DomainIdentity == 1 && d.cn_Type.choice_tag == 1 && d.cn_Type.u.gsm_MAP.count >= 1)
+        rac = SummaryNode(static_cast<unsigned>(d.cn_Type.u.gsm_MAP.octets[0]));
+    }
+    n.add("rac", rac);
+  }
+  /* Cell identity: 28 bits, the top 12 the RNC-Id, the low 16 the C-Id. */
+  if (!cell.has(umts_sib_sib3)) {
+    n.add("cell_identity", missing(block_missing(umts_sib_sib3)));
+  } else {
+    const uint8_t* d = r.sib3.cellIdentity.data;
+    const uint32_t id = (static_cast<uint32_t>(d[0]) << 20) | (static_cast<uint32_t>(d[1]) << 12) |
+                        (static_cast<uint32_t>(d[2]) << 4) | (d[3] >> 4);
+    n.add("cell_identity", SummaryNode::object()
+                               .add("value", static_cast<unsigned long>(id))
+                               .add("rnc_id", static_cast<unsigned long>(id >> 16))
+                               .add("c_id", static_cast<unsigned long>(id & 0xFFFFu)));
+  }
+  if (!cell.has(umts_sib_sib2)) {
+    n.add("ura_identities", missing(block_missing(umts_sib_sib2)));
+  } else {
+    SummaryNode ura = SummaryNode::list();
+    const umts_ura_identity_list& l = r.sib2.ura_IdentityList;
+    for (unsigned i = 0; i < l.count && i < 8; i++)
+      ura.push((static_cast<unsigned>(l.entries[i].data[0]) << 8) | l.entries[i].data[1]);
+    n.add("ura_identities", ura);
+  }
+  /* Frequency band: SIB5's v4b0 extension, and its second indicator from v650. */
+  if (!cell.has(umts_sib_sib5)) {
+    n.add("frequency_band", missing(block_missing(umts_sib_sib5)));
+  } else {
+    const umts_sib5_info& s = r.sib5;
+    const umts_sib5_v4b0_nces& v4b0 = s.v4b0NonCriticalExtensions;
+    const bool has_v4b0 = (s.presence_bitmask & 4u) != 0;
+    if (has_v4b0 && (v4b0.presence_bitmask & 1u) && (v4b0.sysInfoType5_v4b0ext.presence_bitmask & 16u)) {
+      const uint32_t b = v4b0.sysInfoType5_v4b0ext.frequencyBandIndicator;
+      n.add("frequency_band", named(UMTS_RadioFrequencyBandFDD_ToString(b), b));
+    } else {
+      n.add("frequency_band", missing("SIB5 sends no frequency band indicator"));
+    }
+    /* The second indicator counts when the first says extension-indicator. */
+    const umts_sib5_v590_nces& v590 = v4b0.v590NonCriticalExtensions;
+    const umts_sib5_v650_nces& v650 = v590.v650NonCriticalExtensions;
+    const bool extended = has_v4b0 && (v4b0.presence_bitmask & 1u) &&
+                          (v4b0.sysInfoType5_v4b0ext.presence_bitmask & 16u) &&
+                          v4b0.sysInfoType5_v4b0ext.frequencyBandIndicator == UMTS_RadioFrequencyBandFDD_extension_indicator;
+    if (extended && (v4b0.presence_bitmask & 2u) && (v590.presence_bitmask & 2u) && (v650.presence_bitmask & 1u)) {
+      const uint32_t b2 = v650.sysInfoType5_v650ext.frequencyBandIndicator2;
+      n.add("frequency_band2", named(UMTS_RadioFrequencyBandFDD2_ToString(b2), b2));
+    }
+  }
+  return n;
+}
+
+SummaryNode summary_access(const CellRecords& cell) {
+  if (!cell.has(umts_sib_sib3)) return missing(block_missing(umts_sib_sib3));
+  const umts_cell_access_restriction& a = cell.records().sib3.cellAccessRestriction;
+  SummaryNode n = SummaryNode::object();
+  const bool barred = a.cellBarred.choice_tag == 1;
+  n.add("cell_barred", named(barred ? "barred" : "notBarred", a.cellBarred.choice_tag));
+  n.add("reserved_for_operator_use",
+        named(UMTS_ReservedIndicator_ToString(a.cellReservedForOperatorUse), a.cellReservedForOperatorUse));
+  n.add("reservation_extension",
+        named(UMTS_ReservedIndicator_ToString(a.cellReservationExtension), a.cellReservationExtension));
+  SummaryNode classes = SummaryNode::list();
+  if (a.presence_bitmask & 1u) {
+    for (unsigned i = 0; i < a.accessClassBarredList.count && i < 16; i++)
+      if (a.accessClassBarredList.entries[i] == UMTS_AccessClassBarred_barred) classes.push(i);
+  }
+  n.add("access_classes_barred", classes);
+  if (barred) {
+    const umts_cell_barred_barred& b = a.cellBarred.u.barred;
+    n.add("intra_freq_cell_reselection",
+          named(UMTS_AllowedIndicator_ToString(b.intraFreqCellReselectionInd), b.intraFreqCellReselectionInd));
+    n.add("t_barred", named(UMTS_T_Barred_ToString(b.t_Barred), b.t_Barred));
+  } else {
+    n.add("intra_freq_cell_reselection", missing("sent only when the cell is barred"));
+    n.add("t_barred", missing("sent only when the cell is barred"));
+  }
+  return n;
+}
+
+SummaryNode summary_selection(const CellRecords& cell) {
+  if (!cell.has(umts_sib_sib3)) return missing(block_missing(umts_sib_sib3));
+  const umts_sib3_info& s3 = cell.records().sib3;
+  const umts_cell_select_reselect_info_sib_3_4& s = s3.cellSelectReselectInfo;
+  SummaryNode n = SummaryNode::object();
+  const uint32_t q = s.cellSelectQualityMeasure.choice_tag;
+  n.add("quality_measure", named(q == 1 ? "cpich-Ec-N0" : q == 2 ? "cpich-RSCP" : "unknown", q));
+  if (s.modeSpecificInfo.choice_tag == 1) {
+    const umts_sib3_fdd_info& f = s.modeSpecificInfo.u.fdd;
+    n.add("q_qualmin", quantity(f.q_QualMin, "dB", f.q_QualMin));
+    n.add("q_rxlevmin", quantity(2 * f.q_RxlevMin + 1, "dBm", f.q_RxlevMin));
+    n.add("s_intrasearch", (f.presence_bitmask & 1u) ? quantity(2 * f.s_Intrasearch, "dB", f.s_Intrasearch)
+                                                     : missing("not sent"));
+    n.add("s_intersearch", (f.presence_bitmask & 2u) ? quantity(2 * f.s_Intersearch, "dB", f.s_Intersearch)
+                                                     : missing("not sent"));
+    SummaryNode rats = SummaryNode::list();
+    if (f.presence_bitmask & 8u) {
+      for (unsigned i = 0; i < f.rat_List.count && i < 15; i++) {
+        const umts_rat_info& r = f.rat_List.entries[i];
+        rats.push(SummaryNode::object()
+                      .add("rat", named(UMTS_RAT_Identifier_ToString(r.rat_Identifier), r.rat_Identifier))
+                      .add("s_search_rat", quantity(2 * r.s_SearchRAT, "dB", r.s_SearchRAT))
+                      .add("s_limit_search_rat", quantity(2 * r.s_Limit_SearchRAT, "dB", r.s_Limit_SearchRAT)));
+      }
+    }
+    n.add("s_search_rat", rats);
+  } else if (s.modeSpecificInfo.choice_tag == 2) {
+    const umts_sib3_tdd_info& t = s.modeSpecificInfo.u.tdd;
+    n.add("q_rxlevmin", quantity(2 * t.q_RxlevMin + 1, "dBm", t.q_RxlevMin));
+  }
+  /* Qrxlevmin's extension: DeltaQrxlevmin in steps of 2 dB. */
+  const umts_sib3_v4b0_nce& v4b0 = s3.v4b0NonCriticalExtensions;
+  const umts_sib3_v590ext& v590 = v4b0.v590NonCriticalExtension.sysInfoType3_v590ext;
+  if ((v4b0.presence_bitmask & 1u) && (v590.presence_bitmask & 1u) &&
+      (v590.cellSelectReselectInfo_v590ext.presence_bitmask & 1u)) {
+    const int d = v590.cellSelectReselectInfo_v590ext.deltaQrxlevmin;
+    n.add("delta_q_rxlevmin", quantity(2 * d, "dB", d));
+  }
+  n.add("q_hyst1_s", quantity(2 * s.q_Hyst_l_S, "dB", s.q_Hyst_l_S));
+  if (q == 1 && (s.cellSelectQualityMeasure.u.cpich_Ec_N0.presence_bitmask & 1u)) {
+    const int h2 = s.cellSelectQualityMeasure.u.cpich_Ec_N0.q_HYST_2_S;
+    n.add("q_hyst2_s", quantity(2 * h2, "dB", h2));
+  }
+  n.add("t_reselection", quantity(s.t_Reselection_S, "s", s.t_Reselection_S));
+  n.add("max_allowed_ul_tx_power", quantity(s.maxAllowedUL_TX_Power, "dBm", s.maxAllowedUL_TX_Power));
+  if (s.presence_bitmask & 2u) {
+    const umts_hcs_serving_cell_information& h = s.hcs_ServingCellInformation;
+    n.add("hcs", SummaryNode::object()
+                     .add("priority", static_cast<unsigned>(h.hcs_PRIO))
+                     .add("q_hcs_coded", static_cast<unsigned>(h.q_HCS)));
+  } else {
+    n.add("hcs", missing("no HCS serving cell information"));
+  }
+  return n;
+}
+
+SummaryNode summary_schedule(const CellRecords& cell) {
+  SummaryNode list = SummaryNode::list();
+  if (!cell.has(umts_sib_mib)) return missing(block_missing(umts_sib_mib));
+  const umts_mib_info& mib = cell.records().mib;
+  /* The MIB itself: every eighth frame, at SFN mod 8 = 0. */
+  SummaryNode m = SummaryNode::object();
+  m.add("sib", "masterInformationBlock").add("announced_by", "fixed").add("repetition_frames", 8)
+      .add("position_frame", 0).add("segment_count", 1).add("segment_frames", SummaryNode::list().push(0))
+      .add("value_tag", static_cast<unsigned>(mib.mib_ValueTag)).add("seen", true);
+  list.push(std::move(m));
+  const umts_sibsb_reference_list& l = mib.sibSb_ReferenceList;
+  for (unsigned i = 0; i < l.count && i < 32; i++) {
+    const uint32_t tag = l.entries[i].sibSb_Type.choice_tag;
+    list.push(schedule_entry(cell, alternative(kSibSbTypes, 32, tag), l.entries[i].scheduling, "mib",
+                             value_tag(tag, l.entries[i].sibSb_Type.u, false)));
+  }
+  if (cell.has(umts_sib_sb1)) schedule_of_sb(cell, cell.records().sb1, "sb1", list);
+  if (cell.has(umts_sib_sb2)) schedule_of_sb(cell, cell.records().sb2, "sb2", list);
+  return list;
+}
+
+SummaryNode summary_common_channels(const CellRecords& cell) {
+  if (!cell.has(umts_sib_sib5)) return missing(block_missing(umts_sib_sib5));
+  const umts_sib5_info& s = cell.records().sib5;
+  SummaryNode n = SummaryNode::object();
+  n.add("prach_count", static_cast<unsigned>(s.prach_SystemInformationList.count));
+  n.add("sccpch_count", static_cast<unsigned>(s.sCCPCH_SystemInformationList.count));
+  if (s.modeSpecificInfo.choice_tag == 1) {
+    const int aich = s.modeSpecificInfo.u.fdd.aich_PowerOffset;
+    n.add("aich_power_offset", quantity(aich, "dB", aich));
+  }
+  n.add("pich_power_offset", quantity(s.pich_PowerOffset, "dB", s.pich_PowerOffset));
+  /* The extension chain: HSDPA cell (v680), E-DCH cell (v690), HS-DSCH in CELL_FACH (v770),
+     common E-DCH (v890). */
+  bool hsdpa = false, edch = false, hs_dsch_fach = false, common_edch = false;
+  const umts_sib5_v4b0_nces& v4b0 = s.v4b0NonCriticalExtensions;
+  const umts_sib5_v590_nces& v590 = v4b0.v590NonCriticalExtensions;
+  const umts_sib5_v650_nces& v650 = v590.v650NonCriticalExtensions;
+  const umts_sib5_v680_nces& v680 = v650.v680NonCriticalExtensions;
+  const umts_sib5_v690_nces& v690 = v680.v690NonCriticalExtensions;
+  const umts_sib5_v770_nces& v770 = v690.v770NonCriticalExtensions;
+  const umts_sib5_v860_nces& v860 = v770.v860NonCriticalExtensions;
+  const umts_sib5_v890_nces& v890 = v860.v890NonCriticalExtensions;
+  if ((s.presence_bitmask & 4u) && (v4b0.presence_bitmask & 2u) && (v590.presence_bitmask & 2u) &&
+      (v650.presence_bitmask & 2u)) {
+    hsdpa = (v680.presence_bitmask & 1u) && (v680.sysInfoType5_v680ext.presence_bitmask & 1u);
+    if (v680.presence_bitmask & 2u) {
+      edch = (v690.sysInfoType5_v690ext.presence_bitmask & 1u) != 0;
+      if (v690.presence_bitmask & 1u) {
+        const umts_sib5_v770ext& e770 = v770.sysInfoType5_v770ext;
+        hs_dsch_fach = (e770.presence_bitmask & 1u) && e770.modeSpecificInfo.choice_tag == 1;
+        if ((v770.presence_bitmask & 1u) && (v860.presence_bitmask & 1u))
+          common_edch = (v890.sysInfoType5_v890ext.presence_bitmask & 2u) != 0;
+      }
+    }
+  }
+  n.add("hsdpa_cell", hsdpa).add("hs_dsch_in_cell_fach", hs_dsch_fach);
+  n.add("edch_cell", edch).add("common_edch", common_edch);
+  return n;
+}
+
+SummaryNode summary_neighbours(const CellRecords& cell) {
+  if (!cell.has(umts_sib_sib11)) return missing(block_missing(umts_sib_sib11));
+  const umts_measurement_control_sys_info& m = cell.records().sib11.measurementControlSysInfo;
+  SummaryNode intra = SummaryNode::list(), inter = SummaryNode::list(), gsm = SummaryNode::list();
+  SummaryNode n = SummaryNode::object();
+  const uint32_t hcs = m.use_of_HCS.choice_tag;
+  n.add("use_of_hcs", named(hcs == 1 ? "hcs-not-used" : hcs == 2 ? "hcs-used" : "unknown", hcs));
+  uint32_t quality = 0;
+  if (hcs == 1) {
+    const umts_hcs_not_used& h = m.use_of_HCS.u.hcs_not_used;
+    quality = h.cellSelectQualityMeasure.choice_tag;
+    if (quality == 1) utran_lists(h.cellSelectQualityMeasure.u.cpich_RSCP, intra, inter);
+    if (quality == 2) utran_lists(h.cellSelectQualityMeasure.u.cpich_Ec_N0, intra, inter);
+    if ((h.presence_bitmask & 1u) && (h.interRATMeasurementSysInfo.presence_bitmask & 1u))
+      gsm_list(h.interRATMeasurementSysInfo.interRATCellInfoList.newInterRATCellList, gsm);
+  } else if (hcs == 2) {
+    const umts_hcs_used& h = m.use_of_HCS.u.hcs_used;
+    quality = h.cellSelectQualityMeasure.choice_tag;
+    if (quality == 1) utran_lists(h.cellSelectQualityMeasure.u.cpich_RSCP, intra, inter);
+    if (quality == 2) utran_lists(h.cellSelectQualityMeasure.u.cpich_Ec_N0, intra, inter);
+    if ((h.presence_bitmask & 1u) && (h.interRATMeasurementSysInfo.presence_bitmask & 1u))
+      gsm_list(h.interRATMeasurementSysInfo.interRATCellInfoList.newInterRATCellList, gsm);
+  }
+  n.add("quality_measure", named(quality == 1 ? "cpich-RSCP" : quality == 2 ? "cpich-Ec-N0" : "unknown", quality));
+  n.add("intra_frequency", intra).add("inter_frequency", inter).add("gsm", gsm);
+  return n;
+}
+
+SummaryNode cell_summary(const CellRecords& cell) {
+  SummaryNode n = SummaryNode::object();
+  n.add("cell", cell.label());
+  SummaryNode blocks = SummaryNode::list();
+  for (uint32_t i = 0; i < umts_sib_count; i++)
+    if (cell.has(static_cast<umts_sib_id>(i))) blocks.push(umts_sib_name(static_cast<umts_sib_id>(i)));
+  n.add("blocks_received", blocks);
+  n.add("identity", summary_identity(cell));
+  n.add("access", summary_access(cell));
+  n.add("selection", summary_selection(cell));
+  n.add("schedule", summary_schedule(cell));
+  n.add("common_channels", summary_common_channels(cell));
+  n.add("neighbours", summary_neighbours(cell));
+  return n;
+}
+
+std::string summary_json(const SummaryNode& node) {
+  std::string out;
+  json_node(out, node);
+  return out;
+}
+
+std::string summary_text(const SummaryNode& cell) {
+  std::string out;
+  const SummaryNode* label = cell.find("cell");
+  out += "cell " + (label ? label->text : std::string()) + "\n";
+  for (const auto& m : cell.members)
+    if (m.first != "cell") text_node(out, m.first, m.second, 1);
+  return out;
+}

@@ -1,0 +1,113 @@
+/*
+ * The per-cell summary of sibdump: what a cell broadcasts, in names and units, built from
+ * the records that the library converted for it.
+ *
+ * A CellRecords keeps the last converted record of each block of one cell. A summary is a
+ * tree of SummaryNode (objects, lists, strings, numbers), written as JSON (one object per
+ * cell) or as indented text. A value with a unit is an object {"value", "unit", "coded"};
+ * what the cell did not let us see is {"missing": "<why>"}.
+ */
+#ifndef UMTS_TOOLS_SUMMARY_H
+#define UMTS_TOOLS_SUMMARY_H
+
+#include <stdint.h>
+
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "umts_sib_decoder.h"
+
+struct SummaryNode {
+  enum Kind { Null, Bool, Int, Real, Text, Object, List };
+  Kind kind = Null;
+  bool flag = false;
+  long long integer = 0;
+  double real = 0;
+  std::string text;
+  std::vector<std::pair<std::string, SummaryNode>> members; /* Object, in order */
+  std::vector<SummaryNode> items;                           /* List */
+
+  static SummaryNode object() { SummaryNode n; n.kind = Object; return n; }
+  static SummaryNode list() { SummaryNode n; n.kind = List; return n; }
+  SummaryNode() = default;
+  SummaryNode(bool b) : kind(Bool), flag(b) {}
+  SummaryNode(int v) : kind(Int), integer(v) {}
+  SummaryNode(unsigned v) : kind(Int), integer(v) {}
+  SummaryNode(long v) : kind(Int), integer(v) {}
+  SummaryNode(unsigned long v) : kind(Int), integer(static_cast<long long>(v)) {}
+  SummaryNode(long long v) : kind(Int), integer(v) {}
+  SummaryNode(double v) : kind(Real), real(v) {}
+  SummaryNode(const char* s) : kind(Text), text(s) {}
+  SummaryNode(std::string s) : kind(Text), text(std::move(s)) {}
+
+  /* Adds a member (objects) and returns *this. */
+  SummaryNode& add(const std::string& key, SummaryNode value) {
+    members.emplace_back(key, std::move(value));
+    return *this;
+  }
+  /* Adds an item (lists). */
+  SummaryNode& push(SummaryNode value) {
+    items.push_back(std::move(value));
+    return *this;
+  }
+  /* The member `key`, or null. */
+  const SummaryNode* find(const std::string& key) const;
+};
+
+/* The blocks of one cell, each as last converted. */
+class CellRecords {
+ public:
+  explicit CellRecords(std::string label);
+  ~CellRecords();
+  CellRecords(const CellRecords&) = delete;
+  CellRecords& operator=(const CellRecords&) = delete;
+
+  /* Copies every sub-record whose presence bit `set` carries. */
+  void take(const umts_sib_set* set);
+
+  const std::string& label() const { return label_; }
+  /* Bit n: block n (umts_sib_id) was converted at least once. */
+  uint32_t seen() const { return seen_; }
+  bool has(umts_sib_id id) const { return ((seen_ >> id) & 1u) != 0; }
+  const umts_sib_set& records() const { return *records_; }
+  unsigned long conversions(umts_sib_id id) const { return conversions_[id]; }
+
+ private:
+  std::string label_;
+  umts_sib_set* records_; /* zeroed, then each sub-record copied in */
+  uint32_t seen_ = 0;
+  unsigned long conversions_[umts_sib_count] = {};
+};
+
+/* The cells of one input, in the order they were first heard. */
+class CellCollection {
+ public:
+  /* The cell of `key` (created with `label` the first time). */
+  CellRecords& cell(const std::string& key, const std::string& label);
+  const std::vector<std::unique_ptr<CellRecords>>& cells() const { return cells_; }
+
+ private:
+  std::map<std::string, size_t> index_;
+  std::vector<std::unique_ptr<CellRecords>> cells_;
+};
+
+/* The summary of one cell. */
+SummaryNode cell_summary(const CellRecords& cell);
+
+/* Sections, each from the blocks it names. */
+SummaryNode summary_identity(const CellRecords& cell);
+SummaryNode summary_access(const CellRecords& cell);
+SummaryNode summary_selection(const CellRecords& cell);
+SummaryNode summary_schedule(const CellRecords& cell);
+SummaryNode summary_common_channels(const CellRecords& cell);
+SummaryNode summary_neighbours(const CellRecords& cell);
+
+/* One line of JSON, without a line end. */
+std::string summary_json(const SummaryNode& node);
+/* Indented text, one member per line. */
+std::string summary_text(const SummaryNode& cell);
+
+#endif /* UMTS_TOOLS_SUMMARY_H */
