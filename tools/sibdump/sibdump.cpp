@@ -424,7 +424,7 @@ void convert_sib16(Dumper& d, unsigned long line, uint8_t* bytes, size_t octets)
     bad_line(d, line, why);
     return;
   }
-  d.json.sib16(line, &record);
+  if (d.cells == nullptr) d.json.sib16(line, &record); /* a summary does not show SIB16 */
   d.counts.records++;
 }
 

@@ -1,0 +1,337 @@
+/*
+ * sibdump --summary: the sample cell against values worked out by hand from how the cell was
+ * built (mksamples) and the units of the standard, captures that miss blocks, several cells.
+ */
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <fstream>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "capture_writer.h"
+#include "gsmtap.h"
+#include "json_check.h"
+
+namespace {
+
+using capture::Bytes;
+
+const std::string kSibdump = SIBDUMP_PATH;
+const std::string kSamples = UMTS_SAMPLES_DIR;
+constexpr uint64_t kT0 = 1767225600ull * 1000000u;
+
+std::string temp_dir() {
+  static std::string dir;
+  if (dir.empty()) {
+    std::string pattern = ::testing::TempDir() + "sibdump_summary_XXXXXX";
+    std::vector<char> buf(pattern.begin(), pattern.end());
+    buf.push_back('\0');
+    if (mkdtemp(buf.data()) != nullptr) dir = buf.data();
+  }
+  return dir;
+}
+
+std::string read_file(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::stringstream s;
+  s << in.rdbuf();
+  return s.str();
+}
+
+std::vector<std::string> lines_of(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream in(text);
+  for (std::string l; std::getline(in, l);) lines.push_back(l);
+  return lines;
+}
+
+struct Outcome {
+  int status;
+  std::string out;
+  std::string err;
+};
+
+Outcome run_sibdump(const std::string& args) {
+  const std::string err_path = temp_dir() + "/stderr.txt";
+  const std::string cmd = "'" + kSibdump + "' " + args + " 2>'" + err_path + "'";
+  Outcome r{-1, "", ""};
+  FILE* p = popen(cmd.c_str(), "r");
+  if (p == nullptr) return r;
+  char buf[4096];
+  size_t n;
+  while ((n = std::fread(buf, 1, sizeof buf, p)) > 0) r.out.append(buf, n);
+  const int status = pclose(p);
+  r.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  r.err = read_file(err_path);
+  return r;
+}
+
+bool has(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
+
+Bytes hex_bytes(const std::string& hex) {
+  Bytes b;
+  for (size_t i = 0; i + 1 < hex.size(); i += 2) b.push_back(static_cast<uint8_t>(std::stoul(hex.substr(i, 2), nullptr, 16)));
+  return b;
+}
+
+const std::vector<Bytes>& sample_blocks() {
+  static std::vector<Bytes> blocks;
+  if (blocks.empty())
+    for (const std::string& l : lines_of(read_file(kSamples + "/fdd_cell.bch")))
+      if (!l.empty() && l[0] != '#') blocks.push_back(hex_bytes(l));
+  return blocks;
+}
+
+/* The summaries of a run, one JSON object per line, each checked for syntax. */
+std::vector<std::string> summaries(const Outcome& r) {
+  std::vector<std::string> out = lines_of(r.out);
+  for (const std::string& l : out) EXPECT_TRUE(json_check::valid(l)) << l;
+  return out;
+}
+
+/* A capture of the sample blocks on ARFCN `arfcn`, except the blocks `left_out` (0-based),
+   appended to `frames`. */
+void add_cycle(std::vector<capture::Frame>& frames, uint16_t arfcn, const std::set<size_t>& left_out, uint64_t t0) {
+  for (size_t k = 0; k < sample_blocks().size(); k++) {
+    if (left_out.count(k)) continue;
+    capture::GsmtapMessage m;
+    m.arfcn = arfcn;
+    m.message = sample_blocks()[k];
+    frames.push_back({t0 + 20000 * k, capture::udp_frame(gsmtap::Link::ethernet, capture::Route(),
+                                                         capture::gsmtap_datagram(m)), 0});
+  }
+}
+
+Outcome run_capture(const std::string& name, const std::vector<capture::Frame>& frames, const char* format) {
+  const std::string path = temp_dir() + "/" + name;
+  EXPECT_TRUE(capture::write_file(path, capture::pcap_file(gsmtap::Link::ethernet, frames)));
+  return run_sibdump(std::string("--summary=") + format + " '" + path + "'");
+}
+
+/* The block index (0-based) whose transport block completes each record of the sample:
+   sibdump's frame numbers of the whole capture, less one. */
+std::vector<std::pair<std::string, size_t>> completing_blocks() {
+  std::vector<capture::Frame> frames;
+  add_cycle(frames, 10700, {}, kT0);
+  const std::string path = temp_dir() + "/whole.pcap";
+  EXPECT_TRUE(capture::write_file(path, capture::pcap_file(gsmtap::Link::ethernet, frames)));
+  std::vector<std::pair<std::string, size_t>> out;
+  for (const std::string& l : lines_of(run_sibdump("'" + path + "'").out)) {
+    const size_t f = l.find("\"frame\":"), b = l.find("\"block\":\"");
+    if (f == std::string::npos || b == std::string::npos) continue;
+    out.emplace_back(l.substr(b + 9, l.find('"', b + 9) - b - 9), std::stoul(l.substr(f + 8)) - 1);
+  }
+  return out;
+}
+
+/* ---- The sample cell ---------------------------------------------------------------------- */
+
+/* Worked out from the cell as built: MCC 262, MNC 01, LAC 0x4E21, RAC 5 (first octet of the PS
+   domain's NAS information), cell identity 0x01A2B3C = 1715004 with RNC-Id 0x01A = 26 and C-Id
+   0x2B3C = 11068, URAs 0x0123 ... 0x0126. */
+const char kIdentity[] =
+    "\"identity\":{\"plmn\":\"262-01\",\"lac\":20001,\"rac\":5,"
+    "\"cell_identity\":{\"value\":1715004,\"rnc_id\":26,\"c_id\":11068},"
+    "\"ura_identities\":[291,292,293,294],\"frequency_band\":{\"name\":\"fdd2100\",\"coded\":0}}";
+
+/* Not barred (cellBarred alternative 2), no class barred (all sixteen notBarred). */
+const char kAccess[] =
+    "\"access\":{\"cell_barred\":{\"name\":\"notBarred\",\"coded\":2},"
+    "\"reserved_for_operator_use\":{\"name\":\"notReserved\",\"coded\":1},"
+    "\"reservation_extension\":{\"name\":\"notReserved\",\"coded\":1},\"access_classes_barred\":[],"
+    "\"intra_freq_cell_reselection\":{\"missing\":\"sent only when the cell is barred\"},"
+    "\"t_barred\":{\"missing\":\"sent only when the cell is barred\"}}";
+
+/* Qqualmin in dB as coded; Qrxlevmin = 2 x -58 + 1 = -115 dBm; Sintrasearch 2 x 6 = 12 dB,
+   Sintersearch 2 x 4 = 8 dB, SsearchRAT 2 x 2 = 4 dB; DeltaQrxlevmin 2 x -2 = -4 dB; Qhyst1s
+   2 x 2 = 4 dB; Treselection 1 s; maximum UL power 24 dBm. */
+const char kSelection[] =
+    "\"selection\":{\"quality_measure\":{\"name\":\"cpich-RSCP\",\"coded\":2},"
+    "\"q_qualmin\":{\"value\":-18,\"unit\":\"dB\",\"coded\":-18},"
+    "\"q_rxlevmin\":{\"value\":-115,\"unit\":\"dBm\",\"coded\":-58},"
+    "\"s_intrasearch\":{\"value\":12,\"unit\":\"dB\",\"coded\":6},"
+    "\"s_intersearch\":{\"value\":8,\"unit\":\"dB\",\"coded\":4},"
+    "\"s_search_rat\":[{\"rat\":{\"name\":\"gsm\",\"coded\":0},"
+    "\"s_search_rat\":{\"value\":4,\"unit\":\"dB\",\"coded\":2},"
+    "\"s_limit_search_rat\":{\"value\":0,\"unit\":\"dB\",\"coded\":0}}],"
+    "\"delta_q_rxlevmin\":{\"value\":-4,\"unit\":\"dB\",\"coded\":-2},"
+    "\"q_hyst1_s\":{\"value\":4,\"unit\":\"dB\",\"coded\":2},"
+    "\"t_reselection\":{\"value\":1,\"unit\":\"s\",\"coded\":1},"
+    "\"max_allowed_ul_tx_power\":{\"value\":24,\"unit\":\"dBm\",\"coded\":24},"
+    "\"hcs\":{\"missing\":\"no HCS serving cell information\"}}";
+
+/* The last SIB5 of the cycle (the second form): 2 PRACHs, 2 S-CCPCHs, AICH -6 dB, PICH
+   -5 dB, HSDPA and E-DCH cell indicators, nothing of v770 or v890. */
+const char kCommonChannels[] =
+    "\"common_channels\":{\"prach_count\":2,\"sccpch_count\":2,"
+    "\"aich_power_offset\":{\"value\":-6,\"unit\":\"dB\",\"coded\":-6},"
+    "\"pich_power_offset\":{\"value\":-5,\"unit\":\"dB\",\"coded\":-5},"
+    "\"hsdpa_cell\":true,\"hs_dsch_in_cell_fach\":false,\"edch_cell\":true,\"common_edch\":false}";
+
+/* One entry of the schedule as sibdump writes it. */
+std::string entry(const char* sib, const char* by, int rep, int pos, int segs, const char* frames, const char* tag,
+                  const char* seen) {
+  return std::string("{\"sib\":\"") + sib + "\",\"announced_by\":\"" + by + "\",\"repetition_frames\":" +
+         std::to_string(rep) + ",\"position_frame\":" + std::to_string(pos) + ",\"segment_count\":" +
+         std::to_string(segs) + ",\"segment_frames\":[" + frames + "],\"value_tag\":" + tag + ",\"seen\":" + seen + "}";
+}
+
+/* SIB_POS is twice the coded position; further segments follow two frames later unless SB1
+   lists offsets (SIB11: so2, two frames). */
+std::string sample_schedule() {
+  return "\"schedule\":[" + entry("masterInformationBlock", "fixed", 8, 0, 1, "0", "3", "true") + "," +
+         entry("sysInfoTypeSB1", "mib", 64, 2, 1, "2", "2", "true") + "," +
+         entry("sysInfoType1", "mib", 32, 4, 1, "4", "17", "true") + "," +
+         entry("sysInfoType2", "mib", 128, 10, 1, "10", "2", "true") + "," +
+         entry("sysInfoType3", "mib", 16, 6, 1, "6", "2", "true") + "," +
+         entry("sysInfoType5", "mib", 32, 12, 3, "12,14,16", "2", "true") + "," +
+         entry("sysInfoType7", "mib", 16, 14, 1, "14", "null", "true") + "," +
+         entry("sysInfoType11", "mib", 128, 18, 3, "18,20,22", "2", "true") + "," +
+         entry("sysInfoType12", "mib", 128, 42, 1, "42", "2", "true") + "," +
+         entry("sysInfoType18", "mib", 256, 50, 1, "50", "2", "true") + "," +
+         entry("sysInfoType2", "sb1", 128, 10, 1, "10", "2", "true") + "," +
+         entry("sysInfoType7", "sb1", 16, 14, 1, "14", "null", "true") + "," +
+         entry("sysInfoType11", "sb1", 128, 18, 3, "18,20,22", "2", "true") + "," +
+         entry("sysInfoType12", "sb1", 128, 42, 1, "42", "2", "true") + "," +
+         entry("sysInfoType18", "sb1", 256, 50, 1, "50", "2", "true") + "," +
+         entry("systemInfoType19", "sb1", 128, 26, 1, "26", "2", "null") + "]";
+}
+
+TEST(Summary, SampleCellFromBlocksAndCapture) {
+  const struct {
+    const char* args;
+    const char* label;
+  } inputs[] = {
+      {"fdd_cell.bch", nullptr},
+      {"fdd_cell.pcap", "source 127.0.0.1, ARFCN 10700"},
+  };
+  for (const auto& in : inputs) {
+    const std::string path = kSamples + "/" + in.args;
+    const Outcome r = run_sibdump("--summary=json '" + path + "'");
+    EXPECT_EQ(r.status, 0) << r.err;
+    const std::vector<std::string> cells = summaries(r);
+    ASSERT_EQ(cells.size(), 1u) << r.out;
+    const std::string& s = cells[0];
+    EXPECT_TRUE(has(s, "\"blocks_received\":[\"mib\",\"sib1\",\"sib2\",\"sib3\",\"sib5\",\"sib7\",\"sib11\",\"sib12\","
+                       "\"sib18\",\"sb1\"]")) << s;
+    for (const std::string part : {std::string(kIdentity), std::string(kAccess), std::string(kSelection),
+                                   sample_schedule(), std::string(kCommonChannels)})
+      EXPECT_TRUE(has(s, part)) << in.args << "\nexpected: " << part << "\nin: " << s;
+    /* Neighbours: PSC 140 with Qoffset2 -2 dB; GSM ARFCN 62 on DCS 1800, BSIC 3-1. */
+    EXPECT_TRUE(has(s, "{\"cell_id\":3,\"primary_scrambling_code\":140,"
+                       "\"cell_individual_offset\":{\"value\":0,\"unit\":\"dB\",\"coded\":0},"
+                       "\"q_offset1_s_n\":{\"value\":0,\"unit\":\"dB\",\"coded\":0},"
+                       "\"q_offset2_s_n\":{\"value\":-2,\"unit\":\"dB\",\"coded\":-2}}")) << s;
+    EXPECT_TRUE(has(s, "{\"cell_id\":0,\"bcch_arfcn\":62,\"band\":{\"name\":\"dcs1800BandUsed\",\"coded\":0},"
+                       "\"bsic\":\"3-1\"")) << s;
+    size_t intra = 0;
+    for (size_t at = s.find("\"primary_scrambling_code\":"); at != std::string::npos;
+         at = s.find("\"primary_scrambling_code\":", at + 1))
+      intra++;
+    EXPECT_EQ(intra, 12u);
+    /* A file of blocks is one cell, named by the file; a capture's cells by sender and ARFCN. */
+    EXPECT_EQ(s.rfind("{\"cell\":\"" + std::string(in.label != nullptr ? in.label : path) + "\",", 0), 0u) << s;
+  }
+
+  /* The text says the same in lines. */
+  const Outcome t = run_sibdump("--summary '" + kSamples + "/fdd_cell.bch'");
+  EXPECT_EQ(t.status, 0);
+  for (const char* line : {"cell " /* first line */, "    plmn: 262-01\n",
+                           "    cell_identity: value 1715004, rnc_id 26, c_id 11068\n",
+                           "    q_rxlevmin: -115 dBm (coded -58)\n", "    t_reselection: 1 s (coded 1)\n",
+                           "    cell_barred: notBarred (coded 2)\n", "      segment_frames: 12 14 16\n",
+                           "bsic 5-2"})
+    EXPECT_TRUE(has(t.out, line)) << line << "\n" << t.out;
+}
+
+/* Every SIB of the sibs file, of which the last forms count: SIB11 with HCS in use, the HSPA
+   SIB5. */
+TEST(Summary, LastFormOfEachBlockCounts) {
+  const Outcome r = run_sibdump("--sibs --summary=json '" + kSamples + "/fdd_cell_sibs.txt'");
+  const std::vector<std::string> cells = summaries(r);
+  ASSERT_EQ(cells.size(), 1u);
+  const std::string& s = cells[0];
+  EXPECT_TRUE(has(s, "\"use_of_hcs\":{\"name\":\"hcs-used\",\"coded\":2}")) << s;
+  EXPECT_TRUE(has(s, "\"primary_scrambling_code\":124,"
+                     "\"cell_individual_offset\":{\"value\":0,\"unit\":\"dB\",\"coded\":0},"
+                     "\"q_offset1_s_n\":{\"value\":0,\"unit\":\"dB\",\"coded\":0},"
+                     "\"q_offset2_s_n\":{\"value\":0,\"unit\":\"dB\",\"coded\":0},\"hcs_priority\":5,\"q_hcs_coded\":30}"))
+      << s;
+  EXPECT_TRUE(has(s, "\"hsdpa_cell\":true,\"hs_dsch_in_cell_fach\":true,\"edch_cell\":true,\"common_edch\":true")) << s;
+  EXPECT_TRUE(has(s, "\"sib11bis\"")) << s;
+}
+
+/* ---- What is missing ---------------------------------------------------------------------- */
+
+TEST(Summary, CaptureWithoutMibAndWithHalfASib) {
+  /* Leave out the MIB's block and the block that completes the first SIB5: SIB5's first
+     segments arrive, the SIB never does. */
+  std::set<size_t> left_out;
+  size_t sib5_blocks = 0;
+  for (const auto& c : completing_blocks()) {
+    if (c.first == "mib") left_out.insert(c.second);
+    if (c.first == "sib5") {
+      left_out.insert(c.second);
+      sib5_blocks++;
+    }
+  }
+  ASSERT_EQ(sib5_blocks, 2u);
+  std::vector<capture::Frame> frames;
+  add_cycle(frames, 10700, left_out, kT0);
+  const Outcome r = run_capture("partial.pcap", frames, "json");
+  const std::vector<std::string> cells = summaries(r);
+  ASSERT_EQ(cells.size(), 1u) << r.out << r.err;
+  const std::string& s = cells[0];
+  for (const char* part :
+       {"\"plmn\":{\"missing\":\"no MIB received\"}", "\"schedule\":{\"missing\":\"no MIB received\"}",
+        "\"frequency_band\":{\"missing\":\"SIB5 not received\"}", "\"common_channels\":{\"missing\":\"SIB5 not received\"}",
+        "\"lac\":20001", "\"c_id\":11068"})
+    EXPECT_TRUE(has(s, part)) << part << "\n" << s;
+  EXPECT_FALSE(has(s, "\"mib\"")) << s;
+  EXPECT_FALSE(has(s, "\"sib5\"")) << s;
+
+  const Outcome t = run_capture("partial.pcap", frames, "text");
+  EXPECT_TRUE(has(t.out, "  schedule: (no MIB received)\n")) << t.out;
+  EXPECT_TRUE(has(t.out, "  common_channels: (SIB5 not received)\n")) << t.out;
+
+  /* Nothing converted at all: said so, not an empty output. */
+  const Outcome e = run_capture("none.pcap", {}, "json");
+  EXPECT_EQ(e.out, "{\"cell\":null,\"missing\":\"no block of any cell was converted\"}\n");
+}
+
+/* Two cells in one capture, told apart by their ARFCN, their blocks interleaved: each has its
+   own summary, in the order first heard, and what one lacks does not leak from the other. */
+TEST(Summary, TwoCellsInOneCapture) {
+  size_t sib3_block = 0;
+  for (const auto& c : completing_blocks())
+    if (c.first == "sib3") sib3_block = c.second;
+  std::vector<capture::Frame> a, b, frames;
+  add_cycle(a, 10700, {}, kT0);
+  add_cycle(b, 10713, {sib3_block}, kT0 + 10000);
+  for (size_t k = 0; k < a.size(); k++) {
+    frames.push_back(a[k]);
+    if (k < b.size()) frames.push_back(b[k]);
+  }
+  const Outcome r = run_capture("two_cells.pcap", frames, "json");
+  const std::vector<std::string> cells = summaries(r);
+  ASSERT_EQ(cells.size(), 2u) << r.out;
+  EXPECT_TRUE(has(cells[0], "\"cell\":\"source 127.0.0.1, ARFCN 10700\"")) << cells[0];
+  EXPECT_TRUE(has(cells[1], "\"cell\":\"source 127.0.0.1, ARFCN 10713\"")) << cells[1];
+  EXPECT_TRUE(has(cells[0], kIdentity));
+  EXPECT_TRUE(has(cells[1], "\"cell_identity\":{\"missing\":\"SIB3 not received\"}")) << cells[1];
+  EXPECT_TRUE(has(cells[1], "\"access\":{\"missing\":\"SIB3 not received\"}")) << cells[1];
+  EXPECT_TRUE(has(cells[1], entry("sysInfoType3", "mib", 16, 6, 1, "6", "2", "false"))) << cells[1];
+}
+
+TEST(Summary, UnknownFormatIsAUsageError) {
+  const Outcome r = run_sibdump("--summary=xml '" + kSamples + "/fdd_cell.bch'");
+  EXPECT_EQ(r.status, 2);
+  EXPECT_TRUE(has(r.err, "--summary takes")) << r.err;
+}
+
+}  // namespace
