@@ -36,11 +36,13 @@ import os
 import threading
 import weakref
 from pathlib import Path
-from typing import Dict, Iterable, Iterator, Optional, Tuple, Union
+from typing import Dict, Iterable, Iterator, Mapping, Optional, Tuple, Union
+
+from . import _summary
 
 __all__ = [
     "Decoder", "Library", "SibDecodeError", "LibraryNotFoundError", "load", "library_path",
-    "sib_names", "decode_sib", "decode_blocks", "set_asn1_text", "set_log_level",
+    "sib_names", "decode_sib", "decode_blocks", "set_asn1_text", "set_log_level", "summary",
     "LIBRARY_ENV", "MAX_BLOCK_OCTETS", "MAX_SIB_OCTETS",
 ]
 
@@ -344,6 +346,8 @@ class Decoder:
         self._json = ctypes.create_string_buffer(_JSON_START)
         #: What the last call of an entry returned (1 success, 0 failure).
         self.last_status: Optional[int] = None
+        #: The last record of each block that a call of this Decoder converted.
+        self.received: Dict[str, Record] = {}
 
     def feed_block(self, block, *, strict: bool = True) -> Dict[str, Record]:
         """Hands one BCH transport block to umts_sib_decoder; returns the blocks that this call
@@ -360,6 +364,7 @@ class Decoder:
             status = lib._dll.umts_sib_decoder(data, self._set_address, len(data))
             self.last_status = status
             records = self.records()
+            self.received.update(records)
         if status != 1 and strict:
             raise SibDecodeError(
                 f"umts_sib_decoder returned {status} for a transport block of {len(data)} octets "
@@ -380,6 +385,7 @@ class Decoder:
             status = lib._dll.umts_sib_msg_decoder(sib_id, octets, self._set_address, len(octets))
             self.last_status = status
             records = self.records()
+            self.received.update(records)
         if status != 1 or name not in records:
             raise SibDecodeError(
                 f"umts_sib_msg_decoder returned {status} for {name} ({len(octets)} octets): it "
@@ -387,6 +393,12 @@ class Decoder:
                 f"{', '.join(records) or 'none'})",
                 status=status, entry="umts_sib_msg_decoder", block=name, records=records)
         return records[name]
+
+    def summary(self, label: Optional[str] = None) -> Record:
+        """The summary of the cell whose blocks this Decoder converted (the last of each), as
+        sibdump --summary=json writes it: identity, access, selection, schedule, common
+        channels and neighbours, in names and units; `label` names the cell."""
+        return summary(self.received, label, library=self.library)
 
     def records(self) -> Dict[str, Record]:
         """The blocks that the last call converted (their bits in presence_bitmask)."""
@@ -407,6 +419,15 @@ class Decoder:
 
 
 _shared: Optional[Decoder] = None
+
+
+def summary(records: Mapping[str, Record], label: Optional[str] = None, *,
+            library: Optional[Union[PathLike, Library]] = None) -> Record:
+    """The summary of one cell from its records (block name -> record, the last of each), as
+    sibdump --summary=json writes it. Enumerated values are named by the codec's tables in
+    the library; what the records lack is {"missing": "<why>"}."""
+    lib = load(library)
+    return _summary.cell_summary(records, label, _summary.Names(lib._dll), list(lib.names))
 
 
 def decode_sib(sib: Union[str, int], data) -> Record:
