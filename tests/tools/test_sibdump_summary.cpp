@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <set>
 #include <sstream>
@@ -61,6 +62,21 @@ Outcome run_sibdump(const std::string& args) {
   const std::string cmd = "'" + kSibdump + "' " + args + " 2>'" + err_path + "'";
   Outcome r{-1, "", ""};
   FILE* p = popen(cmd.c_str(), "r");
+  if (p == nullptr) return r;
+  char buf[4096];
+  size_t n;
+  while ((n = std::fread(buf, 1, sizeof buf, p)) > 0) r.out.append(buf, n);
+  const int status = pclose(p);
+  r.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  r.err = read_file(err_path);
+  return r;
+}
+
+/* Any shell command, both streams captured. */
+Outcome run_shell(const std::string& command) {
+  const std::string err_path = temp_dir() + "/stderr_free.txt";
+  Outcome r{-1, "", ""};
+  FILE* p = popen((command + " 2>'" + err_path + "'").c_str(), "r");
   if (p == nullptr) return r;
   char buf[4096];
   size_t n;
@@ -326,6 +342,56 @@ TEST(Summary, TwoCellsInOneCapture) {
   EXPECT_TRUE(has(cells[1], "\"cell_identity\":{\"missing\":\"SIB3 not received\"}")) << cells[1];
   EXPECT_TRUE(has(cells[1], "\"access\":{\"missing\":\"SIB3 not received\"}")) << cells[1];
   EXPECT_TRUE(has(cells[1], entry("sysInfoType3", "mib", 16, 6, 1, "6", "2", "false"))) << cells[1];
+}
+
+/* ---- The page, in a real browser ---------------------------------------------------------- */
+
+/* The headless browser: UMTS_CHROMIUM, else chromium or chromium-browser on the path; empty
+   when there is none. */
+std::string chromium() {
+  const char* given = std::getenv("UMTS_CHROMIUM");
+  if (given != nullptr && *given != '\0') return given;
+  for (const char* name : {"chromium", "chromium-browser"}) {
+    const Outcome r = run_shell(std::string("command -v ") + name);
+    if (r.status == 0 && !r.out.empty()) return r.out.substr(0, r.out.find('\n'));
+  }
+  return "";
+}
+
+TEST(SummaryHtml, PageLoadsInHeadlessChromium) {
+  const std::string browser = chromium();
+  if (browser.empty()) GTEST_SKIP() << "no chromium (apt-get install chromium, or .ci/install-packages)";
+  const std::string page = temp_dir() + "/cell.html";
+  const Outcome made = run_sibdump("--summary=html '" + kSamples + "/fdd_cell.bch' >'" + page + "'");
+  ASSERT_EQ(made.status, 0) << made.err;
+  const std::string html = read_file(page);
+  /* Self-contained: nothing fetched from elsewhere. */
+  EXPECT_FALSE(has(html, "src=")) << "the page refers to another resource";
+  EXPECT_FALSE(has(html, "href=")) << "the page refers to another resource";
+
+  const std::string flags = " --headless --no-sandbox --disable-gpu --hide-scrollbars --user-data-dir='" + temp_dir() +
+                            "/profile' --enable-logging=stderr --v=0 ";
+  /* The DOM after loading: the script ran (one cell section), the tables hold the cell. */
+  const Outcome dom = run_shell("'" + browser + "'" + flags + "--dump-dom 'file://" + page + "'");
+  ASSERT_EQ(dom.status, 0) << dom.err;
+  EXPECT_TRUE(has(dom.out, "data-cells=\"1\"")) << dom.out.substr(0, 400);
+  for (const char* cell : {"<td>262-01</td>", "<td>20001</td>", "<td>value 1715004, rnc_id 26, c_id 11068</td>",
+                           "<td>-115 dBm (coded -58)</td>", "<td>notBarred (coded 2)</td>", "<td>12 14 16</td>",
+                           "<td>dcs1800BandUsed (coded 0)</td>", "<td>3-1</td>",
+                           "<title>sysInfoType5 segment 2 at SFN 14</title>"})
+    EXPECT_TRUE(has(dom.out, cell)) << cell;
+  EXPECT_FALSE(has(dom.err, "Uncaught")) << dom.err;
+  EXPECT_FALSE(has(dom.err, "Failed to load resource")) << dom.err;
+
+  /* A screenshot of the page: a PNG file. */
+  const std::string shot = temp_dir() + "/cell.png";
+  const Outcome s = run_shell("'" + browser + "'" + flags + "--window-size=1400,2400 --screenshot='" + shot +
+                                     "' 'file://" + page + "'");
+  ASSERT_EQ(s.status, 0) << s.err;
+  const std::string png = read_file(shot);
+  ASSERT_GT(png.size(), 1000u);
+  EXPECT_EQ(png.substr(0, 8), std::string("\x89PNG\r\n\x1a\n", 8));
+  RecordProperty("screenshot", shot);
 }
 
 TEST(Summary, UnknownFormatIsAUsageError) {

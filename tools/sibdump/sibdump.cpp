@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "sibdump_inputs.h"
 #include "summary.h"
@@ -60,8 +61,9 @@ const char kUsage[] =
     "                     (for --udp: once interrupted): identity, access, cell selection\n"
     "                     and reselection, the broadcast schedule, common channels and\n"
     "                     neighbours, in names and units beside the coded values, and\n"
-    "                     what was not received. FORMAT: text (default) or json (one\n"
-    "                     object per cell and line).\n"
+    "                     what was not received. FORMAT: text (default), json (one\n"
+    "                     object per cell and line) or html (one self-contained page with\n"
+    "                     the tables and a drawing of the schedule over the SFN cycle).\n"
     "  -h, --help         show this help\n"
     "\n"
     "Output: after each input line, one line per block converted by that call, e.g.\n"
@@ -97,7 +99,7 @@ struct Options {
   bool log_level_set = false;
   bool udp = false;
   const char* udp_address = nullptr; /* null: the default */
-  const char* summary = nullptr;     /* "text" or "json"; null: records */
+  const char* summary = nullptr;     /* "text", "json" or "html"; null: records */
 };
 
 struct Counts {
@@ -159,8 +161,9 @@ bool parse_args(int argc, char** argv, Options* opt) {
       else if (i + 1 < argc && argv[i + 1][0] != '-') opt->udp_address = argv[++i];
     } else if (std::strcmp(a, "--summary") == 0 || std::strncmp(a, "--summary=", 10) == 0) {
       opt->summary = a[9] == '=' ? a + 10 : "text";
-      if (std::strcmp(opt->summary, "text") != 0 && std::strcmp(opt->summary, "json") != 0) {
-        std::fprintf(stderr, "sibdump: --summary takes text or json, not '%s'\n", opt->summary);
+      if (std::strcmp(opt->summary, "text") != 0 && std::strcmp(opt->summary, "json") != 0 &&
+          std::strcmp(opt->summary, "html") != 0) {
+        std::fprintf(stderr, "sibdump: --summary takes text, json or html, not '%s'\n", opt->summary);
         return false;
       }
     } else if (take_value("--asn1-text")) {
@@ -383,6 +386,13 @@ std::string cell_label(const std::string& key) {
 
 /* The summaries of all cells, in the chosen format. */
 void write_summaries(FILE* out, const CellCollection& cells, const char* format) {
+  if (std::strcmp(format, "html") == 0) {
+    std::vector<SummaryNode> summaries;
+    for (const auto& cell : cells.cells()) summaries.push_back(cell_summary(*cell));
+    const std::string page = summary_html(summaries);
+    std::fwrite(page.data(), 1, page.size(), out);
+    return;
+  }
   const bool json = std::strcmp(format, "json") == 0;
   bool first = true;
   for (const auto& cell : cells.cells()) {

@@ -740,6 +740,13 @@ SummaryNode cell_summary(const CellRecords& cell) {
   return n;
 }
 
+bool summary_value_text(const SummaryNode& node, std::string* out) {
+  std::string text;
+  if (!inline_text(node, text)) return false;
+  *out = text;
+  return true;
+}
+
 std::string summary_json(const SummaryNode& node) {
   std::string out;
   json_node(out, node);

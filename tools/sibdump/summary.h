@@ -109,5 +109,11 @@ SummaryNode summary_neighbours(const CellRecords& cell);
 std::string summary_json(const SummaryNode& node);
 /* Indented text, one member per line. */
 std::string summary_text(const SummaryNode& cell);
+/* A value as one line of text ("-115 dBm (coded -58)", "(SIB3 not received)"), or false
+   for a value that takes several lines. */
+bool summary_value_text(const SummaryNode& node, std::string* out);
+/* One self-contained HTML page of the cells' summaries: their tables and a drawing of the
+   broadcast schedule across the 4096-frame SFN cycle. */
+std::string summary_html(const std::vector<SummaryNode>& cells);
 
 #endif /* UMTS_TOOLS_SUMMARY_H */
