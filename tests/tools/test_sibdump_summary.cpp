@@ -8,6 +8,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <fstream>
 #include <set>
 #include <sstream>
@@ -17,6 +18,8 @@
 #include "capture_writer.h"
 #include "gsmtap.h"
 #include "json_check.h"
+#include "umts_rrc.h"
+#include "umts_rrc_rt.h"
 
 namespace {
 
@@ -280,6 +283,66 @@ TEST(Summary, LastFormOfEachBlockCounts) {
       << s;
   EXPECT_TRUE(has(s, "\"hsdpa_cell\":true,\"hs_dsch_in_cell_fach\":true,\"edch_cell\":true,\"common_edch\":true")) << s;
   EXPECT_TRUE(has(s, "\"sib11bis\"")) << s;
+}
+
+/* The sample's SIB3 made barred through the codec: decoded, changed, encoded again. Access
+   class 10 barred, intra-frequency reselection not allowed, Tbarred 80 s. */
+std::string barred_sib3_hex() {
+  std::string hex;
+  for (const std::string& l : lines_of(read_file(kSamples + "/fdd_cell_sibs.txt")))
+    if (l.rfind("sib3 ", 0) == 0) hex = l.substr(5);
+  Bytes bytes = hex_bytes(hex);
+  rtxContext dec, enc;
+  SysInfoType3 sib3;
+  std::memset(&sib3, 0, sizeof sib3);
+  std::string out;
+  if (rtInitContext(&dec) != 0) return out;
+  if (pu_setBuffer(&dec, bytes.data(), static_cast<uint32_t>(bytes.size()), 0) == 0 &&
+      asn1PD_UMTS_SysInfoType3(&dec, &sib3) == 0 && rtInitContext(&enc) == 0) {
+    CellBarred_barred barred{UMTS_AllowedIndicator_notAllowed, UMTS_T_Barred_s80};
+    sib3.cellAccessRestriction.cellBarred.t = 1;
+    sib3.cellAccessRestriction.cellBarred.u.barred = &barred;
+    sib3.cellAccessRestriction.accessClassBarredList.elem[10] = UMTS_AccessClassBarred_barred;
+    if (rtxInitContextBuffer(&enc, nullptr, 0) == 0 && asn1PE_UMTS_SysInfoType3(&enc, &sib3) == 0) {
+      const uint8_t* p = rtxEncGetBuffer(&enc);
+      char digits[3];
+      for (size_t i = 0; i < pu_getMsgLen(&enc); i++) {
+        std::snprintf(digits, sizeof digits, "%02x", p[i]);
+        out += digits;
+      }
+    }
+    rtFreeContext(&enc);
+  }
+  rtFreeContext(&dec);
+  return out;
+}
+
+/* A barred cell that sends no SB1: the barring in names, SB1 announced by the MIB but not
+   seen, and nothing of what only SB1 schedules (SIB19). */
+TEST(Summary, BarredCellWithoutSb1) {
+  const std::string sib3 = barred_sib3_hex();
+  ASSERT_FALSE(sib3.empty());
+  std::string sibs;
+  for (const std::string& l : lines_of(read_file(kSamples + "/fdd_cell_sibs.txt")))
+    if (l.rfind("mib ", 0) == 0) sibs += l + "\n";
+  sibs += "sib3 " + sib3 + "\n";
+  const std::string path = temp_dir() + "/barred.txt";
+  std::ofstream(path) << sibs;
+  const Outcome r = run_sibdump("--sibs --summary=json '" + path + "'");
+  EXPECT_EQ(r.status, 0) << r.err;
+  const std::vector<std::string> cells = summaries(r);
+  ASSERT_EQ(cells.size(), 1u);
+  const std::string& s = cells[0];
+  EXPECT_TRUE(has(s, "\"access\":{\"cell_barred\":{\"name\":\"barred\",\"coded\":1},"
+                     "\"reserved_for_operator_use\":{\"name\":\"notReserved\",\"coded\":1},"
+                     "\"reservation_extension\":{\"name\":\"notReserved\",\"coded\":1},"
+                     "\"access_classes_barred\":[10],"
+                     "\"intra_freq_cell_reselection\":{\"name\":\"notAllowed\",\"coded\":1},"
+                     "\"t_barred\":{\"name\":\"s80\",\"coded\":3}}")) << s;
+  EXPECT_TRUE(has(s, entry("sysInfoTypeSB1", "mib", 64, 2, 1, "2", "2", "false"))) << s;
+  EXPECT_FALSE(has(s, "\"announced_by\":\"sb1\"")) << s;
+  EXPECT_FALSE(has(s, "systemInfoType19")) << s;
+  EXPECT_TRUE(has(s, "\"blocks_received\":[\"mib\",\"sib3\"]")) << s;
 }
 
 /* ---- What is missing ---------------------------------------------------------------------- */
