@@ -1,8 +1,10 @@
 # What `cmake --install` puts in place under the prefix:
 #   lib/libsibdecoder_umts.so.<version>, .so.<major> (the SONAME) and .so
+#   lib/libsibdecoder_umts_summary.so...  the per-cell summary (sibdump --summary, Python)
 #   include/sibdecoder_umts/        the public headers (C-compatible), the codec's umts_rrc.h among them
 #   bin/sibdump
 #   lib/cmake/sibdecoder_umts/      find_package(sibdecoder_umts) -> sibdecoder_umts::sibdecoder_umts
+#                                   and sibdecoder_umts::sibdecoder_umts_summary
 #   lib/pkgconfig/sibdecoder_umts.pc
 # Every path is relative to the prefix, so that an install moved elsewhere (or made with
 # `cmake --install <build> --prefix <dir>`) still finds its own files.
@@ -11,7 +13,7 @@ include(CMakePackageConfigHelpers)
 set(UMTS_INSTALL_HEADER_DIR ${CMAKE_INSTALL_INCLUDEDIR}/sibdecoder_umts)
 set(UMTS_INSTALL_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/sibdecoder_umts)
 
-install(TARGETS sibdecoder_umts EXPORT sibdecoder_umts_targets
+install(TARGETS sibdecoder_umts sibdecoder_umts_summary EXPORT sibdecoder_umts_targets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})

@@ -36,13 +36,11 @@ import os
 import threading
 import weakref
 from pathlib import Path
-from typing import Dict, Iterable, Iterator, Mapping, Optional, Tuple, Union
-
-from . import _summary
+from typing import Dict, Iterable, Iterator, List, Optional, Tuple, Union
 
 __all__ = [
     "Decoder", "Library", "SibDecodeError", "LibraryNotFoundError", "load", "library_path",
-    "sib_names", "decode_sib", "decode_blocks", "set_asn1_text", "set_log_level", "summary",
+    "sib_names", "decode_sib", "decode_blocks", "set_asn1_text", "set_log_level",
     "LIBRARY_ENV", "MAX_BLOCK_OCTETS", "MAX_SIB_OCTETS",
 ]
 
@@ -54,6 +52,8 @@ MAX_BLOCK_OCTETS = 64
 MAX_SIB_OCTETS = 2048
 
 _FILE_NAME = "libsibdecoder_umts.so"
+#: The summary library, found beside the decoder library.
+_SUMMARY_FILE_NAME = "libsibdecoder_umts_summary.so"
 _JSON_START = 1 << 16
 
 PathLike = Union[str, "os.PathLike[str]"]
@@ -162,10 +162,37 @@ class Library:
         self.lock = threading.RLock()
         self._libc = _libc()
         self._print_file: Optional[int] = None
+        self._summary_dll: Optional[ctypes.CDLL] = None
         self.set_asn1_text(os.devnull)
 
     def __repr__(self) -> str:
         return f"<sibdecoder_umts.Library {self.path}>"
+
+    def summary_dll(self) -> ctypes.CDLL:
+        """libsibdecoder_umts_summary, beside this library, typed for ctypes (loaded once)."""
+        if self._summary_dll is None:
+            here = Path(self.path).parent
+            candidates = [here / _SUMMARY_FILE_NAME] + sorted(here.glob(_SUMMARY_FILE_NAME + ".*"))
+            path = next((c for c in candidates if c.exists()), None)
+            if path is None:
+                raise LibraryNotFoundError(f"no {_SUMMARY_FILE_NAME} beside {self.path}")
+            try:
+                dll = ctypes.CDLL(os.fspath(path))
+            except OSError as err:
+                raise LibraryNotFoundError(f"cannot load {path}: {err}") from None
+            dll.umts_summary_new.restype = ctypes.c_void_p
+            dll.umts_summary_new.argtypes = []
+            dll.umts_summary_free.restype = None
+            dll.umts_summary_free.argtypes = [ctypes.c_void_p]
+            dll.umts_summary_take.restype = ctypes.c_int
+            dll.umts_summary_take.argtypes = [ctypes.c_void_p, ctypes.c_char_p, ctypes.c_char_p, ctypes.c_void_p,
+                                              ctypes.c_char_p, ctypes.c_size_t]
+            dll.umts_summary_text.restype = ctypes.c_void_p
+            dll.umts_summary_text.argtypes = [ctypes.c_void_p, ctypes.c_char_p]
+            dll.umts_summary_text_free.restype = None
+            dll.umts_summary_text_free.argtypes = [ctypes.c_void_p]
+            self._summary_dll = dll
+        return self._summary_dll
 
     def sib_id(self, sib: Union[str, int]) -> int:
         """The slot of a block given by its name ("sib3") or its number (umts_sib_id)."""
@@ -348,6 +375,18 @@ class Decoder:
         self.last_status: Optional[int] = None
         #: The last record of each block that a call of this Decoder converted.
         self.received: Dict[str, Record] = {}
+        # The summary's collection, fed by every call (the records it converted, and the
+        # transport blocks for SIB19, which the result record does not hold).
+        # Without the summary library beside the decoder library, everything but summary() works.
+        self._summary = None
+        try:
+            summaries = self.library.summary_dll()
+        except LibraryNotFoundError:
+            return
+        self._summary = summaries.umts_summary_new()
+        if not self._summary:
+            raise MemoryError("umts_summary_new: no memory")
+        weakref.finalize(self, summaries.umts_summary_free, self._summary)
 
     def feed_block(self, block, *, strict: bool = True) -> Dict[str, Record]:
         """Hands one BCH transport block to umts_sib_decoder; returns the blocks that this call
@@ -365,6 +404,8 @@ class Decoder:
             self.last_status = status
             records = self.records()
             self.received.update(records)
+            if self._summary:
+                lib.summary_dll().umts_summary_take(self._summary, b"", b"", self._set_address, data, len(data))
         if status != 1 and strict:
             raise SibDecodeError(
                 f"umts_sib_decoder returned {status} for a transport block of {len(data)} octets "
@@ -386,6 +427,8 @@ class Decoder:
             self.last_status = status
             records = self.records()
             self.received.update(records)
+            if self._summary:
+                lib.summary_dll().umts_summary_take(self._summary, b"", b"", self._set_address, None, 0)
         if status != 1 or name not in records:
             raise SibDecodeError(
                 f"umts_sib_msg_decoder returned {status} for {name} ({len(octets)} octets): it "
@@ -395,10 +438,29 @@ class Decoder:
         return records[name]
 
     def summary(self, label: Optional[str] = None) -> Record:
-        """The summary of the cell whose blocks this Decoder converted (the last of each), as
-        sibdump --summary=json writes it: identity, access, selection, schedule, common
-        channels and neighbours, in names and units; `label` names the cell."""
-        return summary(self.received, label, library=self.library)
+        """The summary of the cell whose blocks this Decoder converted (the last of each, and
+        SIB19 from the transport blocks), as sibdump --summary=json writes it: identity,
+        access, selection, schedule, common channels, neighbours and priorities, in names and
+        units; `label` names the cell. After a new MIB value tag, the cell's new configuration
+        (summaries() has the ended ones too)."""
+        return self.summaries(label)[-1]
+
+    def summaries(self, label: Optional[str] = None) -> List[Record]:
+        """Every summary of the cell: each configuration that a new MIB value tag ended (with
+        "ended_by"), then the cell as it stands."""
+        dll = self.library.summary_dll()  # raises LibraryNotFoundError without it
+        with self.library.lock:
+            text = dll.umts_summary_text(self._summary, b"json")
+            if not text:
+                raise MemoryError("umts_summary_text: no memory")
+            try:
+                lines = ctypes.string_at(text).decode("utf-8").splitlines()
+            finally:
+                dll.umts_summary_text_free(text)
+        out = [json.loads(line) for line in lines]
+        for s in out:
+            s["cell"] = label
+        return out
 
     def records(self) -> Dict[str, Record]:
         """The blocks that the last call converted (their bits in presence_bitmask)."""
@@ -419,15 +481,6 @@ class Decoder:
 
 
 _shared: Optional[Decoder] = None
-
-
-def summary(records: Mapping[str, Record], label: Optional[str] = None, *,
-            library: Optional[Union[PathLike, Library]] = None) -> Record:
-    """The summary of one cell from its records (block name -> record, the last of each), as
-    sibdump --summary=json writes it. Enumerated values are named by the codec's tables in
-    the library; what the records lack is {"missing": "<why>"}."""
-    lib = load(library)
-    return _summary.cell_summary(records, label, _summary.Names(lib._dll), list(lib.names))
 
 
 def decode_sib(sib: Union[str, int], data) -> Record:

@@ -156,3 +156,11 @@ def test_library_found_after_installation(tmp_path):
         shutil.copy(sd.library_path(), libdir / "libsibdecoder_umts.so")
     library, module = where_found(package.parent, tmp_path)
     assert library.parent == libdir and module.parent == package
+    # The summary library is installed beside it and found there: the MIB's value tag.
+    env = {k: v for k, v in os.environ.items() if k not in (sd.LIBRARY_ENV, "PYTHONPATH")}
+    env["PYTHONPATH"] = str(package.parent)
+    script = ("import sibdecoder_umts as sd; d = sd.Decoder(); d.feed_block(bytes.fromhex(input())); "
+              "print(d.summary()['schedule'][0]['value_tag'])")
+    out = subprocess.run([sys.executable, "-s", "-c", script], input=next(sample_lines("fdd_cell.bch"))[1], env=env,
+                         cwd=tmp_path, check=True, capture_output=True, text=True).stdout
+    assert out == "3\n"

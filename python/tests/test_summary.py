@@ -70,14 +70,32 @@ def test_sample_cell_values_worked_out_by_hand():
 
 
 def test_missing_blocks_are_said_missing():
-    received = dict(fed("fdd_cell.bch").received)
-    del received["mib"], received["sib5"]
-    s = sd.summary(received, "partial")
+    dec = sd.Decoder()
+    for text in lines_of("fdd_cell_sibs.txt"):
+        sib, hex_text = text.split()
+        if sib in ("sib1", "sib3"):
+            dec.decode_sib(sib, bytes.fromhex(hex_text))
+    s = dec.summary("partial")
+    assert s["cell"] == "partial"
     assert s["identity"]["plmn"] == {"missing": "no MIB received"}
     assert s["schedule"] == {"missing": "no MIB received"}
     assert s["common_channels"] == {"missing": "SIB5 not received"}
     assert s["identity"]["lac"] == 0x4E21
-    assert "mib" not in s["blocks_received"]
-    empty = sd.summary({})
-    assert all(empty[k] == {"missing": "SIB3 not received"} for k in ("access", "selection"))
-    assert empty["neighbours"] == {"missing": "SIB11 not received"}
+    assert s["blocks_received"] == ["sib1", "sib3"]
+    assert s["neighbours"] == {"missing": "SIB11 not received"}
+    empty = sd.Decoder().summary()
+    assert empty == {"cell": None, "missing": "no block of any cell was converted"}
+
+
+def test_new_mib_value_tag_keeps_the_ended_configuration():
+    """The sample cell, then its MIB with the value tag 4: the MIB starts with the presence
+    bit of its extensions and MIB-ValueTag (1..8) in 3 bits as value - 1, so the sample's
+    first octet 0x20 (tag 3) becomes 0x30."""
+    dec = fed("fdd_cell.bch")
+    mib = next(bytes.fromhex(t.split()[1]) for t in lines_of("fdd_cell_sibs.txt") if t.startswith("mib "))
+    assert mib[0] == 0x20 and dec.summary()["schedule"][0]["value_tag"] == 3
+    dec.decode_sib("mib", bytes([0x30]) + mib[1:])
+    ended, now = dec.summaries("cell")
+    assert ended["ended_by"] == "MIB value tag 3 changed to 4" and "sib5" in ended["blocks_received"]
+    assert now["blocks_received"] == ["mib"] and now["schedule"][0]["value_tag"] == 4
+    assert now["cell"] == ended["cell"] == "cell"

@@ -1,5 +1,6 @@
 // The GSMTAP entry: frames of a capture or datagrams of a live stream, as sibdump takes them,
-// through the link, IP and UDP layers, the GSMTAP header and the per-cell collection.
+// through the link, IP and UDP layers, the GSMTAP header and the per-cell collection, and the
+// per-cell summary of what was converted (SIB19 collected from the blocks) in its three forms.
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -10,12 +11,19 @@
 #include "fuzz_entries.h"
 #include "gsmtap.h"
 #include "umts_sib_json.h"
+#include "umts_sib_summary.h"
 
 namespace umts_fuzz {
 
 namespace {
 
 umts_sib_set* feedRecord() {
+  static umts_sib_set* const record = static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)));
+  return record;
+}
+
+/* A set that carries nothing: hands the summary a transport block without records again. */
+const umts_sib_set* noRecords() {
   static umts_sib_set* const record = static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)));
   return record;
 }
@@ -36,9 +44,12 @@ std::string run_gsmtap(const uint8_t* data, size_t size) {
   const gsmtap::Link link = kLinks[data[0] % (sizeof kLinks / sizeof kLinks[0])];
   std::string problem;
   std::vector<char> json(1 << 16);
+  if (noRecords() == nullptr) return "";
+  umts_summary* summary = umts_summary_new();
+  if (summary == nullptr) return "";
   // Every record that a datagram completes is written as sibdump writes it, so that the JSON
   // of whatever the conversions left in the record is made too.
-  RecordOutput output{[&](const std::string&) {
+  RecordOutput output{[&](const std::string& head) {
                         size_t lines = 0;
                         for (unsigned id = 0; id < umts_sib_count; id++) {
                           if ((set->presence_bitmask >> id & 1u) == 0) continue;
@@ -50,9 +61,13 @@ std::string run_gsmtap(const uint8_t* data, size_t size) {
                           if (n == 0 || json[0] != '{' || json[n - 1] != '}') problem = "record " + std::to_string(id) + ": not a JSON object";
                           lines++;
                         }
+                        if (umts_summary_take(summary, head.c_str(), "fuzz", set, nullptr, 0) < 0) problem = "summary refused the records";
                         return lines;
                       },
                       nullptr};
+  output.block = [&](const std::string& head, const uint8_t* block, size_t length) {
+    if (umts_summary_take(summary, head.c_str(), "fuzz", noRecords(), block, length) < 0) problem = "summary refused a block";
+  };
   {
     CellFeed feed(set, output, "fuzz", "frame", discard());
     size_t pos = 1;
@@ -85,6 +100,13 @@ std::string run_gsmtap(const uint8_t* data, size_t size) {
     }
     feed.summary(discard(), number);
   }  // the feed releases the segments of every cell
+  for (const char* format : {"json", "text", "html"}) {
+    char* text = umts_summary_text(summary, format);
+    if (text == nullptr || text[0] == '\0') problem = std::string("no ") + format + " summary";
+    else if (format[0] == 'j' && text[0] != '{') problem = "JSON summary not an object";
+    umts_summary_text_free(text);
+  }
+  umts_summary_free(summary);
   for (const umts_sib_slot& slot : g_umts_ctxt.slots)
     if (slot.buffer != nullptr && problem.empty()) problem = "a slot left in the global context";
   return problem;

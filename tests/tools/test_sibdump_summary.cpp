@@ -15,11 +15,13 @@
 #include <string>
 #include <vector>
 
+#include "bch_segmenter.h"
 #include "capture_writer.h"
 #include "gsmtap.h"
 #include "json_check.h"
 #include "umts_rrc.h"
 #include "umts_rrc_rt.h"
+#include "umts_sib_summary.h"
 
 namespace {
 
@@ -218,7 +220,7 @@ std::string sample_schedule() {
          entry("sysInfoType11", "sb1", 128, 18, 3, "18,20,22", "2", "true") + "," +
          entry("sysInfoType12", "sb1", 128, 42, 1, "42", "2", "true") + "," +
          entry("sysInfoType18", "sb1", 256, 50, 1, "50", "2", "true") + "," +
-         entry("systemInfoType19", "sb1", 128, 26, 1, "26", "2", "null") + "]";
+         entry("systemInfoType19", "sb1", 128, 26, 1, "26", "2", "false") + "]";
 }
 
 TEST(Summary, SampleCellFromBlocksAndCapture) {
@@ -238,7 +240,7 @@ TEST(Summary, SampleCellFromBlocksAndCapture) {
     const std::string& s = cells[0];
     EXPECT_TRUE(has(s, "\"blocks_received\":[\"mib\",\"sib1\",\"sib2\",\"sib3\",\"sib5\",\"sib7\",\"sib11\",\"sib12\","
                        "\"sib18\",\"sb1\"]")) << s;
-    for (const std::string part : {std::string(kIdentity), std::string(kAccess), std::string(kSelection),
+    for (const std::string& part : {std::string(kIdentity), std::string(kAccess), std::string(kSelection),
                                    sample_schedule(), std::string(kCommonChannels)})
       EXPECT_TRUE(has(s, part)) << in.args << "\nexpected: " << part << "\nin: " << s;
     /* Neighbours: PSC 140 with Qoffset2 -2 dB; GSM ARFCN 62 on DCS 1800, BSIC 3-1. */
@@ -342,6 +344,7 @@ TEST(Summary, BarredCellWithoutSb1) {
   EXPECT_TRUE(has(s, entry("sysInfoTypeSB1", "mib", 64, 2, 1, "2", "2", "false"))) << s;
   EXPECT_FALSE(has(s, "\"announced_by\":\"sb1\"")) << s;
   EXPECT_FALSE(has(s, "systemInfoType19")) << s;
+  EXPECT_TRUE(has(s, "\"priorities\":{\"missing\":\"no SIB19 announced\"}")) << s;
   EXPECT_TRUE(has(s, "\"blocks_received\":[\"mib\",\"sib3\"]")) << s;
 }
 
@@ -405,6 +408,203 @@ TEST(Summary, TwoCellsInOneCapture) {
   EXPECT_TRUE(has(cells[1], "\"cell_identity\":{\"missing\":\"SIB3 not received\"}")) << cells[1];
   EXPECT_TRUE(has(cells[1], "\"access\":{\"missing\":\"SIB3 not received\"}")) << cells[1];
   EXPECT_TRUE(has(cells[1], entry("sysInfoType3", "mib", 16, 6, 1, "6", "2", "false"))) << cells[1];
+}
+
+/* ---- SIB19 and a new configuration ------------------------------------------------------- */
+
+std::string hex_of(const uint8_t* p, size_t n) {
+  std::string out;
+  char digits[3];
+  for (size_t i = 0; i < n; i++) {
+    std::snprintf(digits, sizeof digits, "%02x", p[i]);
+    out += digits;
+  }
+  return out;
+}
+
+/* The transport blocks (as hex lines) that carry one SIB of SIB-Type `sib_type`, cut by the
+   project's segmenter from SFN' `sfn_prime` on. */
+std::vector<std::string> blocks_of(uint32_t sib_type, const uint8_t* data, uint32_t bits, uint16_t sfn_prime) {
+  const umts_bch_sib sib{sib_type, data, bits, 1};
+  umts_bch_block blocks[4];
+  uint32_t count = 0;
+  std::vector<std::string> out;
+  EXPECT_EQ(umts_bch_segment(&sib, 1, sfn_prime, blocks, 4, &count, nullptr), umts_bch_ok);
+  for (uint32_t i = 0; i < count; i++) out.push_back(hex_of(blocks[i].data, sizeof blocks[i].data));
+  return out;
+}
+
+/* Encodes with the codec's encoder; the bits into `bits`. */
+template <class T, class Encode>
+Bytes encode(Encode pe, T* value, uint32_t* bits) {
+  rtxContext enc;
+  Bytes out;
+  if (rtInitContext(&enc) != 0) return out;
+  if (rtxInitContextBuffer(&enc, nullptr, 0) == 0 && pe(&enc, value) == 0) {
+    *bits = static_cast<uint32_t>(rtxBitPos(&enc));
+    out.assign(rtxEncGetBuffer(&enc), rtxEncGetBuffer(&enc) + (*bits + 7) / 8);
+  }
+  rtFreeContext(&enc);
+  return out;
+}
+
+/* A SIB19 with `n` E-UTRA frequencies: EARFCN 6300 + 100 i, priority 5, Qrxlevmin coded
+   -64 + i, ThreshX,high 6 and ThreshX,low 3; the even ones with a bandwidth of 50 resource
+   blocks (mbw50, ordinal 3) and E-UTRA detection. The serving cell: priority 3,
+   Sprioritysearch1 coded 5, no Sprioritysearch2, Threshserving,low coded 2. */
+Bytes sib19(size_t n, uint32_t* bits) {
+  SysInfoType19 v;
+  std::memset(&v, 0, sizeof v);
+  v.utra_PriorityInfoList.utra_ServingCell.priority = 3;
+  v.utra_PriorityInfoList.utra_ServingCell.s_PrioritySearch1 = 5;
+  v.utra_PriorityInfoList.utra_ServingCell.threshServingLow = 2;
+  v.m = 2u; /* the E-UTRA list */
+  std::vector<EUTRA_FrequencyAndPriorityInfo> f(n);
+  std::vector<rtxDListNode> nodes(n);
+  rtxDListInit(&v.eutra_FrequencyAndPriorityInfoList);
+  for (size_t i = 0; i < n; i++) {
+    std::memset(&f[i], 0, sizeof f[i]);
+    f[i].earfcn = static_cast<uint16_t>(6300 + 100 * i);
+    if (i % 2 == 0) {
+      f[i].m = 1u;
+      f[i].measurementBandwidth = 3;
+      f[i].eutraDetection = 1;
+    }
+    f[i].priority = 5;
+    f[i].qRxLevMinEUTRA = static_cast<int8_t>(-64 + static_cast<int>(i));
+    f[i].threshXhigh = 6;
+    f[i].threshXlow = 3;
+    nodes[i].data = &f[i];
+    rtxDListAppendNode(&v.eutra_FrequencyAndPriorityInfoList, &nodes[i]);
+  }
+  return encode(asn1PE_UMTS_SysInfoType19, &v, bits);
+}
+
+/* A file of the sample cycle followed by `extra` blocks; sibdump's summary of it. */
+Outcome summary_of(const std::string& name, const std::vector<std::string>& extra, const char* format = "json") {
+  std::string text = read_file(kSamples + "/fdd_cell.bch");
+  for (const std::string& l : extra) text += l + "\n";
+  const std::string path = temp_dir() + "/" + name;
+  std::ofstream(path) << text;
+  return run_sibdump(std::string("--summary=") + format + " '" + path + "'");
+}
+
+/* SB1 schedules SIB19 at frame 26 of 128, further segments two frames apart. The SIB comes
+   as extensionType, whole or cut in two; its frequencies in units (Qrxlevmin 2 x coded dBm,
+   thresholds 2 x coded dB). Parts in frames where SIB19 is not scheduled, or a last segment
+   without its first, give no SIB19. */
+TEST(Summary, Sib19FromTheCodecPlacedByItsSchedule) {
+  const std::string first =
+      "{\"earfcn\":6300,\"measurement_bandwidth\":{\"name\":\"mbw50\",\"coded\":3},\"priority\":5,"
+      "\"q_rxlevmin_eutra\":{\"value\":-128,\"unit\":\"dBm\",\"coded\":-64},"
+      "\"thresh_x_high\":{\"value\":12,\"unit\":\"dB\",\"coded\":6},"
+      "\"thresh_x_low\":{\"value\":6,\"unit\":\"dB\",\"coded\":3},\"blacklisted_cells\":0,\"eutra_detection\":true}";
+  const std::string eighth =
+      "{\"earfcn\":7000,\"priority\":5,\"q_rxlevmin_eutra\":{\"value\":-114,\"unit\":\"dBm\",\"coded\":-57},";
+  const std::string serving =
+      "\"serving_cell\":{\"priority\":3,\"s_priority_search1\":{\"value\":10,\"unit\":\"dB\",\"coded\":5},"
+      "\"s_priority_search2\":{\"value\":0,\"unit\":\"dB\",\"coded\":0},"
+      "\"thresh_serving_low\":{\"value\":4,\"unit\":\"dB\",\"coded\":2}}";
+  uint32_t bits1 = 0, bits8 = 0;
+  const Bytes one = sib19(1, &bits1), eight = sib19(8, &bits8);
+  ASSERT_GT(bits1, 0u);
+  ASSERT_GT(bits8, 226u) << "eight frequencies are to need two segments";
+  const std::vector<std::string> whole = blocks_of(31, one.data(), bits1, 13);
+  const std::vector<std::string> cut = blocks_of(31, eight.data(), bits8, 13);
+  ASSERT_EQ(whole.size(), 1u);
+  ASSERT_EQ(cut.size(), 2u);
+
+  const struct {
+    const char* name;
+    std::vector<std::string> blocks;
+    std::vector<std::string> expected;
+  } cases[] = {
+      {"whole", whole, {serving, "\"eutra_frequencies\":[" + first + "]"}},
+      {"cut", cut, {serving, "\"eutra_frequencies\":[" + first, eighth}},
+      {"late", blocks_of(31, one.data(), bits1, 15), {"\"priorities\":{\"missing\":\"SIB19 not received\"}"}},
+      {"no_first", {cut[1]}, {"\"priorities\":{\"missing\":\"SIB19 not received\"}"}},
+  };
+  for (const auto& c : cases) {
+    const Outcome r = summary_of(std::string("sib19_") + c.name + ".bch", c.blocks);
+    EXPECT_EQ(r.status, 0) << r.err;
+    const std::vector<std::string> cells = summaries(r);
+    ASSERT_EQ(cells.size(), 1u) << c.name;
+    for (const std::string& part : c.expected) EXPECT_TRUE(has(cells[0], part)) << c.name << ": " << part << "\n" << cells[0];
+    const bool received = c.expected.size() > 1;
+    EXPECT_EQ(has(cells[0], "\"sib18\",\"sb1\",\"sib19\"]"), received) << c.name;
+    EXPECT_TRUE(has(cells[0], entry("systemInfoType19", "sb1", 128, 26, 1, "26", "2", received ? "true" : "false")))
+        << c.name;
+  }
+  const Outcome t = summary_of("sib19_text.bch", cut, "text");
+  EXPECT_TRUE(has(t.out, "earfcn 6300, measurement_bandwidth mbw50 (coded 3), priority 5, q_rxlevmin_eutra -128 dBm"))
+      << t.out;
+}
+
+/* A MIB with a new value tag ends the configuration so far: its summary is written with what
+   ended it, and the new one starts empty (here only the new MIB and the SIB3 that follows). */
+TEST(Summary, NewMibValueTagEndsTheConfiguration) {
+  std::string mib_hex;
+  for (const std::string& l : lines_of(read_file(kSamples + "/fdd_cell_sibs.txt")))
+    if (l.rfind("mib ", 0) == 0) mib_hex = l.substr(4);
+  Bytes old_mib = hex_bytes(mib_hex);
+  rtxContext dec;
+  ASSERT_EQ(rtInitContext(&dec), 0);
+  MasterInformationBlock mib;
+  std::memset(&mib, 0, sizeof mib);
+  ASSERT_EQ(pu_setBuffer(&dec, old_mib.data(), static_cast<uint32_t>(old_mib.size()), 0), 0);
+  ASSERT_EQ(asn1PD_UMTS_MasterInformationBlock(&dec, &mib), 0);
+  ASSERT_EQ(mib.mib_ValueTag, 3u);
+  mib.mib_ValueTag = 4;
+  uint32_t bits = 0;
+  const Bytes new_mib = encode(asn1PE_UMTS_MasterInformationBlock, &mib, &bits);
+  rtFreeContext(&dec);
+  ASSERT_FALSE(new_mib.empty());
+
+  std::vector<std::string> extra = blocks_of(0, new_mib.data(), bits, 0);
+  for (const auto& c : completing_blocks())
+    if (c.first == "sib3") extra.push_back(hex_of(sample_blocks()[c.second].data(), sample_blocks()[c.second].size()));
+  const Outcome r = summary_of("new_tag.bch", extra);
+  const std::vector<std::string> cells = summaries(r);
+  ASSERT_EQ(cells.size(), 2u) << r.out;
+  EXPECT_TRUE(has(cells[0], "\"ended_by\":\"MIB value tag 3 changed to 4\"")) << cells[0];
+  EXPECT_TRUE(has(cells[0], kIdentity)) << cells[0];
+  EXPECT_FALSE(has(cells[1], "ended_by")) << cells[1];
+  EXPECT_TRUE(has(cells[1], "\"blocks_received\":[\"mib\",\"sib3\"]")) << cells[1];
+  EXPECT_TRUE(has(cells[1], entry("masterInformationBlock", "fixed", 8, 0, 1, "0", "4", "true"))) << cells[1];
+  EXPECT_TRUE(has(cells[1], "\"lac\":{\"missing\":\"SIB1 not received\"}")) << cells[1];
+}
+
+/* ---- The library's C entry points --------------------------------------------------------- */
+
+/* The sample's blocks through umts_sib_decoder and umts_summary_take give sibdump's summary;
+   arguments that name nothing are refused. */
+TEST(SummaryLibrary, SameSummaryAsSibdump) {
+  const std::string path = kSamples + "/fdd_cell.bch";
+  umts_summary* s = umts_summary_new();
+  umts_sib_set* set = umts_sib_set_alloc();
+  ASSERT_NE(s, nullptr);
+  ASSERT_NE(set, nullptr);
+  for (const Bytes& b : sample_blocks()) {
+    set->presence_bitmask = 0;
+    umts_sib_decoder(b.data(), set, static_cast<uint32_t>(b.size()));
+    EXPECT_EQ(umts_summary_take(s, "", path.c_str(), set, b.data(), b.size()), 0);
+  }
+  char* json = umts_summary_text(s, "json");
+  ASSERT_NE(json, nullptr);
+  EXPECT_EQ(std::string(json), run_sibdump("--summary=json '" + path + "'").out);
+  umts_summary_text_free(json);
+  char* text = umts_summary_text(s, "text");
+  ASSERT_NE(text, nullptr);
+  EXPECT_EQ(std::string(text), run_sibdump("--summary '" + path + "'").out);
+  umts_summary_text_free(text);
+
+  EXPECT_EQ(umts_summary_text(s, "xml"), nullptr);
+  EXPECT_EQ(umts_summary_text(nullptr, "json"), nullptr);
+  EXPECT_EQ(umts_summary_take(s, nullptr, "", set, nullptr, 0), -1);
+  EXPECT_EQ(umts_summary_take(s, "", "", nullptr, nullptr, 0), -1);
+  umts_sib_set_free(set);
+  umts_summary_free(s);
+  umts_summary_free(nullptr);
 }
 
 /* ---- The page, in a real browser ---------------------------------------------------------- */

@@ -25,6 +25,8 @@
 struct RecordOutput {
   std::function<size_t(const std::string& head)> write;
   std::function<void()> flush;
+  /* Each transport block after its records, with the same head; may be empty. */
+  std::function<void(const std::string& head, const uint8_t* block, size_t length)> block = nullptr;
 };
 
 /* Counts of one cell. */

@@ -359,7 +359,8 @@ struct Dumper {
   const char* input_name;
   umts_sib_set* set;
   Counts counts;
-  CellCollection* cells = nullptr; /* --summary: the records are collected here */
+  CellCollection* cells = nullptr;   /* --summary: the records are collected here */
+  SummaryWriter* summaries = nullptr; /* and the summaries written here */
 };
 
 /* Bits set in the set's presence_bitmask: the blocks the last call converted. */
@@ -384,30 +385,12 @@ std::string cell_label(const std::string& key) {
   return "source " + key.substr(s + 2, e - s - 2) + ", ARFCN " + key.substr(a + 8);
 }
 
-/* The summaries of all cells, in the chosen format. */
-void write_summaries(FILE* out, const CellCollection& cells, const char* format) {
-  if (std::strcmp(format, "html") == 0) {
-    std::vector<SummaryNode> summaries;
-    for (const auto& cell : cells.cells()) summaries.push_back(cell_summary(*cell));
-    const std::string page = summary_html(summaries);
-    std::fwrite(page.data(), 1, page.size(), out);
-    return;
-  }
-  const bool json = std::strcmp(format, "json") == 0;
-  bool first = true;
-  for (const auto& cell : cells.cells()) {
-    const SummaryNode summary = cell_summary(*cell);
-    if (json) {
-      std::fprintf(out, "%s\n", summary_json(summary).c_str());
-    } else {
-      std::fprintf(out, "%s%s", first ? "" : "\n", summary_text(summary).c_str());
-    }
-    first = false;
-  }
-  if (cells.cells().empty()) {
-    if (json) std::fprintf(out, "{\"cell\":null,\"missing\":\"no block of any cell was converted\"}\n");
-    else std::fprintf(out, "no block of any cell was converted\n");
-  }
+/* The records of the last call join the cell's; a MIB with a new value tag first ends the
+   configuration collected so far, whose summary is written then. */
+void collect(Dumper& d, const std::string& key, const std::string& label) {
+  std::vector<SummaryNode> ended;
+  d.cells->take(key, label, d.set, &ended);
+  for (const SummaryNode& n : ended) d.summaries->write(n);
 }
 
 void bad_line(Dumper& d, unsigned long line, const char* why) {
@@ -441,7 +424,7 @@ void convert_sib16(Dumper& d, unsigned long line, uint8_t* bytes, size_t octets)
 /* One JSON line per sub-record whose presence bit the last call set. */
 void write_records(Dumper& d, unsigned long line) {
   if (d.cells != nullptr) {
-    if (d.set->presence_bitmask != 0) d.cells->cell("", d.input_name).take(d.set);
+    collect(d, "", d.input_name);
     d.counts.records += converted(d.set);
     return;
   }
@@ -458,7 +441,7 @@ void write_records(Dumper& d, unsigned long line) {
 size_t write_records(Dumper& d, const std::string& head) {
   if (d.cells != nullptr) {
     const std::string key = cell_key(head);
-    if (d.set->presence_bitmask != 0) d.cells->cell(key, cell_label(key)).take(d.set);
+    collect(d, key, cell_label(key));
     d.counts.records += converted(d.set);
     return converted(d.set);
   }
@@ -494,6 +477,7 @@ void process_line(Dumper& d, bool sibs, unsigned long line, char* text, size_t l
     d.set->presence_bitmask = 0;
     umts_sib_decoder(bytes, d.set, static_cast<uint32_t>(octets));
     write_records(d, line);
+    if (d.cells != nullptr && d.cells->has("")) d.cells->cell("", d.input_name).take_block(bytes, octets);
     return;
   }
 
@@ -629,9 +613,18 @@ int main(int argc, char** argv) {
   }
   Dumper d{lines, input_name, set, Counts()};
   CellCollection cells;
-  if (opt.summary != nullptr) d.cells = &cells;
+  SummaryWriter summaries(json, opt.summary != nullptr ? opt.summary : "text");
+  if (opt.summary != nullptr) {
+    d.cells = &cells;
+    d.summaries = &summaries;
+  }
   if (opt.udp || capture) {
     RecordOutput output{[&d](const std::string& head) { return write_records(d, head); }, nullptr};
+    if (d.cells != nullptr)
+      output.block = [&d](const std::string& head, const uint8_t* block, size_t length) {
+        const std::string key = cell_key(head);
+        if (d.cells->has(key)) d.cells->cell(key, cell_label(key)).take_block(block, length);
+      };
     /* Live records reach the stream as each datagram is decoded. */
     if (opt.udp) output.flush = [&lines, json] {
       lines.write_out();
@@ -640,7 +633,7 @@ int main(int argc, char** argv) {
     /* run_capture closes `in`. */
     int status = opt.udp ? run_udp(opt.udp_address, set, output) : run_capture(in, input_name, set, output);
     lines.write_out();
-    if (opt.summary != nullptr) write_summaries(json, cells, opt.summary);
+    if (opt.summary != nullptr) summaries.finish(cells);
     umts_sib_print_flush();
     std::fflush(stdout);
     if (std::fclose(json) != 0) {
@@ -663,7 +656,7 @@ int main(int argc, char** argv) {
   std::fclose(in);
 
   lines.write_out();
-  if (opt.summary != nullptr) write_summaries(json, cells, opt.summary);
+  if (opt.summary != nullptr) summaries.finish(cells);
   umts_sib_print_flush();
   std::fflush(stdout);
   const bool write_error = std::fclose(json) != 0;

@@ -200,6 +200,8 @@ std::string cell_html(const SummaryNode& cell, size_t index) {
   std::string received;
   if (blocks != nullptr) summary_value_text(*blocks, &received);
   out += "<p>Blocks received: " + escape(received) + "</p>";
+  const SummaryNode* ended = cell.find("ended_by");
+  if (ended != nullptr && ended->kind == SummaryNode::Text) out += "<p>Configuration ended: " + escape(ended->text) + "</p>";
   out += section_html("Identity", cell.find("identity"));
   out += section_html("Access", cell.find("access"));
   out += section_html("Cell selection and reselection", cell.find("selection"));
@@ -207,6 +209,7 @@ std::string cell_html(const SummaryNode& cell, size_t index) {
   out += schedule_drawing(cell.find("schedule"));
   out += section_html("Common channels", cell.find("common_channels"));
   out += section_html("Neighbours", cell.find("neighbours"));
+  out += section_html("Priority-based reselection (SIB19)", cell.find("priorities"));
   return out + "</section>";
 }
 

@@ -10,7 +10,9 @@
 #ifndef UMTS_TOOLS_SUMMARY_H
 #define UMTS_TOOLS_SUMMARY_H
 
+#include <stddef.h>
 #include <stdint.h>
+#include <stdio.h>
 
 #include <map>
 #include <memory>
@@ -67,6 +69,18 @@ class CellRecords {
 
   /* Copies every sub-record whose presence bit `set` carries. */
   void take(const umts_sib_set* set);
+  /* A BCH transport block of the cell, after the library converted it: the parts of SIB19,
+     which the library does not keep, are collected here through the codec, placed by the
+     schedule of the cell's MIB, SB1 and SB2 (its segments come as extensionType). */
+  void take_block(const uint8_t* block, size_t length);
+  /* The MIB of `set` has another value tag than the cell's: what was collected belongs to the
+     cell's former configuration. */
+  bool configuration_changes(const umts_sib_set* set) const;
+  /* Forgets every record and SIB19, to collect the new configuration. */
+  void reset();
+
+  /* The last SIB19 received whole, as encoded; empty when none. */
+  const std::vector<uint8_t>& sib19() const { return sib19_; }
 
   const std::string& label() const { return label_; }
   /* Bit n: block n (umts_sib_id) was converted at least once. */
@@ -80,13 +94,37 @@ class CellRecords {
   umts_sib_set* records_; /* zeroed, then each sub-record copied in */
   uint32_t seen_ = 0;
   unsigned long conversions_[umts_sib_count] = {};
+
+  /* SIB19 under collection: its bits so far, the segments it has and will have. */
+  struct Collection {
+    std::vector<uint8_t> bytes;
+    uint32_t bits = 0;
+    unsigned next = 0;
+    unsigned total = 0;
+  };
+  Collection sib19_part_;
+  std::vector<uint8_t> sib19_;
+
+  void sib19_first(unsigned sfn, unsigned count, const uint8_t* data, uint32_t bits);
+  void sib19_segment(unsigned sfn, unsigned index, const uint8_t* data, uint32_t bits, bool last);
 };
+
+/* The frame of segment `i` of a scheduled block, modulo its repetition period `*rep`; false
+   when the sib-Pos names no period. */
+bool segment_frame(const umts_scheduling_info& s, unsigned i, unsigned* rep, unsigned* frame);
+/* Whether the cell's MIB, SB1 or SB2 schedules segment `segment` of SIB19 in frame `sfn`. */
+bool sib19_scheduled_at(const CellRecords& cell, unsigned sfn, unsigned segment);
 
 /* The cells of one input, in the order they were first heard. */
 class CellCollection {
  public:
   /* The cell of `key` (created with `label` the first time). */
   CellRecords& cell(const std::string& key, const std::string& label);
+  bool has(const std::string& key) const { return index_.count(key) != 0; }
+  /* The records that `set` carries join those of the cell of `key`. A MIB with a new value
+     tag ends the configuration collected so far: its summary, with what ended it, is added
+     to `ended`, and the cell starts anew. */
+  void take(const std::string& key, const std::string& label, const umts_sib_set* set, std::vector<SummaryNode>* ended);
   const std::vector<std::unique_ptr<CellRecords>>& cells() const { return cells_; }
 
  private:
@@ -104,6 +142,9 @@ SummaryNode summary_selection(const CellRecords& cell);
 SummaryNode summary_schedule(const CellRecords& cell);
 SummaryNode summary_common_channels(const CellRecords& cell);
 SummaryNode summary_neighbours(const CellRecords& cell);
+/* Priority-based reselection (SIB19): the serving cell's priority and thresholds, the UTRA,
+   GSM and E-UTRA frequencies with theirs. */
+SummaryNode summary_priorities(const CellRecords& cell);
 
 /* One line of JSON, without a line end. */
 std::string summary_json(const SummaryNode& node);
@@ -115,5 +156,23 @@ bool summary_value_text(const SummaryNode& node, std::string* out);
 /* One self-contained HTML page of the cells' summaries: their tables and a drawing of the
    broadcast schedule across the 4096-frame SFN cycle. */
 std::string summary_html(const std::vector<SummaryNode>& cells);
+
+/* Where summaries go: text and JSON as each is made, so that a live stream shows a cell's
+   summary when its configuration changes; a page whole at the end. */
+class SummaryWriter {
+ public:
+  SummaryWriter(FILE* out, std::string format) : out_(out), format_(std::move(format)) {}
+  /* One summary (text and JSON written at once). */
+  void write(const SummaryNode& summary);
+  /* The cells as they stand at the end of the input. */
+  void finish(const CellCollection& cells);
+
+ private:
+  FILE* out_;
+  std::string format_;
+  std::vector<SummaryNode> page_; /* html: every summary, for the one page */
+  bool any_ = false;
+  bool wrote_text_ = false;
+};
 
 #endif /* UMTS_TOOLS_SUMMARY_H */

@@ -4,7 +4,9 @@
  */
 #include "summary.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <cstdlib>
 #include <cstring>
 
@@ -53,6 +55,19 @@ void CellRecords::take(const umts_sib_set* set) {
 #undef UMTS_TAKE
   seen_ |= present & ((1u << umts_sib_count) - 1u);
   records_->presence_bitmask = static_cast<uint16_t>(seen_);
+}
+
+bool CellRecords::configuration_changes(const umts_sib_set* set) const {
+  return (set->presence_bitmask & (1u << umts_sib_mib)) != 0 && has(umts_sib_mib) &&
+         set->mib.mib_ValueTag != records_->mib.mib_ValueTag;
+}
+
+void CellRecords::reset() {
+  std::memset(records_, 0, sizeof *records_);
+  seen_ = 0;
+  std::fill(std::begin(conversions_), std::end(conversions_), 0ul);
+  sib19_part_ = Collection();
+  sib19_.clear();
 }
 
 CellRecords& CellCollection::cell(const std::string& key, const std::string& label) {
@@ -127,7 +142,10 @@ const char* const kSibTypes[] = {
     "sysInfoType17",   "sysInfoType15-1", "sysInfoType15-2", "sysInfoType15-3", "sysInfoType15-4",
     "sysInfoType18",   "sysInfoType15-5", "sysInfoType5bis", "spare4",          "spare3",
     "spare2",          "spare1"};
-/* SIB-TypeExt2, from 1. */
+/* SIB-TypeExt and SIB-TypeExt2, from 1. */
+const char* const kSibTypesExt[] = {"systemInfoType11bis", "systemInfoType15bis", "systemInfoType15-1bis",
+                                    "systemInfoType15-2bis", "systemInfoType15-3bis", "systemInfoType15-6",
+                                    "systemInfoType15-7", "systemInfoType15-8"};
 const char* const kSibTypesExt2[] = {"systemInfoType19", "systemInfoType15-2ter", "systemInfoType20", "spare5",
                                      "spare4",           "spare3",                "spare2",           "spare1"};
 
@@ -141,7 +159,7 @@ umts_sib_id slot_of(const std::string& name) {
       {"sysInfoType1", umts_sib_sib1},    {"sysInfoType2", umts_sib_sib2},   {"sysInfoType3", umts_sib_sib3},
       {"sysInfoType5", umts_sib_sib5},    {"sysInfoType7", umts_sib_sib7},   {"sysInfoType11", umts_sib_sib11},
       {"sysInfoType12", umts_sib_sib12},  {"sysInfoType18", umts_sib_sib18}, {"sysInfoTypeSB1", umts_sib_sb1},
-      {"sysInfoTypeSB2", umts_sib_sb2}};
+      {"sysInfoTypeSB2", umts_sib_sb2},   {"systemInfoType11bis", umts_sib_sib11bis}};
   for (const auto& s : kSlots)
     if (name == s.first) return s.second;
   return umts_sib_count;
@@ -169,6 +187,23 @@ bool position(const umts_scheduling_pos& pos, unsigned* rep, unsigned* at) {
   return true;
 }
 
+}  // namespace
+
+/* The first segment at SFN mod rep = position, each further one two frames later, or at the
+   offsets the block lists (SibOFF so2 ... so32: 2 ... 32 frames). */
+bool segment_frame(const umts_scheduling_info& s, unsigned i, unsigned* rep, unsigned* frame) {
+  unsigned at = 0;
+  if (!position(s.sib_Pos, rep, &at)) return false;
+  for (unsigned k = 1; k <= i && k < 16; k++) {
+    const bool listed = (s.presence_bitmask & 1u) && k - 1 < s.sib_PosOffsetInfo.count && k - 1 < 15;
+    at += listed ? 2u * (s.sib_PosOffsetInfo.entries[k - 1] + 1u) : 2u;
+  }
+  *frame = at % *rep;
+  return true;
+}
+
+namespace {
+
 /* One scheduled block: name, period, position, segments, value tag, seen. */
 SummaryNode schedule_entry(const CellRecords& cell, const char* name, const umts_scheduling_info& s,
                            const char* announced_by, SummaryNode value_tag) {
@@ -181,23 +216,14 @@ SummaryNode schedule_entry(const CellRecords& cell, const char* name, const umts
     e.add("repetition_frames", SummaryNode()).add("position_frame", SummaryNode());
   }
   e.add("segment_count", static_cast<unsigned>(s.segCount));
-  /* The first segment at SFN mod rep = position, each further one two frames later, or at
-     the offsets the block lists (SibOFF so2 ... so32: 2 ... 32 frames). */
   SummaryNode frames = SummaryNode::list();
-  if (rep != 0) {
-    unsigned f = at;
-    for (unsigned i = 0; i < s.segCount && i < 16; i++) {
-      if (i > 0) {
-        const bool listed = (s.presence_bitmask & 1u) && i - 1 < s.sib_PosOffsetInfo.count;
-        f += listed ? 2u * (s.sib_PosOffsetInfo.entries[i - 1] + 1u) : 2u;
-      }
-      frames.push(f % rep);
-    }
-  }
+  unsigned frame = 0;
+  for (unsigned i = 0; i < s.segCount && i < 16 && segment_frame(s, i, &rep, &frame); i++) frames.push(frame);
   e.add("segment_frames", frames);
   e.add("value_tag", std::move(value_tag));
   const umts_sib_id slot = slot_of(name);
-  if (slot == umts_sib_count) e.add("seen", SummaryNode());
+  if (std::strcmp(name, "systemInfoType19") == 0) e.add("seen", !cell.sib19().empty());
+  else if (slot == umts_sib_count) e.add("seen", SummaryNode());
   else e.add("seen", cell.has(slot));
   return e;
 }
@@ -224,6 +250,59 @@ SummaryNode ext_value_tag(const umts_value_tag_info& v) {
   }
 }
 
+/* The extension SIBs that a block schedules: its v6b0 list (SIB-TypeExt) and its v860 list
+   (SIB-TypeExt2), each null when the block does not send it. */
+struct ExtLists {
+  const umts_ext_sib_type_info_scheduling_info_list* v6b0 = nullptr;
+  const umts_ext_sib_type_info_scheduling_info_list2* v860 = nullptr;
+};
+
+ExtLists ext_lists(const umts_mib_info& mib) {
+  ExtLists l;
+  if ((mib.presence_bitmask & 1u) == 0) return l;
+  const umts_mib_v690_nce& v690 = mib.v690NonCriticalExtensions;
+  if ((v690.presence_bitmask & 1u) == 0) return l;
+  const umts_mib_v690_nce_v6b0_nce& v6b0 = v690.v6b0NonCriticalExtensions;
+  if (v6b0.masterInformationBlock_v6b0ext.presence_bitmask & 1u)
+    l.v6b0 = &v6b0.masterInformationBlock_v6b0ext.extSIBTypeInfoSchedulingInfo_List;
+  if ((v6b0.presence_bitmask & 1u) == 0) return l;
+  const umts_mib_v860ext_ies& v860 = v6b0.v860NonCriticalExtensions.masterInformationBlock_v860ext;
+  if (v860.presence_bitmask & 1u) l.v860 = &v860.extSIBTypeInfoSchedulingInfo_List;
+  return l;
+}
+
+template <class Sb>
+ExtLists ext_lists(const Sb& sb) {
+  ExtLists l;
+  if ((sb.presence_bitmask & 1u) == 0) return l;
+  const umts_sb_v6b0_nc_extensions& v6b0 = sb.v6b0NonCriticalExtensions;
+  if (v6b0.sysInfoTypeSB_v6b0ext.presence_bitmask & 1u) l.v6b0 = &v6b0.sysInfoTypeSB_v6b0ext.extSIBTypeInfoSchedulingInfo_List;
+  if ((v6b0.presence_bitmask & 1u) == 0) return l;
+  const umts_sb_v860_ext& v860 = v6b0.v860NonCriticalExtensions.sysInfoTypeSB_v860ext;
+  if (v860.presence_bitmask & 1u) l.v860 = &v860.extSIBTypeInfoSchedulingInfo_List;
+  return l;
+}
+
+/* The extension lists of the cell's MIB, SB1 and SB2, with the block that sent each. */
+std::vector<std::pair<const char*, ExtLists>> ext_schedules(const CellRecords& cell) {
+  std::vector<std::pair<const char*, ExtLists>> all;
+  if (cell.has(umts_sib_mib)) all.emplace_back("mib", ext_lists(cell.records().mib));
+  if (cell.has(umts_sib_sb1)) all.emplace_back("sb1", ext_lists(cell.records().sb1));
+  if (cell.has(umts_sib_sb2)) all.emplace_back("sb2", ext_lists(cell.records().sb2));
+  return all;
+}
+
+void schedule_of_ext(const CellRecords& cell, const ExtLists& ext, const char* by, SummaryNode& out) {
+  if (ext.v6b0 != nullptr)
+    for (unsigned i = 0; i < ext.v6b0->count && i < 32; i++)
+      out.push(schedule_entry(cell, alternative(kSibTypesExt, 8, ext.v6b0->entries[i].extensionSIB_Type),
+                              ext.v6b0->entries[i].schedulingInfo, by, ext_value_tag(ext.v6b0->entries[i].valueTagInfo)));
+  if (ext.v860 != nullptr)
+    for (unsigned i = 0; i < ext.v860->count && i < 32; i++)
+      out.push(schedule_entry(cell, alternative(kSibTypesExt2, 8, ext.v860->entries[i].extensionSIB_Type2),
+                              ext.v860->entries[i].schedulingInfo, by, ext_value_tag(ext.v860->entries[i].valueTagInfo)));
+}
+
 /* The SIBs of a scheduling block (SB1 or SB2). */
 template <class Sb>
 void schedule_of_sb(const CellRecords& cell, const Sb& sb, const char* by, SummaryNode& out) {
@@ -234,15 +313,7 @@ void schedule_of_sb(const CellRecords& cell, const Sb& sb, const char* by, Summa
     out.push(schedule_entry(cell, alternative(kSibTypes, 32, tag), e.scheduling, by,
                             value_tag(tag, e.sib_Type.u, true)));
   }
-  if ((sb.presence_bitmask & 1u) == 0) return;
-  const umts_sb_v6b0_nc_extensions& v6b0 = sb.v6b0NonCriticalExtensions;
-  if ((v6b0.presence_bitmask & 1u) == 0) return;
-  const umts_sb_v860_ext& v860 = v6b0.v860NonCriticalExtensions.sysInfoTypeSB_v860ext;
-  if ((v860.presence_bitmask & 1u) == 0) return;
-  const umts_ext_sib_type_info_scheduling_info_list2& l2 = v860.extSIBTypeInfoSchedulingInfo_List;
-  for (unsigned i = 0; i < l2.count && i < 32; i++)
-    out.push(schedule_entry(cell, alternative(kSibTypesExt2, 8, l2.entries[i].extensionSIB_Type2),
-                            l2.entries[i].schedulingInfo, by, ext_value_tag(l2.entries[i].valueTagInfo)));
+  schedule_of_ext(cell, ext_lists(sb), by, out);
 }
 
 /* ---- Neighbour lists of the four SIB11 forms --------------------------------------------- */
@@ -651,6 +722,7 @@ SummaryNode summary_schedule(const CellRecords& cell) {
     list.push(schedule_entry(cell, alternative(kSibSbTypes, 32, tag), l.entries[i].scheduling, "mib",
                              value_tag(tag, l.entries[i].sibSb_Type.u, false)));
   }
+  schedule_of_ext(cell, ext_lists(mib), "mib", list);
   if (cell.has(umts_sib_sb1)) schedule_of_sb(cell, cell.records().sb1, "sb1", list);
   if (cell.has(umts_sib_sb2)) schedule_of_sb(cell, cell.records().sb2, "sb2", list);
   return list;
@@ -730,6 +802,7 @@ SummaryNode cell_summary(const CellRecords& cell) {
   SummaryNode blocks = SummaryNode::list();
   for (uint32_t i = 0; i < umts_sib_count; i++)
     if (cell.has(static_cast<umts_sib_id>(i))) blocks.push(umts_sib_name(static_cast<umts_sib_id>(i)));
+  if (!cell.sib19().empty()) blocks.push("sib19");
   n.add("blocks_received", blocks);
   n.add("identity", summary_identity(cell));
   n.add("access", summary_access(cell));
@@ -737,7 +810,66 @@ SummaryNode cell_summary(const CellRecords& cell) {
   n.add("schedule", summary_schedule(cell));
   n.add("common_channels", summary_common_channels(cell));
   n.add("neighbours", summary_neighbours(cell));
+  n.add("priorities", summary_priorities(cell));
   return n;
+}
+
+void CellCollection::take(const std::string& key, const std::string& label, const umts_sib_set* set,
+                          std::vector<SummaryNode>* ended) {
+  if (set->presence_bitmask == 0) return;
+  CellRecords& c = cell(key, label);
+  if (c.configuration_changes(set)) {
+    SummaryNode n = cell_summary(c);
+    /* Right after the cell's name: what ended this configuration. */
+    char why[80];
+    std::snprintf(why, sizeof why, "MIB value tag %u changed to %u", static_cast<unsigned>(c.records().mib.mib_ValueTag),
+                  static_cast<unsigned>(set->mib.mib_ValueTag));
+    n.members.insert(n.members.begin() + 1, {"ended_by", SummaryNode(why)});
+    if (ended != nullptr) ended->push_back(std::move(n));
+    c.reset();
+  }
+  c.take(set);
+}
+
+bool sib19_scheduled_at(const CellRecords& cell, unsigned sfn, unsigned segment) {
+  for (const auto& by : ext_schedules(cell)) {
+    const umts_ext_sib_type_info_scheduling_info_list2* l = by.second.v860;
+    for (unsigned i = 0; l != nullptr && i < l->count && i < 32; i++) {
+      unsigned rep = 0, frame = 0;
+      if (l->entries[i].extensionSIB_Type2 == 1 /* systemInfoType19 */ &&
+          segment_frame(l->entries[i].schedulingInfo, segment, &rep, &frame) && sfn % rep == frame)
+        return true;
+    }
+  }
+  return false;
+}
+
+/* ---- Where the summaries go -------------------------------------------------------------- */
+
+void SummaryWriter::write(const SummaryNode& summary) {
+  any_ = true;
+  if (format_ == "html") {
+    page_.push_back(summary);
+  } else if (format_ == "json") {
+    std::fprintf(out_, "%s\n", summary_json(summary).c_str());
+  } else {
+    std::fprintf(out_, "%s%s", wrote_text_ ? "\n" : "", summary_text(summary).c_str());
+    wrote_text_ = true;
+  }
+  std::fflush(out_);
+}
+
+void SummaryWriter::finish(const CellCollection& cells) {
+  for (const auto& cell : cells.cells()) write(cell_summary(*cell));
+  if (!any_) {
+    if (format_ == "json") std::fprintf(out_, "{\"cell\":null,\"missing\":\"no block of any cell was converted\"}\n");
+    else if (format_ == "text") std::fprintf(out_, "no block of any cell was converted\n");
+  }
+  if (format_ == "html") {
+    const std::string page = summary_html(page_);
+    std::fwrite(page.data(), 1, page.size(), out_);
+  }
+  std::fflush(out_);
 }
 
 bool summary_value_text(const SummaryNode& node, std::string* out) {
