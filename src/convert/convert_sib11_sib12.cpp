@@ -177,18 +177,14 @@ void convert_measurement_control_sys_info_use_of_hcs_hcs_not_used_cell_select_qu
   both_frequencies(src, dst, convert_intra_freq_measurement_sysinfo_rscp, convert_inter_freq_measurement_sysinfo_rscp);
 }
 
-/* The exception of this branch: with the intra-frequency record present, the conversion
-   stops there and the inter-frequency record is not even looked at; it is converted only
-   when no intra-frequency record came. */
+/* Intra, then inter, as in the other branches. The letter of this branch stopped after the
+   intra-frequency record and left the inter-frequency one unread whenever both came; but
+   "no HCS, Ec/N0" is what most cells broadcast, with both lists, and their inter-frequency
+   neighbours would never reach the record. Both are converted. */
 void convert_measurement_control_sys_info_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_ec_no(
     const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
     umts_hcs_not_used_cpich_ec_n0* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_intra_freq_measurement_sysinfo_ecno(&src->intraFreqMeasurementSysInfo, &dst->intraFreqMeasurementSysInfo);
-    return;
-  }
-  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_inter_freq_measurement_sysinfo_ecno, interFreqMeasurementSysInfo);
+  both_frequencies(src, dst, convert_intra_freq_measurement_sysinfo_ecno, convert_inter_freq_measurement_sysinfo_ecno);
 }
 
 void convert_measurement_control_sys_info_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_rscp(
@@ -265,16 +261,12 @@ void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_not_used_cell
   both_cell_lists(src, dst, convert_new_intra_freq_cell_si_list_rscp, convert_new_inter_freq_cell_si_list_rscp);
 }
 
-/* As in SIB11: with newIntraFreqCellList present, newInterFreqCellList is left alone. */
+/* As in SIB11: both lists, where the letter left newInterFreqCellList unread beside
+   newIntraFreqCellList. */
 void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_ec_no(
     const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
     umts_ext_hcs_not_used_cpich_ec_n0* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    convert_new_intra_freq_cell_si_list_ecno(&src->newIntraFreqCellList, &dst->newIntraFreqCellList);
-    return;
-  }
-  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_new_inter_freq_cell_si_list_ecno, newInterFreqCellList);
+  both_cell_lists(src, dst, convert_new_intra_freq_cell_si_list_ecno, convert_new_inter_freq_cell_si_list_ecno);
 }
 
 void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_rscp(

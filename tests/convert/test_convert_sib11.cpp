@@ -776,10 +776,10 @@ struct MeasBuilder {
   }
 };
 
-// Checks the alternative; `stops`: the ECN0 exception, the inter record left alone.
+// Checks the alternative: each record by its own bit.
 template <class IntraElement, class InterElement, class Alternative, class Flat>
-void checkAlternative(const Alternative& a, const Flat& f, bool stops) {
-  const uint32_t expected = stops && (a.m & 1u) ? 1u : a.m;
+void checkAlternative(const Alternative& a, const Flat& f) {
+  const uint32_t expected = a.m;
   EXPECT_EQ(f.presence_bitmask, expected);
   if (a.m & 1u) checkIntra<IntraElement>(a.intraFreqMeasurementSysInfo, f.intraFreqMeasurementSysInfo);
   else EXPECT_TRUE(allZero(f.intraFreqMeasurementSysInfo));
@@ -801,10 +801,10 @@ void checkMeasurement(const MeasurementControlSysInfo& mc, const umts_measuremen
     ASSERT_EQ(g.cellSelectQualityMeasure.choice_tag, nu->cellSelectQualityMeasure.t);
     if (nu->cellSelectQualityMeasure.t == 1)
       checkAlternative<NewIntraFreqCellSI_RSCP, NewInterFreqCellSI_RSCP>(*nu->cellSelectQualityMeasure.u.cpich_RSCP,
-                                                                         g.cellSelectQualityMeasure.u.cpich_RSCP, false);
+                                                                         g.cellSelectQualityMeasure.u.cpich_RSCP);
     else
       checkAlternative<NewIntraFreqCellSI_ECN0, NewInterFreqCellSI_ECN0>(*nu->cellSelectQualityMeasure.u.cpich_Ec_N0,
-                                                                         g.cellSelectQualityMeasure.u.cpich_Ec_N0, true);
+                                                                         g.cellSelectQualityMeasure.u.cpich_Ec_N0);
     EXPECT_EQ(g.presence_bitmask, 1);
     EXPECT_EQ(g.interRATMeasurementSysInfo.presence_bitmask, 1);
     EXPECT_EQ(g.interRATMeasurementSysInfo.interRATCellInfoList.removedInterRATCellList.choice_tag, 1u);
@@ -816,10 +816,10 @@ void checkMeasurement(const MeasurementControlSysInfo& mc, const umts_measuremen
     ASSERT_EQ(g.cellSelectQualityMeasure.choice_tag, hu->cellSelectQualityMeasure.t);
     if (hu->cellSelectQualityMeasure.t == 1)
       checkAlternative<NewIntraFreqCellSI_HCS_RSCP, NewInterFreqCellSI_HCS_RSCP>(
-          *hu->cellSelectQualityMeasure.u.cpich_RSCP, g.cellSelectQualityMeasure.u.cpich_RSCP, false);
+          *hu->cellSelectQualityMeasure.u.cpich_RSCP, g.cellSelectQualityMeasure.u.cpich_RSCP);
     else
       checkAlternative<NewIntraFreqCellSI_HCS_ECN0, NewInterFreqCellSI_HCS_ECN0>(
-          *hu->cellSelectQualityMeasure.u.cpich_Ec_N0, g.cellSelectQualityMeasure.u.cpich_Ec_N0, false);
+          *hu->cellSelectQualityMeasure.u.cpich_Ec_N0, g.cellSelectQualityMeasure.u.cpich_Ec_N0);
     EXPECT_EQ(g.presence_bitmask, 1);
     const umts_inter_rat_cell_info_list& l = g.interRATMeasurementSysInfo.interRATCellInfoList;
     EXPECT_EQ(g.interRATMeasurementSysInfo.presence_bitmask, 1);
@@ -863,9 +863,9 @@ TEST_F(ConvertSib11, FourFormsWithBothFrequencyRecords) {
   }
 }
 
-// Under hcs_not_used with cpich_Ec_N0 the intra-frequency record present ends the
-// conversion of the alternative; alone, the inter-frequency record comes through.
-TEST_F(ConvertSib11, Ecn0WithoutHcsStopsAfterTheIntraFrequencyRecord) {
+// Under hcs_not_used with cpich_Ec_N0, the configuration of most cells, both records come
+// through, each by its own bit (the letter stopped after the intra-frequency record).
+TEST_F(ConvertSib11, Ecn0WithoutHcsConvertsBothFrequencyRecords) {
   for (unsigned which : {1u, 2u, 3u}) {
     SCOPED_TRACE(which);
     MeasBuilder b(kForms[1], which);
@@ -874,8 +874,8 @@ TEST_F(ConvertSib11, Ecn0WithoutHcsStopsAfterTheIntraFrequencyRecord) {
     ASSERT_EQ(sib11(s), 1);
     const umts_hcs_not_used_cpich_ec_n0& f =
         result->sib11.measurementControlSysInfo.use_of_HCS.u.hcs_not_used.cellSelectQualityMeasure.u.cpich_Ec_N0;
-    EXPECT_EQ(f.presence_bitmask, which == 2 ? 2 : 1);
-    EXPECT_EQ(allZero(f.interFreqMeasurementSysInfo), which != 2);
+    EXPECT_EQ(f.presence_bitmask, which);
+    EXPECT_EQ(allZero(f.interFreqMeasurementSysInfo), which == 1);
     checkMeasurement(b.mc, result->sib11.measurementControlSysInfo);
   }
   // The RSCP twin converts both.
@@ -1125,8 +1125,8 @@ Alternative* buildExtAlternative(Pool& p, unsigned which) {
 }
 
 template <class IntraElement, class InterElement, class Alternative, class Flat>
-void checkExtAlternative(const Alternative& a, const Flat& f, bool stops) {
-  const uint32_t expected = stops && (a.m & 1u) ? 1u : a.m;
+void checkExtAlternative(const Alternative& a, const Flat& f) {
+  const uint32_t expected = a.m;
   EXPECT_EQ(f.presence_bitmask, expected);
   if (a.m & 1u) checkIntraCells<IntraElement>(a.newIntraFreqCellList, f.newIntraFreqCellList);
   if (expected & 2u)
@@ -1194,10 +1194,10 @@ TEST_F(ConvertSib11, Sib11bisFourFormsAndItsOtherMembers) {
         ASSERT_EQ(g.u.hcs_not_used.cellSelectQualityMeasure.choice_tag, fc.quality);
         if (fc.quality == 1)
           checkExtAlternative<NewIntraFreqCellSI_RSCP, NewInterFreqCellSI_RSCP>(
-              *q.u.cpich_RSCP, g.u.hcs_not_used.cellSelectQualityMeasure.u.cpich_RSCP, false);
+              *q.u.cpich_RSCP, g.u.hcs_not_used.cellSelectQualityMeasure.u.cpich_RSCP);
         else
           checkExtAlternative<NewIntraFreqCellSI_ECN0, NewInterFreqCellSI_ECN0>(
-              *q.u.cpich_Ec_N0, g.u.hcs_not_used.cellSelectQualityMeasure.u.cpich_Ec_N0, true);
+              *q.u.cpich_Ec_N0, g.u.hcs_not_used.cellSelectQualityMeasure.u.cpich_Ec_N0);
         checkInterRatCells<NewInterRATCell>(*rat, g.u.hcs_not_used.newInterRATCellList, false);
       } else {
         const auto& q = use.u.hcs_used->cellSelectQualityMeasure;
@@ -1205,10 +1205,10 @@ TEST_F(ConvertSib11, Sib11bisFourFormsAndItsOtherMembers) {
         ASSERT_EQ(g.u.hcs_used.cellSelectQualityMeasure.choice_tag, fc.quality);
         if (fc.quality == 1)
           checkExtAlternative<NewIntraFreqCellSI_HCS_RSCP, NewInterFreqCellSI_HCS_RSCP>(
-              *q.u.cpich_RSCP, g.u.hcs_used.cellSelectQualityMeasure.u.cpich_RSCP, false);
+              *q.u.cpich_RSCP, g.u.hcs_used.cellSelectQualityMeasure.u.cpich_RSCP);
         else
           checkExtAlternative<NewIntraFreqCellSI_HCS_ECN0, NewInterFreqCellSI_HCS_ECN0>(
-              *q.u.cpich_Ec_N0, g.u.hcs_used.cellSelectQualityMeasure.u.cpich_Ec_N0, false);
+              *q.u.cpich_Ec_N0, g.u.hcs_used.cellSelectQualityMeasure.u.cpich_Ec_N0);
         checkInterRatCells<NewInterRATCell>(*rat, g.u.hcs_used.newInterRATCellList, false);
       }
     }

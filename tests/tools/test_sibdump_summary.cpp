@@ -574,6 +574,70 @@ TEST(Summary, NewMibValueTagEndsTheConfiguration) {
   EXPECT_TRUE(has(cells[1], "\"lac\":{\"missing\":\"SIB1 not received\"}")) << cells[1];
 }
 
+/* The sample's first SIB11 (no HCS, Ec/N0) with two inter-frequency cells added through the
+   codec: cell 1 on UARFCN 10563 with scrambling code 300 and an offset coded 2 (0.5 dB steps:
+   1 dB), then scrambling code 301 with no frequency of its own (it is on the frequency of the
+   cell before). Its 12 intra-frequency and 3 GSM cells stay. */
+TEST(Summary, NeighboursOnEveryKindOfList) {
+  std::string sib11_hex;
+  for (const std::string& l : lines_of(read_file(kSamples + "/fdd_cell_sibs.txt")))
+    if (l.rfind("sib11 ", 0) == 0 && sib11_hex.empty()) sib11_hex = l.substr(6);
+  Bytes old_sib11 = hex_bytes(sib11_hex);
+  rtxContext dec;
+  ASSERT_EQ(rtInitContext(&dec), 0);
+  SysInfoType11 sib11;
+  std::memset(&sib11, 0, sizeof sib11);
+  ASSERT_EQ(pu_setBuffer(&dec, old_sib11.data(), static_cast<uint32_t>(old_sib11.size()), 0), 0);
+  ASSERT_EQ(asn1PD_UMTS_SysInfoType11(&dec, &sib11), 0);
+  const MeasurementControlSysInfo_use_of_HCS& hcs = sib11.measurementControlSysInfo.use_of_HCS;
+  ASSERT_EQ(hcs.t, 1u);
+  ASSERT_EQ(hcs.u.hcs_not_used->cellSelectQualityMeasure.t, 2u);
+  MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0& ecn0 =
+      *hcs.u.hcs_not_used->cellSelectQualityMeasure.u.cpich_Ec_N0;
+
+  FrequencyInfoFDD fdd{};
+  fdd.uarfcn_DL = 10563;
+  CellInfoSI_ECN0_modeSpecificInfo_fdd mode[2]{};
+  NewInterFreqCellSI_ECN0 cells[2]{};
+  rtxDListNode nodes[2]{};
+  ecn0.m |= 2u;
+  ecn0.interFreqMeasurementSysInfo.m = 1u;
+  InterFreqCellInfoSI_List_ECN0& list = ecn0.interFreqMeasurementSysInfo.interFreqCellInfoSI_List;
+  list.m = 2u;
+  rtxDListInit(&list.newInterFreqCellList);
+  for (int i = 0; i < 2; i++) {
+    mode[i].m = 1u;
+    mode[i].primaryCPICH_Info.primaryScramblingCode = static_cast<uint16_t>(300 + i);
+    cells[i].cellInfo.modeSpecificInfo.t = 1;
+    cells[i].cellInfo.modeSpecificInfo.u.fdd = &mode[i];
+    nodes[i].data = &cells[i];
+    rtxDListAppendNode(&list.newInterFreqCellList, &nodes[i]);
+  }
+  cells[0].m = 3u;
+  cells[0].interFreqCellID = 1;
+  cells[0].frequencyInfo.modeSpecificInfo.t = 1;
+  cells[0].frequencyInfo.modeSpecificInfo.u.fdd = &fdd;
+  cells[0].cellInfo.cellIndividualOffset = 2;
+  uint32_t bits = 0;
+  const Bytes new_sib11 = encode(asn1PE_UMTS_SysInfoType11, &sib11, &bits);
+  rtFreeContext(&dec);
+  ASSERT_FALSE(new_sib11.empty());
+
+  const std::string path = temp_dir() + "/neighbours.txt";
+  std::ofstream(path) << "sib11 " + hex_of(new_sib11.data(), new_sib11.size()) + "\n";
+  const Outcome r = run_sibdump("--sibs --summary=json '" + path + "'");
+  const std::vector<std::string> cells_out = summaries(r);
+  ASSERT_EQ(cells_out.size(), 1u) << r.err;
+  const std::string& s = cells_out[0];
+  EXPECT_TRUE(has(s, "\"inter_frequency\":[{\"cell_id\":1,\"uarfcn_dl\":10563,\"primary_scrambling_code\":300,"
+                     "\"cell_individual_offset\":{\"value\":1,\"unit\":\"dB\",\"coded\":2}},"
+                     "{\"uarfcn_dl\":\"same as the cell before\",\"primary_scrambling_code\":301,"
+                     "\"cell_individual_offset\":{\"value\":0,\"unit\":\"dB\",\"coded\":0}}]"))
+      << s;
+  EXPECT_TRUE(has(s, "\"primary_scrambling_code\":240,")) << s; /* the twelfth intra-frequency cell */
+  EXPECT_TRUE(has(s, "\"bcch_arfcn\":81,")) << s;
+}
+
 /* ---- The library's C entry points --------------------------------------------------------- */
 
 /* The sample's blocks through umts_sib_decoder and umts_summary_take give sibdump's summary;
