@@ -497,8 +497,11 @@ bool inline_text(const SummaryNode& n, std::string& out) {
         out += ")";
         return true;
       }
+      /* Lists of plain values (frames of a schedule) go on the line; lists of records do not. */
       for (const auto& m : n.members)
-        if (m.second.kind == SummaryNode::List) return false;
+        if (m.second.kind == SummaryNode::List)
+          for (const auto& item : m.second.items)
+            if (item.kind == SummaryNode::Object || item.kind == SummaryNode::List) return false;
       if (n.members.size() > 12) return false;
       for (size_t i = 0; i < n.members.size(); i++) {
         const SummaryNode& v = n.members[i].second;
@@ -530,7 +533,8 @@ void text_node(std::string& out, const std::string& key, const SummaryNode& n, i
   const std::string indent(static_cast<size_t>(depth) * 2, ' ');
   std::string line;
   if (inline_text(n, line)) {
-    out += indent + key + (key.empty() ? "" : ": ") + line + "\n";
+    /* A list's items as "- ...", members as "key: ...". */
+    out += indent + key + (key.empty() ? "" : key == "-" ? " " : ": ") + line + "\n";
     return;
   }
   out += indent + key + (key.empty() ? "" : ":") + "\n";
@@ -889,7 +893,15 @@ std::string summary_text(const SummaryNode& cell) {
   std::string out;
   const SummaryNode* label = cell.find("cell");
   out += "cell " + (label ? label->text : std::string()) + "\n";
-  for (const auto& m : cell.members)
-    if (m.first != "cell") text_node(out, m.first, m.second, 1);
+  /* A section takes a line per member; what it holds may go on one line. */
+  for (const auto& m : cell.members) {
+    if (m.first == "cell") continue;
+    if (m.second.kind == SummaryNode::Object && m.second.find("missing") == nullptr) {
+      out += "  " + m.first + ":\n";
+      for (const auto& member : m.second.members) text_node(out, member.first, member.second, 2);
+    } else {
+      text_node(out, m.first, m.second, 1);
+    }
+  }
   return out;
 }

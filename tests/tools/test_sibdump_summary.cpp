@@ -265,7 +265,8 @@ TEST(Summary, SampleCellFromBlocksAndCapture) {
   for (const char* line : {"cell " /* first line */, "    plmn: 262-01\n",
                            "    cell_identity: value 1715004, rnc_id 26, c_id 11068\n",
                            "    q_rxlevmin: -115 dBm (coded -58)\n", "    t_reselection: 1 s (coded 1)\n",
-                           "    cell_barred: notBarred (coded 2)\n", "      segment_frames: 12 14 16\n",
+                           "    cell_barred: notBarred (coded 2)\n", "    - sib sysInfoType5, announced_by mib, repetition_frames 32, position_frame 12, segment_count 3, "
+                           "segment_frames 12 14 16, value_tag 2, seen yes\n",
                            "bsic 5-2"})
     EXPECT_TRUE(has(t.out, line)) << line << "\n" << t.out;
 }
