@@ -3,6 +3,10 @@
  * built (mksamples) and the units of the standard, captures that miss blocks, several cells.
  */
 #include <gtest/gtest.h>
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <signal.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -19,6 +23,7 @@
 #include "capture_writer.h"
 #include "gsmtap.h"
 #include "json_check.h"
+#include "sibdump_child.h"
 #include "umts_rrc.h"
 #include "umts_rrc_rt.h"
 #include "umts_sib_summary.h"
@@ -541,38 +546,99 @@ TEST(Summary, Sib19FromTheCodecPlacedByItsSchedule) {
       << t.out;
 }
 
-/* A MIB with a new value tag ends the configuration so far: its summary is written with what
-   ended it, and the new one starts empty (here only the new MIB and the SIB3 that follows). */
-TEST(Summary, NewMibValueTagEndsTheConfiguration) {
+/* The sample's MIB with the value tag 4 instead of 3, through the codec, in a transport block
+   of its own at SFN' 0. */
+std::string mib_with_tag_4() {
   std::string mib_hex;
   for (const std::string& l : lines_of(read_file(kSamples + "/fdd_cell_sibs.txt")))
     if (l.rfind("mib ", 0) == 0) mib_hex = l.substr(4);
   Bytes old_mib = hex_bytes(mib_hex);
   rtxContext dec;
-  ASSERT_EQ(rtInitContext(&dec), 0);
+  if (rtInitContext(&dec) != 0) return "";
   MasterInformationBlock mib;
   std::memset(&mib, 0, sizeof mib);
-  ASSERT_EQ(pu_setBuffer(&dec, old_mib.data(), static_cast<uint32_t>(old_mib.size()), 0), 0);
-  ASSERT_EQ(asn1PD_UMTS_MasterInformationBlock(&dec, &mib), 0);
-  ASSERT_EQ(mib.mib_ValueTag, 3u);
-  mib.mib_ValueTag = 4;
-  uint32_t bits = 0;
-  const Bytes new_mib = encode(asn1PE_UMTS_MasterInformationBlock, &mib, &bits);
+  std::vector<std::string> blocks;
+  if (pu_setBuffer(&dec, old_mib.data(), static_cast<uint32_t>(old_mib.size()), 0) == 0 &&
+      asn1PD_UMTS_MasterInformationBlock(&dec, &mib) == 0 && mib.mib_ValueTag == 3) {
+    mib.mib_ValueTag = 4;
+    uint32_t bits = 0;
+    const Bytes new_mib = encode(asn1PE_UMTS_MasterInformationBlock, &mib, &bits);
+    if (!new_mib.empty()) blocks = blocks_of(0, new_mib.data(), bits, 0);
+  }
   rtFreeContext(&dec);
-  ASSERT_FALSE(new_mib.empty());
+  return blocks.size() == 1 ? blocks[0] : "";
+}
 
-  std::vector<std::string> extra = blocks_of(0, new_mib.data(), bits, 0);
+std::string sib3_block_hex() {
   for (const auto& c : completing_blocks())
-    if (c.first == "sib3") extra.push_back(hex_of(sample_blocks()[c.second].data(), sample_blocks()[c.second].size()));
-  const Outcome r = summary_of("new_tag.bch", extra);
-  const std::vector<std::string> cells = summaries(r);
-  ASSERT_EQ(cells.size(), 2u) << r.out;
+    if (c.first == "sib3") return hex_of(sample_blocks()[c.second].data(), sample_blocks()[c.second].size());
+  return "";
+}
+
+/* A MIB with a new value tag ends the configuration so far: its summary is written with what
+   ended it, and the new one starts empty (here only the new MIB and the SIB3 that follows). */
+void expect_ended_then_new(const std::vector<std::string>& cells) {
+  ASSERT_EQ(cells.size(), 2u);
   EXPECT_TRUE(has(cells[0], "\"ended_by\":\"MIB value tag 3 changed to 4\"")) << cells[0];
   EXPECT_TRUE(has(cells[0], kIdentity)) << cells[0];
   EXPECT_FALSE(has(cells[1], "ended_by")) << cells[1];
   EXPECT_TRUE(has(cells[1], "\"blocks_received\":[\"mib\",\"sib3\"]")) << cells[1];
   EXPECT_TRUE(has(cells[1], entry("masterInformationBlock", "fixed", 8, 0, 1, "0", "4", "true"))) << cells[1];
   EXPECT_TRUE(has(cells[1], "\"lac\":{\"missing\":\"SIB1 not received\"}")) << cells[1];
+}
+
+TEST(Summary, NewMibValueTagEndsTheConfiguration) {
+  const std::string mib = mib_with_tag_4(), sib3 = sib3_block_hex();
+  ASSERT_FALSE(mib.empty());
+  ASSERT_FALSE(sib3.empty());
+  const Outcome r = summary_of("new_tag.bch", {mib, sib3});
+  expect_ended_then_new(summaries(r));
+}
+
+/* Live: the ended configuration's summary arrives as soon as the new MIB does, before the
+   stream is interrupted; the interruption brings the cell as it stands. */
+TEST(Summary, LiveStreamShowsTheChangeAsItComes) {
+  const std::string mib = mib_with_tag_4(), sib3 = sib3_block_hex();
+  ASSERT_FALSE(mib.empty());
+  Child c = spawn_sibdump(kSibdump, {"--udp", "127.0.0.1:0", "--summary=json"});
+  ASSERT_GT(c.pid, 0);
+  std::string err, out;
+  ASSERT_TRUE(read_until(c.err, &err, [](const std::string& t) { return t.find(" (interrupt to stop)\n") != std::string::npos; }))
+      << err;
+  const std::string prefix = "sibdump: listening for GSMTAP on 127.0.0.1:";
+  ASSERT_EQ(err.rfind(prefix, 0), 0u) << err;
+  const int port = std::atoi(err.c_str() + prefix.size());
+  const int fd = socket(AF_INET, SOCK_DGRAM, 0);
+  ASSERT_GE(fd, 0);
+  sockaddr_in to;
+  std::memset(&to, 0, sizeof to);
+  to.sin_family = AF_INET;
+  to.sin_port = htons(static_cast<uint16_t>(port));
+  to.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  std::vector<Bytes> blocks = sample_blocks();
+  blocks.push_back(hex_bytes(mib));
+  blocks.push_back(hex_bytes(sib3));
+  for (const Bytes& b : blocks) {
+    capture::GsmtapMessage m;
+    m.arfcn = 10700;
+    m.message = b;
+    const Bytes d = capture::gsmtap_datagram(m);
+    EXPECT_EQ(sendto(fd, d.data(), d.size(), 0, reinterpret_cast<sockaddr*>(&to), sizeof to), static_cast<ssize_t>(d.size()));
+  }
+  close(fd);
+  EXPECT_TRUE(read_until(c.out, &out, [](const std::string& t) { return t.find('\n') != std::string::npos; })) << out;
+  kill(c.pid, SIGINT);
+  read_until(c.out, &out, [](const std::string&) { return false; }); /* to the end */
+  read_until(c.err, &err, [](const std::string&) { return false; });
+  int status = 0;
+  waitpid(c.pid, &status, 0);
+  close(c.out);
+  close(c.err);
+  const std::vector<std::string> cells = summaries(Outcome{0, out, err});
+  expect_ended_then_new(cells);
+  if (!cells.empty()) {
+    EXPECT_TRUE(has(cells[0], "\"cell\":\"source 127.0.0.1, ARFCN 10700\"")) << cells[0];
+  }
 }
 
 /* The sample's first SIB11 (no HCS, Ec/N0) with two inter-frequency cells added through the
