@@ -610,8 +610,8 @@ void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used_cell_sel
     const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
     umts_ext_hcs_used_cpich_ec_n0* dst);
 
-/* Heads of the SIB11 and SIB12 extension chains and the LCR tree of SIB11bis: presence bits
-   (and the LCR tree's use_of_HCS tag) until their contents are converted. */
+/* Heads of the SIB11 and SIB12 extension chains: v4b0 under bit 0, the v590 link under bit 1.
+   The LCR tree of SIB11bis: its use_of_HCS tag until its contents are converted. */
 void convert_sysinfotype11_v4b0_nc_extensions(const SysInfoType11_v4b0NonCriticalExtensions* src,
                                               umts_sib11_v4b0_nc_extensions* dst);
 void convert_sysinfotype12_v4b0_nc_extensions(const SysInfoType12_v4b0NonCriticalExtensions* src,
@@ -644,6 +644,148 @@ void convert_csg_dedicated_frequency_info_list(const CSG_DedicatedFrequencyInfoL
                                                umts_csg_dedicated_frequency_info_list* dst);
 void convert_sysinfotype11bis_v7b0nces_v860nces_nces(
     const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* src, uint8_t* dst);
+
+/* ==== SIB11 and SIB12: the v4b0 records and the extension chains ========================== */
+
+/* The decoded links of the SIB11 chain from v690 on and of the SIB12 chain from v6b0 on,
+   under shorter names. */
+typedef SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions
+    umts_sib11_v690_nces_src;
+typedef SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions
+    umts_sib11_v6b0_nces_src;
+typedef SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions
+    umts_sib11_v770_nces_src;
+typedef SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions
+    umts_sib11_v7b0_nces_src;
+typedef SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions
+    umts_sib11_v860_nces_src;
+typedef SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions
+    umts_sib11_nces_src;
+typedef SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions
+    umts_sib12_v6b0_nces_src;
+typedef SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions
+    umts_sib12_v7b0_nces_src;
+typedef SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions
+    umts_sib12_nces_src;
+
+/* v4b0: the LCR FACH byte and the LCR measurement control tree (of which, until its
+   conversion, only the use_of_HCS tag). */
+void convert_sysInfoType11_v4b0ext(const SysInfoType11_v4b0ext_IEs* src, umts_sib11_v4b0ext* dst);
+void convert_sysinfotype12_v4b0ext_ies(const SysInfoType12_v4b0ext_IEs* src, umts_sib12_v4b0ext* dst);
+void convert_fach_MeasurementOccasionInfo_LCR_Ext(const FACH_MeasurementOccasionInfo_LCR_r4_ext* src, uint8_t* dst);
+void convert_fach_measurement_occasion_info_lcr_r4_ext(const FACH_MeasurementOccasionInfo_LCR_r4_ext* src, uint8_t* dst);
+void convert_MeasurementControlSysInfo_LCR_r4(const MeasurementControlSysInfo_LCR_r4_ext* src,
+                                              umts_measurement_control_sys_info_lcr_r4_ext* dst);
+void convert_measurement_control_sys_info_lcr_r4_ext(const MeasurementControlSysInfo_LCR_r4_ext* src,
+                                                     umts_measurement_control_sys_info_lcr_r4_ext* dst);
+
+/* The links of SIB11: each converts its extension, then the next link under bit 0. */
+void convert_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(
+    const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension* src, umts_sib11_v590_nc_extension* dst);
+void convert_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(
+    const umts_sib11_v690_nces_src* src, umts_sib11_v690_nc_extensions* dst);
+void convert_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(
+    const umts_sib11_v6b0_nces_src* src, umts_sib11_v6b0_nc_extensions* dst);
+void convert_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(
+    const umts_sib11_v770_nces_src* src, umts_sib11_v770_nc_extensions* dst);
+void convert_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(
+    const umts_sib11_v7b0_nces_src* src, umts_sib11_v7b0_nc_extensions* dst);
+void convert_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(
+    const umts_sib11_v860_nces_src* src, umts_sib11_v860_nc_extensions* dst);
+void convert_SysInfoType11_nonCriticalExtensions(const umts_sib11_nces_src* src, uint8_t* dst);
+
+/* The links of SIB12. */
+void convert_sysinfotype12_v4b0nces_v590nce(const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension* src,
+                                            umts_sib12_v590_nc_extension* dst);
+void convert_sysinfotype12_v4b0nces_v590nce_v690nces(
+    const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* src,
+    umts_sib12_v690_nc_extensions* dst);
+void convert_sysinfotype12_v4b0nces_v590nce_v690nces_v6b0nces(const umts_sib12_v6b0_nces_src* src,
+                                                              umts_sib12_v6b0_nc_extensions* dst);
+void convert_sysinfotype12_v4b0nces_v590nce_v690nces_v6b0nces_v7b0nces(const umts_sib12_v7b0_nces_src* src,
+                                                                       umts_sib12_v7b0_nc_extensions* dst);
+void convert_sysinfotype12_v4b0nces_v590nce_v690nces_v6b0nces_v7b0nces_nces(const umts_sib12_nces_src* src, uint8_t* dst);
+
+/* The extension records of SIB11, then those of SIB12. */
+void convert_SysInfoType11_v590ext_IEs(const SysInfoType11_v590ext_IEs* src, umts_v590ext_ies* dst);
+void convert_SysInfoType11_v690ext_IEs(const SysInfoType11_v690ext_IEs* src, umts_v690ext_ies* dst);
+void convert_SysInfoType11_v6b0ext_IEs(const SysInfoType11_v6b0ext_IEs* src, umts_v6b0ext_ies* dst);
+void convert_SysInfoType11_v770ext_IEs(const SysInfoType11_v770ext_IEs* src, umts_sib11_v770ext_ies* dst);
+void convert_SysInfoType11_v7b0ext_IEs(const SysInfoType11_v7b0ext_IEs* src, umts_v7b0ext_ies* dst);
+void convert_SysInfoType11_v860ext_IEs(const SysInfoType11_v860ext_IEs* src, umts_sib11_v860ext_ies* dst);
+void convert_sysinfotype12_v590ext_ies(const SysInfoType12_v590ext_IEs* src, umts_v590ext_ies* dst);
+void convert_sysinfotype12_v690ext_ies(const SysInfoType12_v690ext_IEs* src, umts_v690ext_ies* dst);
+void convert_sysinfotype12_v6b0ext_ies(const SysInfoType12_v6b0ext_IEs* src, umts_v6b0ext_ies* dst);
+void convert_sysinfotype12_v7b0ext_ies(const SysInfoType12_v7b0ext_IEs* src, umts_v7b0ext_ies* dst);
+
+/* v590: the cell lists (each element the v590 cell record of SIB3), the RSCP deltas, event 1b
+   reporting and event 1d. */
+void convert_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(
+    const SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* src, umts_cell_select_reselect_info_v590ext_list* dst);
+void convert_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(
+    const SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* src, umts_cell_select_reselect_info_v590ext_list* dst);
+void convert_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(
+    const SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext* src, umts_cell_select_reselect_info_v590ext_list* dst);
+void convert_sysinfotype12_v590ext_ies_new_intra_frequency_cell_info_list_v590ext(
+    const SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* src, umts_cell_select_reselect_info_v590ext_list* dst);
+void convert_sysinfotype12_v590ext_ies_new_inter_frequency_cell_info_list_v590ext(
+    const SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* src, umts_cell_select_reselect_info_v590ext_list* dst);
+void convert_sysinfotype12_v590ext_ies_new_inter_rat_cell_info_list_v590ext(
+    const SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext* src, umts_cell_select_reselect_info_v590ext_list* dst);
+void convert_CellSelectReselectInfo_v590ext(const CellSelectReselectInfo_v590ext* src,
+                                            umts_cell_select_reselect_info_v590ext* dst);
+void convert_cell_select_reselect_info_v590ext(const CellSelectReselectInfo_v590ext* src,
+                                               umts_cell_select_reselect_info_v590ext* dst);
+void convert_Intra_FreqEventCriteriaList_v590ext(const Intra_FreqEventCriteriaList_v590ext* src,
+                                                 umts_intra_freq_event_criteria_list_v590ext* dst);
+void convert_intra_freq_event_criteria_list_v590ext(const Intra_FreqEventCriteriaList_v590ext* src,
+                                                    umts_intra_freq_event_criteria_list_v590ext* dst);
+void convert_IntraFreqReportingCriteria_1b_r5(const IntraFreqReportingCriteria_1b_r5* src,
+                                              umts_intra_freq_reporting_criteria_1b_r5* dst);
+void convert_PeriodicReportingInfo_1b(const PeriodicReportingInfo_1b* src, umts_periodic_reporting_info_1b* dst);
+void convert_intra_freq_reporting_criteria_1b_r5(const IntraFreqReportingCriteria_1b_r5* src,
+                                                 umts_intra_freq_reporting_criteria_1b_r5* dst);
+void convert_IntraFreqEvent_1d_r5(const IntraFreqEvent_1d_r5* src, umts_intra_freq_event_1d_r5* dst);
+void convert_intra_freq_event_1d_r5(const IntraFreqEvent_1d_r5* src, umts_intra_freq_event_1d_r5* dst);
+
+/* v690 (dummy) and v6b0: the inter-frequency RACH reporting information. */
+void convert_Dummy_InterFreqRACHReportingInfo(const Dummy_InterFreqRACHReportingInfo* src,
+                                              umts_dummy_inter_freq_rach_reporting_info* dst);
+void convert_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(
+    const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo* src,
+    umts_dummy_inter_freq_rach_reporting_info_mode_specific_info* dst);
+void convert_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(
+    const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd* src, uint32_t* dst);
+void convert_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(
+    const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd* src, umts_inter_freq_rep_quantity_rach_tdd_list* dst);
+void convert_dummy_inter_freq_rach_reporting_info(const Dummy_InterFreqRACHReportingInfo* src,
+                                                  umts_dummy_inter_freq_rach_reporting_info* dst);
+void convert_dummy_inter_freq_rach_reporting_info_mode_specific_info(
+    const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo* src,
+    umts_dummy_inter_freq_rach_reporting_info_mode_specific_info* dst);
+void convert_InterFreqRACHReportingInfo(const InterFreqRACHReportingInfo* src, umts_inter_freq_rach_reporting_info* dst);
+void convert_InterFreqRACHReportingInfo_modeSpecificInfo(const InterFreqRACHReportingInfo_modeSpecificInfo* src,
+                                                         umts_inter_freq_rach_reporting_info_mode_specific_info* dst);
+void convert_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(const InterFreqRACHReportingInfo_modeSpecificInfo_fdd* src,
+                                                             uint32_t* dst);
+void convert_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(const InterFreqRACHReportingInfo_modeSpecificInfo_tdd* src,
+                                                             umts_inter_freq_rep_quantity_rach_tdd_list* dst);
+void convert_InterFreqRepQuantityRACH_TDDList(const InterFreqRepQuantityRACH_TDDList* src,
+                                              umts_inter_freq_rep_quantity_rach_tdd_list* dst);
+void convert_inter_freq_rach_reporting_info(const InterFreqRACHReportingInfo* src, umts_inter_freq_rach_reporting_info* dst);
+void convert_inter_freq_rach_reporting_info_mode_specific_info(const InterFreqRACHReportingInfo_modeSpecificInfo* src,
+                                                               umts_inter_freq_rach_reporting_info_mode_specific_info* dst);
+
+/* v770 and v860 of SIB11: the MBSFN frequencies and their IMB indications. */
+void convert_MBSFNFrequencyList(const MBSFNFrequencyList* src, umts_mbsfn_frequency_list* dst);
+void convert_MBSFNFrequency(const MBSFNFrequency* src, umts_mbsfn_frequency* dst);
+void convert_MBSFNFrequencyList_v860ext(const MBSFNFrequencyList_v860ext* src, umts_mbsfn_frequency_list_v860ext* dst);
+void convert_MBSFNFrequency_v860ext(const MBSFNFrequency_v860ext* src, umts_mbsfn_frequency_v860ext* dst);
+
+/* v7b0 of SIB11 (SIB12 and SIB11bis take convert_new_inter_freq_cell_list_v7b0ext). */
+void convert_NewInterFreqCellList_v7b0ext(const NewInterFreqCellList_v7b0ext* src,
+                                          umts_new_inter_freq_cell_list_v7b0ext* dst);
+void convert_NewInterFreqCell_v7b0ext(const NewInterFreqCell_v7b0ext* src, uint8_t* dst);
 
 /* Cells of the intra-frequency lists, in the four forms. v is the flat name of the form
    (rscp, ecno, hcs_rscp, hcs_ecno), V the decoded one (RSCP, ECN0, HCS_RSCP, HCS_ECN0),

@@ -843,18 +843,154 @@
   F(RECORD, umts_v7b0ext_ies, sysInfoType11bis_v7b0ext, 1, UMTS_ALWAYS, _)             \
   F(RECORD, umts_sib11bis_v860_nc_extensions, v860NonCriticalExtensions, 1, 0, _)
 
-/* ==== Records whose contents come with the LCR and extension-chain conversions ============= */
-/* For now each holds only its first field; the members behind it follow with their
-   conversions, so that these records read as all zero. */
-
-/* LCR measurement control of SIB11bis: its use_of_HCS, of which only the tag so far. */
+/* ==== The LCR tree of SIB11bis, whose contents come with its conversion ==================== */
+/* For now it holds only its use_of_HCS tag, so that it reads as all zero behind it. */
 #define umts_ext_use_of_hcs_lcr_r4_FIELDS(F) F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)
 #define umts_measurement_control_sys_info_extension_lcr_r4_FIELDS(F) \
   F(RECORD, umts_ext_use_of_hcs_lcr_r4, use_of_HCS, 1, UMTS_ALWAYS, _)
-#define umts_sib11_v4b0ext_FIELDS(F) F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)
-#define umts_sib11_v590_nc_extension_FIELDS(F) F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)
-#define umts_sib12_v4b0ext_FIELDS(F) F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)
-#define umts_sib12_v590_nc_extension_FIELDS(F) F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)
+
+/* ==== SIB11 and SIB12: the v4b0 records and the extension chains =========================== */
+
+/* The LCR measurement control tree of SIB11 and SIB12, whose contents come with its
+   conversion: for now only its use_of_HCS tag, so that it reads as all zero behind it. */
+#define umts_use_of_hcs_lcr_r4_ext_FIELDS(F) F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)
+#define umts_measurement_control_sys_info_lcr_r4_ext_FIELDS(F) \
+  F(RECORD, umts_use_of_hcs_lcr_r4_ext, use_of_HCS, 1, UMTS_ALWAYS, _)
+
+/* v4b0: the LCR FACH byte (inter_freq_TDD128_meas_ind), then the LCR measurement control
+   tree, always. */
+#define UMTS_V4B0EXT_FIELDS(F)                                                                         \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                             \
+  F(BOOL, uint8_t, fach_MeasurementOccasionInfo_LCR_Ext, 1, 0, _)                                      \
+  F(RECORD, umts_measurement_control_sys_info_lcr_r4_ext, measurementControlSysInfo_LCR, 1, UMTS_ALWAYS, _)
+#define umts_sib11_v4b0ext_FIELDS(F) UMTS_V4B0EXT_FIELDS(F)
+#define umts_sib12_v4b0ext_FIELDS(F) UMTS_V4B0EXT_FIELDS(F)
+
+/* v590: the RSCP deltas of the intra-frequency events, the periodic reporting of event 1b
+   and event 1d (the cell lists are those of the SIB11bis add-on). */
+#define umts_intra_freq_event_criteria_list_v590ext_FIELDS(F)  \
+  F(SCALAR, uint32_t, count, 1, UMTS_ALWAYS, _)                \
+  F(ARRAY, int8_t, deltaRSCP, 8, UMTS_ALWAYS, count)
+
+#define umts_periodic_reporting_info_1b_FIELDS(F)              \
+  F(SCALAR, uint32_t, reportingAmount, 1, UMTS_ALWAYS, _)      \
+  F(SCALAR, uint32_t, reportingInterval, 1, UMTS_ALWAYS, _)
+
+#define umts_intra_freq_reporting_criteria_1b_r5_FIELDS(F) \
+  F(RECORD, umts_periodic_reporting_info_1b, periodicReportingInfo_1b, 1, UMTS_ALWAYS, _)
+
+#define umts_intra_freq_event_1d_r5_FIELDS(F)                  \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)     \
+  F(SCALAR, uint32_t, triggeringCondition, 1, 0, _)            \
+  F(BOOL, uint8_t, useCIO, 1, 1, _)
+
+#define umts_v590ext_ies_FIELDS(F)                                                                     \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                             \
+  F(RECORD, umts_cell_select_reselect_info_v590ext_list, newIntraFrequencyCellInfoList_v590ext, 1, 0, _) \
+  F(RECORD, umts_cell_select_reselect_info_v590ext_list, newInterFrequencyCellInfoList_v590ext, 1, 1, _) \
+  F(RECORD, umts_cell_select_reselect_info_v590ext_list, newInterRATCellInfoList_v590ext, 1, 2, _)     \
+  F(RECORD, umts_intra_freq_event_criteria_list_v590ext, intraFreqEventCriteriaList_v590ext, 1, 3, _)  \
+  F(RECORD, umts_intra_freq_reporting_criteria_1b_r5, intraFreqReportingCriteria_1b_r5, 1, 4, _)       \
+  F(RECORD, umts_intra_freq_event_1d_r5, intraFreqEvent_1d_r5, 1, 5, _)
+
+/* v690 and v6b0: the inter-frequency RACH reporting information. The v690 form (dummy) holds
+   threshold and cell count as further alternatives of its mode choice; the v6b0 form has the
+   mode choice of FDD and TDD only, and threshold and count beside it. */
+#define umts_inter_freq_rep_quantity_rach_tdd_list_FIELDS(F)   \
+  F(SCALAR, uint32_t, count, 1, UMTS_ALWAYS, _)                \
+  F(ARRAY, uint32_t, entries, 2, UMTS_ALWAYS, count)
+
+#define UMTS_RACH_REPORTING_MODE_FIELDS(F)                                                             \
+  F(SCALAR, uint32_t, interFreqRepQuantityRACH_FDD, 1, 1, _)                                           \
+  F(RECORD, umts_inter_freq_rep_quantity_rach_tdd_list, interFreqRepQuantityRACH_TDDList, 1, 2, _)
+
+#define umts_dummy_inter_freq_rach_reporting_info_mode_specific_info_u_FIELDS(F) \
+  UMTS_RACH_REPORTING_MODE_FIELDS(F)                                            \
+  F(SCALAR, int8_t, interFreqRACHReportingThreshold, 1, 3, _)                   \
+  F(SCALAR, uint8_t, maxReportedCellsOnRACHinterFreq, 1, 4, _)
+
+#define umts_dummy_inter_freq_rach_reporting_info_mode_specific_info_FIELDS(F) \
+  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)                          \
+  F(UNION, umts_dummy_inter_freq_rach_reporting_info_mode_specific_info_u, u, 1, UMTS_ALWAYS, choice_tag)
+
+#define umts_dummy_inter_freq_rach_reporting_info_FIELDS(F) \
+  F(RECORD, umts_dummy_inter_freq_rach_reporting_info_mode_specific_info, modeSpecificInfo, 1, UMTS_ALWAYS, _)
+
+#define umts_v690ext_ies_FIELDS(F)                                                     \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                             \
+  F(RECORD, umts_dummy_inter_freq_rach_reporting_info, dummy, 1, 0, _)
+
+#define umts_inter_freq_rach_reporting_info_mode_specific_info_u_FIELDS(F) UMTS_RACH_REPORTING_MODE_FIELDS(F)
+
+#define umts_inter_freq_rach_reporting_info_mode_specific_info_FIELDS(F) \
+  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)                    \
+  F(UNION, umts_inter_freq_rach_reporting_info_mode_specific_info_u, u, 1, UMTS_ALWAYS, choice_tag)
+
+#define umts_inter_freq_rach_reporting_info_FIELDS(F)                                                          \
+  F(RECORD, umts_inter_freq_rach_reporting_info_mode_specific_info, modeSpecificInfo, 1, UMTS_ALWAYS, _)       \
+  F(SCALAR, int8_t, interFreqRACHReportingThreshold, 1, UMTS_ALWAYS, _)                                        \
+  F(SCALAR, uint8_t, maxReportedCellsOnRACHinterFreq, 1, UMTS_ALWAYS, _)
+
+#define umts_v6b0ext_ies_FIELDS(F)                                                     \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                             \
+  F(RECORD, umts_inter_freq_rach_reporting_info, interFreqRACHReportingInfo, 1, 0, _)
+
+/* v770 and v860 of SIB11: the MBSFN frequencies, and their IMB indications. */
+#define umts_mbsfn_frequency_FIELDS(F)                                 \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)             \
+  F(RECORD, umts_frequency_info, frequencyInfo, 1, UMTS_ALWAYS, _)     \
+  F(SCALAR, uint8_t, cellParametersID, 1, 0, _)
+#define umts_mbsfn_frequency_list_FIELDS(F) UMTS_CELL_LIST_FIELDS(F, umts_mbsfn_frequency, 16)
+
+#define umts_sib11_v770ext_ies_FIELDS(F)                                               \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                             \
+  F(RECORD, umts_mbsfn_frequency_list, mbsfnFrequencyList, 1, 0, _)
+
+#define umts_mbsfn_frequency_v860ext_FIELDS(F)                         \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)             \
+  F(SCALAR, uint32_t, imb_Indication, 1, 0, _)
+#define umts_mbsfn_frequency_list_v860ext_FIELDS(F) UMTS_CELL_LIST_FIELDS(F, umts_mbsfn_frequency_v860ext, 16)
+
+#define umts_sib11_v860ext_ies_FIELDS(F)                                               \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                             \
+  F(RECORD, umts_mbsfn_frequency_list_v860ext, mbsfnFrequencyList, 1, 0, _)
+
+/* The links, from the last one back: each its extension, always, then the next link under
+   bit 0; the last one ends in the byte of an empty sequence. */
+#define UMTS_NC_LINK_FIELDS(F, ext_type, ext_name, next_kind, next_type, next_name)    \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                             \
+  F(RECORD, ext_type, ext_name, 1, UMTS_ALWAYS, _)                                     \
+  F(next_kind, next_type, next_name, 1, 0, _)
+
+#define umts_sib11_v860_nc_extensions_FIELDS(F) \
+  UMTS_NC_LINK_FIELDS(F, umts_sib11_v860ext_ies, sysInfoType11_v860ext, SCALAR, uint8_t, nonCriticalExtensions)
+#define umts_sib11_v7b0_nc_extensions_FIELDS(F)                                        \
+  UMTS_NC_LINK_FIELDS(F, umts_v7b0ext_ies, sysInfoType11_v7b0ext, RECORD, umts_sib11_v860_nc_extensions, \
+                      v860NonCriticalExtensions)
+#define umts_sib11_v770_nc_extensions_FIELDS(F)                                        \
+  UMTS_NC_LINK_FIELDS(F, umts_sib11_v770ext_ies, sysInfoType11_v770ext, RECORD, umts_sib11_v7b0_nc_extensions, \
+                      v7b0NonCriticalExtensions)
+#define umts_sib11_v6b0_nc_extensions_FIELDS(F)                                        \
+  UMTS_NC_LINK_FIELDS(F, umts_v6b0ext_ies, sysInfoType11_v6b0ext, RECORD, umts_sib11_v770_nc_extensions, \
+                      v770NonCriticalExtensions)
+#define umts_sib11_v690_nc_extensions_FIELDS(F)                                        \
+  UMTS_NC_LINK_FIELDS(F, umts_v690ext_ies, sysInfoType11_v690ext, RECORD, umts_sib11_v6b0_nc_extensions, \
+                      v6b0NonCriticalExtensions)
+#define umts_sib11_v590_nc_extension_FIELDS(F)                                         \
+  UMTS_NC_LINK_FIELDS(F, umts_v590ext_ies, sysInfoType11_v590ext, RECORD, umts_sib11_v690_nc_extensions, \
+                      v690NonCriticalExtensions)
+
+#define umts_sib12_v7b0_nc_extensions_FIELDS(F) \
+  UMTS_NC_LINK_FIELDS(F, umts_v7b0ext_ies, sysInfoType12_v7b0ext, SCALAR, uint8_t, nonCriticalExtensions)
+#define umts_sib12_v6b0_nc_extensions_FIELDS(F)                                        \
+  UMTS_NC_LINK_FIELDS(F, umts_v6b0ext_ies, sysInfoType12_v6b0ext, RECORD, umts_sib12_v7b0_nc_extensions, \
+                      v7b0NonCriticalExtensions)
+#define umts_sib12_v690_nc_extensions_FIELDS(F)                                        \
+  UMTS_NC_LINK_FIELDS(F, umts_v690ext_ies, sysInfoType12_v690ext, RECORD, umts_sib12_v6b0_nc_extensions, \
+                      v6b0NonCriticalExtensions)
+#define umts_sib12_v590_nc_extension_FIELDS(F)                                         \
+  UMTS_NC_LINK_FIELDS(F, umts_v590ext_ies, sysInfoType12_v590ext, RECORD, umts_sib12_v690_nc_extensions, \
+                      v690NonCriticalExtensions)
 
 /* ==== The blocks =========================================================================== */
 
@@ -1063,9 +1199,39 @@
   X(RECORD, umts_sib11bis_v860ext_ies)                                  \
   X(RECORD, umts_sib11bis_v860_nc_extensions)                           \
   X(RECORD, umts_sib11bis_v7b0_nc_extensions)                           \
+  X(RECORD, umts_use_of_hcs_lcr_r4_ext)                                 \
+  X(RECORD, umts_measurement_control_sys_info_lcr_r4_ext)               \
   X(RECORD, umts_sib11_v4b0ext)                                         \
-  X(RECORD, umts_sib11_v590_nc_extension)                               \
   X(RECORD, umts_sib12_v4b0ext)                                         \
+  X(RECORD, umts_intra_freq_event_criteria_list_v590ext)                \
+  X(RECORD, umts_periodic_reporting_info_1b)                            \
+  X(RECORD, umts_intra_freq_reporting_criteria_1b_r5)                   \
+  X(RECORD, umts_intra_freq_event_1d_r5)                                \
+  X(RECORD, umts_v590ext_ies)                                           \
+  X(RECORD, umts_inter_freq_rep_quantity_rach_tdd_list)                 \
+  X(UNION, umts_dummy_inter_freq_rach_reporting_info_mode_specific_info_u)\
+  X(RECORD, umts_dummy_inter_freq_rach_reporting_info_mode_specific_info)\
+  X(RECORD, umts_dummy_inter_freq_rach_reporting_info)                  \
+  X(RECORD, umts_v690ext_ies)                                           \
+  X(UNION, umts_inter_freq_rach_reporting_info_mode_specific_info_u)    \
+  X(RECORD, umts_inter_freq_rach_reporting_info_mode_specific_info)     \
+  X(RECORD, umts_inter_freq_rach_reporting_info)                        \
+  X(RECORD, umts_v6b0ext_ies)                                           \
+  X(RECORD, umts_mbsfn_frequency)                                       \
+  X(RECORD, umts_mbsfn_frequency_list)                                  \
+  X(RECORD, umts_sib11_v770ext_ies)                                     \
+  X(RECORD, umts_mbsfn_frequency_v860ext)                               \
+  X(RECORD, umts_mbsfn_frequency_list_v860ext)                          \
+  X(RECORD, umts_sib11_v860ext_ies)                                     \
+  X(RECORD, umts_sib11_v860_nc_extensions)                              \
+  X(RECORD, umts_sib11_v7b0_nc_extensions)                              \
+  X(RECORD, umts_sib11_v770_nc_extensions)                              \
+  X(RECORD, umts_sib11_v6b0_nc_extensions)                              \
+  X(RECORD, umts_sib11_v690_nc_extensions)                              \
+  X(RECORD, umts_sib11_v590_nc_extension)                               \
+  X(RECORD, umts_sib12_v7b0_nc_extensions)                              \
+  X(RECORD, umts_sib12_v6b0_nc_extensions)                              \
+  X(RECORD, umts_sib12_v690_nc_extensions)                              \
   X(RECORD, umts_sib12_v590_nc_extension)                               \
   X(RECORD, umts_sib11_v4b0_nc_extensions)                              \
   X(RECORD, umts_sib12_v4b0_nc_extensions)                              \

@@ -281,23 +281,35 @@ void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used_cell_sel
   both_cell_lists(src, dst, convert_new_intra_freq_cell_si_list_hcs_ecno, convert_new_inter_freq_cell_si_list_hcs_ecno);
 }
 
-/* ---- Heads of the SIB11 and SIB12 extension chains and the LCR tree of SIB11bis, whose
-        contents come with their conversions: for now their presence bits and the LCR tree's
-        use_of_HCS tag ----------------------------------------------------------------------- */
+/* ---- Heads of the SIB11 and SIB12 extension chains --------------------------------------------- */
 
 void convert_sysinfotype11_v4b0_nc_extensions(const SysInfoType11_v4b0NonCriticalExtensions* src,
                                               umts_sib11_v4b0_nc_extensions* dst) {
-  if (src->m & 1u) dst->presence_bitmask |= 1u;
-  if (src->m & 2u) dst->presence_bitmask |= 2u;
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sysInfoType11_v4b0ext, sysInfoType11_v4b0ext);
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension,
+                        v590NonCriticalExtension);
 }
 
 void convert_sysinfotype12_v4b0_nc_extensions(const SysInfoType12_v4b0NonCriticalExtensions* src,
                                               umts_sib12_v4b0_nc_extensions* dst) {
-  if (src->m & 1u) dst->presence_bitmask |= 1u;
-  if (src->m & 2u) dst->presence_bitmask |= 2u;
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sysinfotype12_v4b0ext_ies, sysInfoType12_v4b0ext);
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_sysinfotype12_v4b0nces_v590nce, v590NonCriticalExtension);
 }
+
+/* ---- The LCR trees of the three blocks, whose contents come with their conversion: for now
+        their use_of_HCS tag ----------------------------------------------------------------- */
 
 void convert_measurement_control_sys_info_extension_lcr_r4(const MeasurementControlSysInfoExtension_LCR_r4* src,
                                                            umts_measurement_control_sys_info_extension_lcr_r4* dst) {
+  dst->use_of_HCS.choice_tag = src->use_of_HCS.t;
+}
+
+void convert_MeasurementControlSysInfo_LCR_r4(const MeasurementControlSysInfo_LCR_r4_ext* src,
+                                              umts_measurement_control_sys_info_lcr_r4_ext* dst) {
+  dst->use_of_HCS.choice_tag = src->use_of_HCS.t;
+}
+
+void convert_measurement_control_sys_info_lcr_r4_ext(const MeasurementControlSysInfo_LCR_r4_ext* src,
+                                                     umts_measurement_control_sys_info_lcr_r4_ext* dst) {
   dst->use_of_HCS.choice_tag = src->use_of_HCS.t;
 }

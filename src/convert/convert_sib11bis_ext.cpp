@@ -57,9 +57,7 @@ void convert_sysinfotype11bis_v7b0ext_ies(const SysInfoType11bis_v7b0ext_IEs* sr
 void convert_new_inter_freq_cell_list_v7b0ext(const NewInterFreqCellList_v7b0ext* src,
                                               umts_new_inter_freq_cell_list_v7b0ext* dst) {
   umts_meas::copy_list<NewInterFreqCell_v7b0ext>(src, &dst->count, dst->intraSecondaryFreqIndicator,
-                                                 [](const NewInterFreqCell_v7b0ext* e, uint8_t* flat) {
-                                                   *flat = e->intraSecondaryFreqIndicator;
-                                                 });
+                                                 convert_NewInterFreqCell_v7b0ext);
 }
 
 void convert_sysinfotype11bis_v7b0nces_v860nces(const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions* src,
