@@ -6,36 +6,13 @@
 
 #include "bch_segmenter.h"
 #include "frame_test_util.h"
+#include "meas_pool.h"
 #include "umts_sib_convert.h"
 
 using namespace frametest;
+using meastest::Pool;
 
 namespace {
-
-// ---- Storage of the values built here ----------------------------------------------------
-
-struct Pool {
-  std::vector<void*> blocks;
-  Pool() = default;
-  Pool(const Pool&) = delete;
-  ~Pool() {
-    for (void* b : blocks) std::free(b);
-  }
-  template <class T>
-  T* make() {
-    T* p = static_cast<T*>(std::calloc(1, sizeof(T)));
-    blocks.push_back(p);
-    return p;
-  }
-  template <class T>
-  T* add(rtxDList& list) {
-    T* value = make<T>();
-    rtxDListNode* node = make<rtxDListNode>();
-    node->data = value;
-    rtxDListAppendNode(&list, node);
-    return value;
-  }
-};
 
 template <class P>
 using Pointee = std::remove_pointer_t<P>;
