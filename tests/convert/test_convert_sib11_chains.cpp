@@ -527,18 +527,24 @@ TEST_F(ConvertChains, EveryDepthOfBothChains) {
   for (int depth = 0; depth <= 7; depth++) both(lv, depth, depth <= 5 ? depth : -1);
 }
 
-// The JSON of the record names the levels, from the one field description.
+// The JSON of the record names the levels, from the one field description, and shows the
+// dummy's tag-3 member (the threshold) rather than the quantity that shares its byte.
 TEST_F(ConvertChains, WholeChainInTheJson) {
   Pool p;
-  const SysInfoType11 s = buildSib11(p, 7, Levels());
+  Levels lv;
+  lv.dummy = kRachCases[4];
+  const SysInfoType11 s = buildSib11(p, 7, lv);
   ASSERT_EQ(whole(umts_sib_sib11, encode(asn1PE_UMTS_SysInfoType11, s)), 1);
   std::vector<char> json(1 << 20);
   umts_sib_record_json(result, umts_sib_sib11, json.data(), json.size());
   const std::string text(json.data());
-  for (const char* name : {"\"sysInfoType11_v590ext\"", "\"intraFreqEvent_1d_r5\"", "\"dummy\"",
-                           "\"interFreqRACHReportingInfo\"", "\"sysInfoType11_v770ext\"", "\"sysInfoType11_v7b0ext\"",
-                           "\"imb_Indication\"", "\"fach_MeasurementOccasionInfo_LCR_Ext\""})
+  for (const char* name : {"\"sysInfoType11_v590ext\"", "\"intraFreqEvent_1d_r5\"", "\"interFreqRACHReportingInfo\"",
+                           "\"sysInfoType11_v770ext\"", "\"sysInfoType11_v7b0ext\"", "\"imb_Indication\"",
+                           "\"fach_MeasurementOccasionInfo_LCR_Ext\"", "\"interFreqRACHReportingThreshold\":-87"})
     EXPECT_NE(text.find(name), std::string::npos) << name;
+  const size_t dummy = text.find("\"dummy\""), next = text.find("\"sysInfoType11_v6b0ext\"");
+  ASSERT_LT(dummy, next);
+  EXPECT_EQ(text.substr(dummy, next - dummy).find("interFreqRepQuantityRACH_FDD"), std::string::npos);
 }
 
 TEST_F(ConvertChains, V590Members) {
