@@ -4,6 +4,8 @@
 // the caller's own, where the whole record is written with zeros before each conversion.
 // The sequences here: every random valid encoding of each block that the generator wrote
 // for the round-trip tests, one after another in both orders, and the sample cell's SIBs.
+// The same records check the JSON writers compiled from the field lists against the writer
+// that reads the run-time descriptions.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -15,6 +17,7 @@
 #include <vector>
 
 #include "frame_test_util.h"
+#include "umts_record_desc.h"
 #include "umts_sib_json.h"
 
 namespace {
@@ -75,6 +78,16 @@ std::vector<Encoding> sampleEncodings() {
   return out;
 }
 
+// The record of block `id` as the description-driven writer gives it.
+std::string describedJson(const umts_sib_set* set, umts_sib_id id) {
+  const umts_record_desc* d = describe_umts_sib_set();
+  std::string out;
+  for (uint32_t i = 0; i < d->field_count; i++)
+    if (d->fields[i].cond == static_cast<int32_t>(id))
+      umts_json_append_record(out, d->fields[i].elem_desc, reinterpret_cast<const uint8_t*>(set) + d->fields[i].offset);
+  return out;
+}
+
 class LibrarySetClearing : public FrameTest {
  protected:
   void TearDown() override {
@@ -87,6 +100,7 @@ class LibrarySetClearing : public FrameTest {
     umts_sib_record_json(own, id, a.data(), a.size());
     umts_sib_record_json(result, id, b.data(), b.size());
     EXPECT_EQ(std::string(a.data()), std::string(b.data())) << what;
+    EXPECT_EQ(std::string(a.data()), describedJson(own, id)) << what << ": the compiled JSON writer differs";
     EXPECT_TRUE(sameBytes()) << what << ": the records hold the same values but not the same bytes, from offset "
                              << firstDifference() << " of the set";
   }

@@ -216,7 +216,15 @@ bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' |
 bool parse_hex(const char* text, size_t length, uint8_t* out, size_t capacity, size_t* octets, char* why,
                size_t why_size) {
   size_t digits = 0;
-  for (size_t i = 0; i < length; i++) {
+  size_t i = 0;
+  /* Pairs of digits, as a line of hex without blanks is made of, an octet at a time. */
+  for (; i + 1 < length && i / 2 < capacity; i += 2, digits += 2) {
+    const int hi = hex_value(static_cast<unsigned char>(text[i]));
+    const int lo = hex_value(static_cast<unsigned char>(text[i + 1]));
+    if ((hi | lo) < 0) break;
+    out[i / 2] = static_cast<uint8_t>((hi << 4) | lo);
+  }
+  for (; i < length; i++) {
     const unsigned char c = static_cast<unsigned char>(text[i]);
     const int v = hex_value(c);
     if (v < 0 && is_blank(static_cast<char>(c))) continue;
