@@ -3,8 +3,9 @@
 // a decode with its context set up and released as the library does it, and each
 // conversion of the sample cell next to its decode alone.
 //
-// Input: bench/bch_cycle.bch (328 distinct transport blocks, see its head) and the whole
-// SIBs of the sample cell (samples/fdd_cell_sibs.txt).
+// Input: bench/bch_cycle.bch (the sample cell's broadcast as scheduled over one SFN cycle,
+// 1648 transport blocks, see its head) and the whole SIBs of the sample cell
+// (samples/fdd_cell_sibs.txt).
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <unistd.h>

@@ -64,7 +64,7 @@ def test_sample_cell_values_worked_out_by_hand():
     assert sel["q_hyst1_s"]["value"] == 4 and sel["t_reselection"]["unit"] == "s"
     assert s["access"]["cell_barred"]["name"] == "notBarred" and s["access"]["access_classes_barred"] == []
     sib5 = next(e for e in s["schedule"] if e["sib"] == "sysInfoType5")
-    assert (sib5["repetition_frames"], sib5["position_frame"], sib5["segment_frames"]) == (32, 12, [12, 14, 16])
+    assert (sib5["repetition_frames"], sib5["position_frame"], sib5["segment_frames"]) == (32, 12, [12, 18, 20])  # offsets so6, so2
     gsm = s["neighbours"]["gsm"]
     assert [(g["bcch_arfcn"], g["bsic"]) for g in gsm] == [(62, "3-1"), (70, "3-4"), (81, "5-2")]
 

@@ -207,24 +207,21 @@ std::string entry(const char* sib, const char* by, int rep, int pos, int segs, c
          std::to_string(segs) + ",\"segment_frames\":[" + frames + "],\"value_tag\":" + tag + ",\"seen\":" + seen + "}";
 }
 
-/* SIB_POS is twice the coded position; further segments follow two frames later unless SB1
-   lists offsets (SIB11: so2, two frames). */
+/* SIB_POS is twice the coded position; further segments follow two frames later unless the
+   entry lists offsets (SIB_OFF): SIB5's so6, so2 give 12, 18, 20, SIB11's so6, so8, so16 give
+   28, 34, 42, 58. The MIB names SB1 and the blocks for camping, SB1 the rest and SIB7 again. */
 std::string sample_schedule() {
   return "\"schedule\":[" + entry("masterInformationBlock", "fixed", 8, 0, 1, "0", "3", "true") + "," +
          entry("sysInfoTypeSB1", "mib", 64, 2, 1, "2", "2", "true") + "," +
          entry("sysInfoType1", "mib", 32, 4, 1, "4", "17", "true") + "," +
-         entry("sysInfoType2", "mib", 128, 10, 1, "10", "2", "true") + "," +
          entry("sysInfoType3", "mib", 16, 6, 1, "6", "2", "true") + "," +
-         entry("sysInfoType5", "mib", 32, 12, 3, "12,14,16", "2", "true") + "," +
+         entry("sysInfoType5", "mib", 32, 12, 3, "12,18,20", "2", "true") + "," +
          entry("sysInfoType7", "mib", 16, 14, 1, "14", "null", "true") + "," +
-         entry("sysInfoType11", "mib", 128, 18, 3, "18,20,22", "2", "true") + "," +
-         entry("sysInfoType12", "mib", 128, 42, 1, "42", "2", "true") + "," +
-         entry("sysInfoType18", "mib", 256, 50, 1, "50", "2", "true") + "," +
          entry("sysInfoType2", "sb1", 128, 10, 1, "10", "2", "true") + "," +
          entry("sysInfoType7", "sb1", 16, 14, 1, "14", "null", "true") + "," +
-         entry("sysInfoType11", "sb1", 128, 18, 3, "18,20,22", "2", "true") + "," +
-         entry("sysInfoType12", "sb1", 128, 42, 1, "42", "2", "true") + "," +
-         entry("sysInfoType18", "sb1", 256, 50, 1, "50", "2", "true") + "," +
+         entry("sysInfoType11", "sb1", 128, 28, 4, "28,34,42,58", "2", "true") + "," +
+         entry("sysInfoType12", "sb1", 128, 60, 1, "60", "2", "true") + "," +
+         entry("sysInfoType18", "sb1", 256, 74, 1, "74", "2", "true") + "," +
          entry("systemInfoType19", "sb1", 128, 26, 1, "26", "2", "false") + "]";
 }
 
@@ -255,11 +252,16 @@ TEST(Summary, SampleCellFromBlocksAndCapture) {
                        "\"q_offset2_s_n\":{\"value\":-2,\"unit\":\"dB\",\"coded\":-2}}")) << s;
     EXPECT_TRUE(has(s, "{\"cell_id\":0,\"bcch_arfcn\":62,\"band\":{\"name\":\"dcs1800BandUsed\",\"coded\":0},"
                        "\"bsic\":\"3-1\"")) << s;
-    size_t intra = 0;
+    /* The second carrier, UARFCN 10663, named by its first cell. */
+    EXPECT_TRUE(has(s, "\"inter_frequency\":[{\"cell_id\":0,\"uarfcn_dl\":10663,\"primary_scrambling_code\":301,"))
+        << s;
+    EXPECT_TRUE(has(s, "{\"cell_id\":2,\"uarfcn_dl\":\"same as the cell before\",\"primary_scrambling_code\":328,"))
+        << s;
+    size_t neighbours = 0;
     for (size_t at = s.find("\"primary_scrambling_code\":"); at != std::string::npos;
          at = s.find("\"primary_scrambling_code\":", at + 1))
-      intra++;
-    EXPECT_EQ(intra, 12u);
+      neighbours++;
+    EXPECT_EQ(neighbours, 12u + 3u); /* intra-frequency and inter-frequency */
     /* A file of blocks is one cell, named by the file; a capture's cells by sender and ARFCN. */
     EXPECT_EQ(s.rfind("{\"cell\":\"" + std::string(in.label != nullptr ? in.label : path) + "\",", 0), 0u) << s;
   }
@@ -271,7 +273,7 @@ TEST(Summary, SampleCellFromBlocksAndCapture) {
                            "    cell_identity: value 1715004, rnc_id 26, c_id 11068\n",
                            "    q_rxlevmin: -115 dBm (coded -58)\n", "    t_reselection: 1 s (coded 1)\n",
                            "    cell_barred: notBarred (coded 2)\n", "    - sib sysInfoType5, announced_by mib, repetition_frames 32, position_frame 12, segment_count 3, "
-                           "segment_frames 12 14 16, value_tag 2, seen yes\n",
+                           "segment_frames 12 18 20, value_tag 2, seen yes\n",
                            "bsic 5-2"})
     EXPECT_TRUE(has(t.out, line)) << line << "\n" << t.out;
 }
@@ -770,9 +772,9 @@ TEST(SummaryHtml, PageLoadsInHeadlessChromium) {
   ASSERT_EQ(dom.status, 0) << dom.err;
   EXPECT_TRUE(has(dom.out, "data-cells=\"1\"")) << dom.out.substr(0, 400);
   for (const char* cell : {"<td>262-01</td>", "<td>20001</td>", "<td>value 1715004, rnc_id 26, c_id 11068</td>",
-                           "<td>-115 dBm (coded -58)</td>", "<td>notBarred (coded 2)</td>", "<td>12 14 16</td>",
+                           "<td>-115 dBm (coded -58)</td>", "<td>notBarred (coded 2)</td>", "<td>12 18 20</td>",
                            "<td>dcs1800BandUsed (coded 0)</td>", "<td>3-1</td>",
-                           "<title>sysInfoType5 segment 2 at SFN 14</title>"})
+                           "<title>sysInfoType5 segment 2 at SFN 18</title>"})
     EXPECT_TRUE(has(dom.out, cell)) << cell;
   EXPECT_FALSE(has(dom.err, "Uncaught")) << dom.err;
   EXPECT_FALSE(has(dom.err, "Failed to load resource")) << dom.err;

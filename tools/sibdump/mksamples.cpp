@@ -9,10 +9,15 @@
  *                                                  (input of sibdump --sibs), then a
  *                                                  SIB11bis and a second form of SIB11
  *                                                  (HCS in use, Ec/N0) not in the cycle
+ *                          DIR/tdd128_cell_sibs.txt  SIB11 and SIB12 of a 1.28 Mcps TDD
+ *                                                  cell, whole
+ *   mksamples DIR CYCLE  also writes CYCLE: the cell's broadcast as its MIB and SB1
+ *                        schedule it, over one SFN cycle (the benchmarks' input)
  *
  * The cell: MCC 262, MNC 01, LAC 0x4E21, RAC 5, cell identity 0x01A2B3C (RNC 26, C-Id 11068),
  * primary scrambling code 123 on one carrier, in four URAs, a dozen intra-frequency neighbours
- * (one shared with a roaming partner, MNC 02) and three GSM neighbours of that partner, with the
+ * (one shared with a roaming partner, MNC 02), three cells on the operator's second carrier
+ * and three GSM neighbours of that partner, with the
  * Rel-8 extensions of SB1, SIB1 and SIB18, and a second form of its SIB5 after the cycle.
  * Every SIB is decoded again after encoding, so that a value the decoder would not read back
  * stops the run.
@@ -21,6 +26,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -125,18 +131,63 @@ MKS_DEFINE_CHECK(SysInfoType18)
 
 /* ---- Scheduling -------------------------------------------------------------------------- */
 
-/* Where a block is broadcast: SIB_REP in frames and SIB_POS (an even frame number). */
+/* Where a block is broadcast: SIB_REP in frames, SIB_POS (an even frame number) and the frames
+   from each segment to the next (SIB_OFF, 2 to 32), one per segment after the first. */
 struct Schedule {
   uint32_t rep;
   uint32_t pos;
+  std::vector<uint32_t> offsets;
+  uint32_t segments() const { return static_cast<uint32_t>(offsets.size()) + 1u; }
 };
 
-/* With `offsets`, a block of several segments lists the offsets of its later segments: each
-   follows two frames after the one before (so2), which is also what an absent list means. */
-void set_scheduling(SchedulingInformation* s, Schedule at, uint32_t seg_count, bool offsets = false) {
+constexpr uint32_t kSfnCycle = 4096; /* frames */
+
+/* The frames of the SFN cycle that the blocks placed so far take. A cell never sends two
+   blocks in one frame: each block placed finds frames of its own. */
+struct FrameMap {
+  std::vector<bool> taken = std::vector<bool>(kSfnCycle, false);
+
+  bool free_every(uint32_t rep, uint32_t frame) const {
+    for (uint32_t f = frame % rep; f < kSfnCycle; f += rep)
+      if (taken[f]) return false;
+    return true;
+  }
+
+  /* The first position from `want` on (within one period) where every segment finds a
+     free frame in each repetition, each segment as soon after the one before as that allows. */
+  Schedule place(uint32_t rep, uint32_t want, uint32_t segments, const char* what) {
+    for (uint32_t tried = 0; tried < rep; tried += 2) {
+      const uint32_t pos = (want + tried) % rep;
+      if (!free_every(rep, pos)) continue;
+      Schedule at{rep, pos, {}};
+      uint32_t last = pos;
+      while (at.segments() < segments) {
+        uint32_t next = last + 2;
+        while (next - last <= 32 && next < pos + rep && !free_every(rep, next)) next += 2;
+        if (next - last > 32 || next >= pos + rep) break;
+        at.offsets.push_back(next - last);
+        last = next;
+      }
+      if (at.segments() < segments) continue;
+      uint32_t frame = pos;
+      for (uint32_t i = 0; i < segments; i++) {
+        for (uint32_t f = frame % rep; f < kSfnCycle; f += rep) taken[f] = true;
+        if (i < at.offsets.size()) frame += at.offsets[i];
+      }
+      return at;
+    }
+    std::fprintf(stderr, "mksamples: no frames left for %s (%u segments every %u frames)\n", what, segments, rep);
+    std::exit(1);
+  }
+};
+
+/* With `list_offsets`, a block of several segments lists the offsets of its later segments
+   even where each is two frames (so2), which is also what an absent list means; a list with
+   another offset is always given. */
+void set_scheduling(SchedulingInformation* s, const Schedule& at, bool list_offsets = false) {
   asn1Init_UMTS_SchedulingInformation(s);
   SchedulingInformation_scheduling* sch = &s->scheduling;
-  sch->segCount = static_cast<uint8_t>(seg_count);
+  sch->segCount = static_cast<uint8_t>(at.segments());
   /* sib-Pos counts in units of two frames: rep4 (1) ... rep4096 (11). */
   uint32_t t = 1;
   for (uint32_t r = 4; r < at.rep; r *= 2) t++;
@@ -147,10 +198,12 @@ void set_scheduling(SchedulingInformation* s, Schedule at, uint32_t seg_count, b
   } else {
     sch->sib_Pos.u.rep1024 = static_cast<uint16_t>(value);
   }
-  if (offsets && seg_count > 1) {
+  bool other = false;
+  for (uint32_t o : at.offsets) other = other || o != 2;
+  if ((list_offsets || other) && !at.offsets.empty()) {
     sch->m |= 1u; /* sib-PosOffsetInfo */
-    sch->sib_PosOffsetInfo.n = seg_count - 1;
-    for (uint32_t i = 0; i + 1 < seg_count; i++) sch->sib_PosOffsetInfo.elem[i] = UMTS_SibOFF_so2;
+    sch->sib_PosOffsetInfo.n = static_cast<uint32_t>(at.offsets.size());
+    for (size_t i = 0; i < at.offsets.size(); i++) sch->sib_PosOffsetInfo.elem[i] = at.offsets[i] / 2 - 1; /* so2 = 0 */
   }
 }
 
@@ -159,11 +212,19 @@ constexpr uint8_t kMibValueTag = 3;
 constexpr uint16_t kPlmnValueTag = 17;
 constexpr uint8_t kCellValueTag = 2;
 
-/* What the MIB and SB1 schedule, with the segment count found by cutting the cycle. */
-struct Scheduled {
-  uint32_t tag;       /* SIBSb-TypeAndTag / SIB-TypeAndTag alternative */
-  Schedule at;
+/* The SIBs of the cycle. */
+enum CycleIndex : uint32_t { kMib, kSb1, kSib1, kSib2, kSib3, kSib5, kSib7, kSib11, kSib12, kSib18, kSib5Second, kCycleSize };
+
+/* A block that the MIB or SB1 references: its SIBSb-TypeAndTag / SIB-TypeAndTag alternative. */
+struct Ref {
+  uint32_t tag;
   uint32_t sib_index; /* in the cycle's SIB list */
+};
+
+/* Where each block of the cycle is broadcast, with the segment count found by cutting it. */
+struct Plan {
+  std::vector<Schedule> at = std::vector<Schedule>(kCycleSize); /* by cycle index; MIB included */
+  Schedule sib19;
 };
 
 const uint32_t kTagSysInfoType1 = 1, kTagSysInfoType2 = 2, kTagSysInfoType3 = 3, kTagSysInfoType5 = 5,
@@ -173,7 +234,41 @@ const uint32_t kTagSbSysInfoTypeSB1 = 22, kTagSbSysInfoType18 = 28, kTagSibSysIn
 /* SIB19 (priorities for UTRA and E-UTRA reselection), scheduled by SB1's Rel-8 extension. It
    is not part of the cycle written here: the library does not convert it. */
 const uint32_t kTagExt2SysInfoType19 = 1;
-const Schedule kSib19At = {128, 26};
+
+/* The references of the MIB and SB1, in their order. The MIB, which must fit one transport
+   block, references SB1 and the blocks that a UE needs first to camp (SIB1, SIB3, SIB5, SIB7);
+   SB1 the rest: SIB2, the measurement blocks and SIB18, and SIB7 once more (whose entry has no
+   value tag: SIB7 expires instead). */
+const Ref kMibRefs[] = {{kTagSbSysInfoTypeSB1, kSb1}, {kTagSysInfoType1, kSib1}, {kTagSysInfoType3, kSib3},
+                        {kTagSysInfoType5, kSib5},     {kTagSysInfoType7, kSib7}};
+const Ref kSb1Refs[] = {{kTagSysInfoType2, kSib2},
+                        {kTagSysInfoType7, kSib7},
+                        {kTagSysInfoType11, kSib11},
+                        {kTagSysInfoType12, kSib12},
+                        {kTagSibSysInfoType18, kSib18}};
+
+/* Repetition and wanted position of each block, placed in this order (shortest repetition
+   first): the MIB every 8 frames at SFN 0; SIB3 and SIB7 often, SIB1, SIB5 and SB1 less, the
+   measurement blocks, SIB2 and SIB18 seldom. SIB19 (rep 128 at 26, which SB1 schedules though
+   the cycle does not carry it) is placed before SIB11. */
+struct Wish {
+  uint32_t sib_index;
+  uint32_t rep;
+  uint32_t pos;
+};
+const Wish kWishes[] = {{kMib, 8, 0},     {kSib3, 16, 6},    {kSib7, 16, 14},   {kSib1, 32, 4},
+                        {kSib5, 32, 12},  {kSb1, 64, 2},     {kSib2, 128, 10},  {kSib11, 128, 18},
+                        {kSib12, 128, 42}, {kSib18, 256, 50}};
+
+Plan place_cycle(const std::vector<uint32_t>& seg_counts, const std::vector<Sib>& sibs) {
+  FrameMap map;
+  Plan plan;
+  for (const Wish& w : kWishes) {
+    if (w.sib_index == kSib11) plan.sib19 = map.place(128, 26, 1, "SIB19");
+    plan.at[w.sib_index] = map.place(w.rep, w.pos, seg_counts[w.sib_index], sibs[w.sib_index].label);
+  }
+  return plan;
+}
 
 /* Every alternative used here but the first holds a CellValueTag (u8) at the start of the
    union, sysInfoType7 nothing. */
@@ -190,29 +285,29 @@ void set_type_and_tag(TypeAndTag* t, uint32_t tag) {
 
 /* ---- The blocks --------------------------------------------------------------------------- */
 
-void build_mib(Sib& sib, const std::vector<Scheduled>& refs, const std::vector<uint32_t>& seg_counts) {
+void build_mib(Sib& sib, const Plan& plan) {
   MasterInformationBlock* mib = make<MasterInformationBlock>();
   asn1Init_UMTS_MasterInformationBlock(mib);
   mib->mib_ValueTag = kMibValueTag;
   mib->plmn_Type.t = 1; /* gsm-MAP */
   mib->plmn_Type.u.gsm_MAP = make<PLMN_Type_gsm_MAP>();
   set_plmn(&mib->plmn_Type.u.gsm_MAP->plmn_Identity, "262", "01");
-  for (const Scheduled& r : refs) {
+  for (const Ref& r : kMibRefs) {
     SchedulingInformationSIBSb* e = make<SchedulingInformationSIBSb>();
     set_type_and_tag(&e->sibSb_Type, r.tag);
-    set_scheduling(&e->scheduling, r.at, seg_counts[r.sib_index]);
+    set_scheduling(&e->scheduling, plan.at[r.sib_index]);
     append(&mib->sibSb_ReferenceList, e);
   }
   MKS_ENCODE(MasterInformationBlock, mib, sib);
 }
 
-void build_sb1(Sib& sib, const std::vector<Scheduled>& refs, const std::vector<uint32_t>& seg_counts) {
+void build_sb1(Sib& sib, const Plan& plan) {
   SysInfoTypeSB1* sb1 = make<SysInfoTypeSB1>();
   asn1Init_UMTS_SysInfoTypeSB1(sb1);
-  for (const Scheduled& r : refs) {
+  for (const Ref& r : kSb1Refs) {
     SchedulingInformationSIB* e = make<SchedulingInformationSIB>();
     set_type_and_tag(&e->sib_Type, r.tag);
-    set_scheduling(&e->scheduling, r.at, seg_counts[r.sib_index], true);
+    set_scheduling(&e->scheduling, plan.at[r.sib_index], true);
     append(&sb1->sib_ReferenceList, e);
   }
   /* The v6b0 level, without its list, only carries the v860 level, which schedules SIB19. */
@@ -223,7 +318,7 @@ void build_sb1(Sib& sib, const std::vector<Scheduled>& refs, const std::vector<u
   v860->m |= 1u; /* extSIBTypeInfoSchedulingInfo-List */
   ExtSIBTypeInfoSchedulingInfo2* sib19 = make<ExtSIBTypeInfoSchedulingInfo2>();
   sib19->extensionSIB_Type2.t = kTagExt2SysInfoType19;
-  set_scheduling(&sib19->schedulingInfo, kSib19At, 1);
+  set_scheduling(&sib19->schedulingInfo, plan.sib19);
   sib19->valueTagInfo.t = 2; /* cellValueTag */
   sib19->valueTagInfo.u.cellValueTag = kCellValueTag;
   append(&v860->extSIBTypeInfoSchedulingInfo_List, sib19);
@@ -855,11 +950,83 @@ MeasurementControlSysInfo measurement_control(size_t neighbours, bool gsm, bool 
   return mc;
 }
 
+/* The operator's second UMTS carrier (downlink UARFCN 10663, uplink 9713) and three of its
+   cells: the first names the frequency, the others are on the same one. */
+const uint16_t kSecondCarrierDL = 10663;
+const uint16_t kSecondCarrierUL = 9713;
+const uint16_t kInterNeighbours[] = {301, 315, 328};
+const size_t kInterNeighbourCount = sizeof kInterNeighbours / sizeof kInterNeighbours[0];
+
+InterFreqMeasurementSysInfo_ECN0 inter_freq() {
+  InterFreqMeasurementSysInfo_ECN0 m;
+  std::memset(&m, 0, sizeof m);
+  m.m = 1u << 0; /* interFreqCellInfoSI-List */
+  m.interFreqCellInfoSI_List.m = 1u << 1; /* newInterFreqCellList */
+  for (size_t i = 0; i < kInterNeighbourCount; i++) {
+    NewInterFreqCellSI_ECN0* cell = make<NewInterFreqCellSI_ECN0>();
+    cell->m = 1u << 0; /* interFreqCellID */
+    cell->interFreqCellID = static_cast<uint8_t>(i);
+    if (i == 0) {
+      cell->m |= 1u << 1; /* frequencyInfo */
+      cell->frequencyInfo.modeSpecificInfo.t = 1;
+      FrequencyInfoFDD* fdd = make<FrequencyInfoFDD>();
+      fdd->m = 1u << 0;
+      fdd->uarfcn_UL = kSecondCarrierUL;
+      fdd->uarfcn_DL = kSecondCarrierDL;
+      cell->frequencyInfo.modeSpecificInfo.u.fdd = fdd;
+    }
+    cell->cellInfo.modeSpecificInfo.t = 1;
+    CellInfoSI_ECN0_modeSpecificInfo_fdd* fdd = make<CellInfoSI_ECN0_modeSpecificInfo_fdd>();
+    fdd->m = 1u << 0;
+    fdd->primaryCPICH_Info.primaryScramblingCode = kInterNeighbours[i];
+    cell->cellInfo.modeSpecificInfo.u.fdd = fdd;
+    append(&m.interFreqCellInfoSI_List.newInterFreqCellList, cell);
+  }
+  return m;
+}
+
+/* The non-critical extensions of the cycle's SIB11, each level down to v860: v590 lowers
+   Qrxlevmin of the first intra-frequency neighbour by 2 dB (the list has an entry for each
+   cell), v7b0 says that the second carrier's cells are not on a secondary frequency, and the
+   other levels carry nothing of their own. */
+void add_sib11_extensions(SysInfoType11* s) {
+  s->m |= 1u << 1;
+  SysInfoType11_v4b0NonCriticalExtensions* v4b0 = &s->v4b0NonCriticalExtensions;
+  v4b0->m = 1u << 1; /* no v4b0 IEs (they are for 1.28 Mcps TDD), the v590 level */
+  auto* v590 = &v4b0->v590NonCriticalExtension;
+  v590->sysInfoType11_v590ext.m = 1u << 0; /* newIntraFrequencyCellInfoList-v590ext */
+  for (size_t i = 0; i < sizeof kIntraNeighbours / sizeof kIntraNeighbours[0]; i++) {
+    CellSelectReselectInfo_v590ext* e = make<CellSelectReselectInfo_v590ext>();
+    if (i == 0) {
+      e->m = 1u << 0;
+      e->deltaQrxlevmin = -1; /* 2 dB */
+    }
+    append(&v590->sysInfoType11_v590ext.newIntraFrequencyCellInfoList_v590ext, e);
+  }
+  v590->m = 1;
+  auto* v690 = &v590->v690NonCriticalExtensions;
+  v690->m = 1;
+  auto* v6b0 = &v690->v6b0NonCriticalExtensions;
+  v6b0->m = 1;
+  auto* v770 = &v6b0->v770NonCriticalExtensions;
+  v770->m = 1;
+  auto* v7b0 = &v770->v7b0NonCriticalExtensions;
+  v7b0->sysInfoType11_v7b0ext.m = 1u << 0; /* newInterFreqCellList */
+  for (size_t i = 0; i < kInterNeighbourCount; i++)
+    append(&v7b0->sysInfoType11_v7b0ext.newInterFreqCellList, make<NewInterFreqCell_v7b0ext>());
+  v7b0->m = 1; /* v860, with nothing of its own and no later level */
+}
+
 void build_sib11(Sib& sib) {
   SysInfoType11* s = make<SysInfoType11>();
   asn1Init_UMTS_SysInfoType11(s);
   s->sib12indicator = 1;
   s->measurementControlSysInfo = measurement_control(sizeof kIntraNeighbours / sizeof kIntraNeighbours[0], true, false);
+  MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* ec =
+      s->measurementControlSysInfo.use_of_HCS.u.hcs_not_used->cellSelectQualityMeasure.u.cpich_Ec_N0;
+  ec->m |= 1u << 1; /* interFreqMeasurementSysInfo */
+  ec->interFreqMeasurementSysInfo = inter_freq();
+  add_sib11_extensions(s);
   MKS_ENCODE(SysInfoType11, s, sib);
 }
 
@@ -981,6 +1148,122 @@ void build_sib11bis(Sib& sib) {
   g->bcch_ARFCN = 94;
   append(&nu->newInterRATCellList, gsm);
   MKS_ENCODE(SysInfoType11bis, s, sib);
+}
+
+/* ---- 1.28 Mcps TDD forms of SIB11 and SIB12 ---------------------------------------------- */
+
+/* A 1.28 Mcps TDD cell sends its neighbours in the LCR tree of the v4b0 extension; the main
+   tree, which it must send too, only names P-CCPCH RSCP as the quality measure. Its
+   intra-frequency neighbours by cell parameters ID, with the timeslots to measure on; the
+   first reselects with its own Qrxlevmin. Its inter-frequency neighbours on a second carrier
+   (UARFCN 10080), the first naming it. */
+struct LcrNeighbour {
+  uint8_t cell_parameters_id;
+  std::initializer_list<uint8_t> timeslots;
+};
+const LcrNeighbour kLcrIntraNeighbours[] = {{12, {1, 2}}, {25, {1}}, {37, {}}, {54, {2, 4, 5}}};
+const uint8_t kLcrInterNeighbours[] = {66, 71};
+const uint16_t kLcrSecondCarrier = 10080;
+
+void set_lcr_cell(CellInfoSI_RSCP_LCR_r4* c, uint8_t cell_parameters_id, std::initializer_list<uint8_t> timeslots) {
+  c->primaryCCPCH_Info.m = 1u << 0;
+  c->primaryCCPCH_Info.cellParametersID = cell_parameters_id;
+  if (timeslots.size() != 0) {
+    c->m |= 1u << 2; /* timeslotInfoList */
+    for (uint8_t ts : timeslots) {
+      TimeslotInfo_LCR_r4* t = make<TimeslotInfo_LCR_r4>();
+      t->timeslotNumber = ts;
+      append(&c->timeslotInfoList, t);
+    }
+  }
+}
+
+MeasurementControlSysInfo_LCR_r4_ext lcr_measurement_control(size_t intra, size_t inter) {
+  MeasurementControlSysInfo_LCR_r4_ext lcr;
+  std::memset(&lcr, 0, sizeof lcr);
+  lcr.use_of_HCS.t = 1; /* hcs-not-used */
+  auto* nu = make<MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used>();
+  lcr.use_of_HCS.u.hcs_not_used = nu;
+  nu->cellSelectQualityMeasure.t = 1; /* cpich-RSCP, which a TDD cell reads as P-CCPCH RSCP */
+  auto* rscp = make<MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP>();
+  nu->cellSelectQualityMeasure.u.cpich_RSCP = rscp;
+  rscp->m = 1u << 0;
+  rscp->intraFreqMeasurementSysInfo.intraFreqMeasurementID = 1;
+  rscp->intraFreqMeasurementSysInfo.m = 1u << 0;
+  for (size_t i = 0; i < intra; i++) {
+    NewIntraFreqCellSI_RSCP_LCR_r4* cell = make<NewIntraFreqCellSI_RSCP_LCR_r4>();
+    cell->m = 1u << 0;
+    cell->intraFreqCellID = static_cast<uint8_t>(i + 1);
+    set_lcr_cell(&cell->cellInfo, kLcrIntraNeighbours[i].cell_parameters_id, kLcrIntraNeighbours[i].timeslots);
+    if (i == 0) {
+      cell->cellInfo.m |= 1u << 3; /* cellSelectionReselectionInfo */
+      CellSelectReselectInfoSIB_11_12_RSCP* r = &cell->cellInfo.cellSelectionReselectionInfo;
+      r->q_OffsetS_N = 2;
+      r->modeSpecificInfo.t = 2;
+      r->modeSpecificInfo.u.tdd = make<CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd>();
+      r->modeSpecificInfo.u.tdd->m = 1u << 0;
+      r->modeSpecificInfo.u.tdd->q_RxlevMin = -50; /* -99 dBm */
+    }
+    append(&rscp->intraFreqMeasurementSysInfo.intraFreqCellInfoSI_List.newIntraFreqCellList, cell);
+  }
+  if (inter != 0) {
+    rscp->m |= 1u << 1;
+    rscp->interFreqMeasurementSysInfo.m = 1u << 0;
+    InterFreqCellInfoSI_List_RSCP_LCR* l = &rscp->interFreqMeasurementSysInfo.interFreqCellInfoSI_List;
+    l->m = 1u << 1; /* newInterFreqCellList */
+    for (size_t i = 0; i < inter; i++) {
+      NewInterFreqCellSI_RSCP_LCR_r4* cell = make<NewInterFreqCellSI_RSCP_LCR_r4>();
+      cell->m = 1u << 0;
+      cell->interFreqCellID = static_cast<uint8_t>(i);
+      if (i == 0) {
+        cell->m |= 1u << 1;
+        cell->frequencyInfo.modeSpecificInfo.t = 2;
+        cell->frequencyInfo.modeSpecificInfo.u.tdd = make<FrequencyInfoTDD>();
+        cell->frequencyInfo.modeSpecificInfo.u.tdd->uarfcn_Nt = kLcrSecondCarrier;
+      }
+      set_lcr_cell(&cell->cellInfo, kLcrInterNeighbours[i], {});
+      append(&l->newInterFreqCellList, cell);
+    }
+  }
+  return lcr;
+}
+
+/* The main tree of a 1.28 Mcps cell: no HCS, P-CCPCH RSCP, nothing else. */
+void set_lcr_main_tree(MeasurementControlSysInfo* mc) {
+  asn1Init_UMTS_MeasurementControlSysInfo(mc);
+  mc->use_of_HCS.t = 1;
+  auto* nu = make<MeasurementControlSysInfo_use_of_HCS_hcs_not_used>();
+  mc->use_of_HCS.u.hcs_not_used = nu;
+  nu->cellSelectQualityMeasure.t = 1;
+  nu->cellSelectQualityMeasure.u.cpich_RSCP =
+      make<MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP>();
+}
+
+void build_sib11_lcr(Sib& sib) {
+  SysInfoType11* s = make<SysInfoType11>();
+  asn1Init_UMTS_SysInfoType11(s);
+  s->sib12indicator = 1;
+  set_lcr_main_tree(&s->measurementControlSysInfo);
+  s->m |= 1u << 1;
+  s->v4b0NonCriticalExtensions.m = 1u << 0;
+  SysInfoType11_v4b0ext_IEs* v4b0 = &s->v4b0NonCriticalExtensions.sysInfoType11_v4b0ext;
+  v4b0->m = 1u << 0; /* the FACH measurement occasion of 1.28 Mcps TDD */
+  v4b0->fach_MeasurementOccasionInfo_LCR_Ext.inter_freq_TDD128_meas_ind = 1;
+  v4b0->measurementControlSysInfo_LCR =
+      lcr_measurement_control(sizeof kLcrIntraNeighbours / sizeof kLcrIntraNeighbours[0],
+                              sizeof kLcrInterNeighbours / sizeof kLcrInterNeighbours[0]);
+  MKS_ENCODE(SysInfoType11, s, sib);
+}
+
+void build_sib12_lcr(Sib& sib) {
+  SysInfoType12* s = make<SysInfoType12>();
+  asn1Init_UMTS_SysInfoType12(s);
+  set_lcr_main_tree(&s->measurementControlSysInfo);
+  s->m |= 1u << 1;
+  s->v4b0NonCriticalExtensions.m = 1u << 0;
+  SysInfoType12_v4b0ext_IEs* v4b0 = &s->v4b0NonCriticalExtensions.sysInfoType12_v4b0ext;
+  v4b0->measurementControlSysInfo_LCR = lcr_measurement_control(2, 0);
+  MKS_ENCODE(SysInfoType12, s, sib);
 }
 
 /* A neighbour list of SIB18: `cells` entries, the first with MCC 262 and `mnc`, the others
@@ -1349,8 +1632,6 @@ void add_hspa_samples(std::vector<Sib>& whole_only) {
 
 /* ---- The cycle ---------------------------------------------------------------------------- */
 
-enum CycleIndex : uint32_t { kMib, kSb1, kSib1, kSib2, kSib3, kSib5, kSib7, kSib11, kSib12, kSib18, kSib5Second, kCycleSize };
-
 std::string hex(const uint8_t* data, size_t n) {
   static const char digits[] = "0123456789abcdef";
   std::string s;
@@ -1385,6 +1666,84 @@ std::vector<umts_bch_block> cut(const std::vector<Sib>& sibs) {
   return blocks;
 }
 
+/* One SIB cut on its own, as a cell cuts a block that has frames of its own. */
+std::vector<umts_bch_block> cut_alone(const Sib& sib) {
+  const umts_bch_sib alone = {sib.sib_type, sib.bytes.data(), sib.numbits, 1};
+  std::vector<umts_bch_block> blocks(16);
+  uint32_t count = 0;
+  if (umts_bch_segment(&alone, 1, 0, blocks.data(), 16, &count, nullptr) != umts_bch_ok) die("cannot cut a SIB alone");
+  blocks.resize(count);
+  return blocks;
+}
+
+/* The first 11 bits of a BCCH-BCH-Message are SFN' (SFN / 2). */
+void set_sfn_prime(uint8_t* block, uint32_t sfn_prime) {
+  const uint32_t first = (sfn_prime << 5) | (((block[0] << 8) | block[1]) & 0x1Fu);
+  block[0] = static_cast<uint8_t>(first >> 8);
+  block[1] = static_cast<uint8_t>(first);
+}
+
+/* The cycle broadcast as its MIB and SB1 schedule it, over one SFN cycle of 4096 frames:
+   each block in the frames of its segments and nowhere else, cut on its own (so its segment
+   counts, and with them the MIB and SB1, are those of that cut). The frames that nothing
+   occupies (and those of SIB19) carry no block. The benchmarks' input. */
+std::string scheduled_cycle(std::vector<Sib> sibs) {
+  std::vector<uint32_t> counts(kCycleSize, 1);
+  Plan plan;
+  std::vector<std::vector<umts_bch_block>> cuts(kCycleSize);
+  for (int pass = 0;; pass++) {
+    if (pass == 4) die("segment counts of the scheduled cycle do not settle");
+    plan = place_cycle(counts, sibs);
+    build_sb1(sibs[kSb1], plan);
+    build_mib(sibs[kMib], plan);
+    std::vector<uint32_t> found(kCycleSize, 1);
+    for (uint32_t i = 0; i < kCycleSize; i++) {
+      if (i == kSib5Second) continue;
+      cuts[i] = cut_alone(sibs[i]);
+      found[i] = static_cast<uint32_t>(cuts[i].size());
+    }
+    if (found == counts) break;
+    counts = found;
+  }
+  std::vector<int32_t> at(kSfnCycle, -1); /* cycle index * 16 + segment of each frame */
+  for (const Wish& w : kWishes) {
+    const Schedule& sch = plan.at[w.sib_index];
+    uint32_t frame = sch.pos;
+    for (uint32_t seg = 0; seg < sch.segments(); seg++) {
+      for (uint32_t f = frame; f < kSfnCycle; f += sch.rep) at[f] = static_cast<int32_t>(w.sib_index * 16 + seg);
+      if (seg < sch.offsets.size()) frame += sch.offsets[seg];
+    }
+  }
+  std::string text =
+      "# The sample cell's broadcast as its MIB and SB1 schedule it, over one SFN cycle (4096\n"
+      "# frames): each SIB in the frames of its segments, cut on its own, the frames that nothing\n"
+      "# occupies (and those of SIB19, which the cycle does not carry) without a block. The input\n"
+      "# of the benchmarks of the whole road (bench/bench_road.cpp) and of timing sibdump; not a\n"
+      "# recording. Written by mksamples (make samples) with the SIBs of samples/fdd_cell.bch\n"
+      "# (the first form of SIB5). One transport block per line, in hexadecimal, SFN' in order.\n"
+      "#\n"
+      "# Block: repetition, position and frames of its segments (frames of the period), blocks sent\n";
+  uint32_t sent = 0;
+  for (const Wish& w : kWishes) {
+    const Schedule& sch = plan.at[w.sib_index];
+    std::string frames = std::to_string(sch.pos);
+    uint32_t frame = sch.pos;
+    for (uint32_t o : sch.offsets) frames += "," + std::to_string(frame += o);
+    const uint32_t count = sch.segments() * (kSfnCycle / sch.rep);
+    sent += count;
+    text += "#   " + std::string(sibs[w.sib_index].label) + ": " + std::to_string(sch.rep) + ", " +
+            std::to_string(sch.pos) + ", " + frames + "; " + std::to_string(count) + "\n";
+  }
+  text += "#   " + std::to_string(sent) + " blocks\n";
+  for (uint32_t frame = 0; frame < kSfnCycle; frame += 2) {
+    if (at[frame] < 0) continue;
+    umts_bch_block b = cuts[static_cast<uint32_t>(at[frame]) / 16][static_cast<uint32_t>(at[frame]) % 16];
+    set_sfn_prime(b.data, frame / 2);
+    text += hex(b.data, UMTS_BCH_BLOCK_OCTETS) + "\n";
+  }
+  return text;
+}
+
 std::string describe(const umts_bch_block& b, const std::vector<Sib>& sibs) {
   std::string s = "SFN' " + std::to_string(b.sfn_prime) + " " + umts_bch_payload_name(b.payload) + ":";
   for (uint32_t i = 0; i < b.piece_count; i++) {
@@ -1414,8 +1773,9 @@ bool write_file(const std::string& path, const std::string& text) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 2 || argv[1][0] == '-') {
-    std::fprintf(stderr, "Usage: mksamples DIR\nWrites DIR/fdd_cell.bch and DIR/fdd_cell_sibs.txt.\n");
+  if (argc < 2 || argc > 3 || argv[1][0] == '-') {
+    std::fprintf(stderr, "Usage: mksamples DIR [CYCLE]\nWrites DIR/fdd_cell.bch, DIR/fdd_cell_sibs.txt and DIR/tdd128_cell_sibs.txt,\n"
+                 "and with CYCLE the cell's broadcast as scheduled over one SFN cycle to that file.\n");
     return 2;
   }
   const std::string dir = argv[1];
@@ -1462,30 +1822,22 @@ int main(int argc, char** argv) {
   whole_only[1] = {"sib11bis", "SIB11bis (not in the cycle)", 31, {}, 0};
   build_sib11_hcs(whole_only[0]);
   build_sib11bis(whole_only[1]);
-  add_hspa_samples(whole_only);
 
-  /* Scheduling: MIB every 8 frames at SFN 0; SB1, SIB1, SIB3 and SIB7 often, the rest less. */
-  const std::vector<Scheduled> mib_refs = {
-      {kTagSbSysInfoTypeSB1, {64, 2}, kSb1},  {kTagSysInfoType1, {32, 4}, kSib1},
-      {kTagSysInfoType2, {128, 10}, kSib2},   {kTagSysInfoType3, {16, 6}, kSib3},
-      {kTagSysInfoType5, {32, 12}, kSib5},    {kTagSysInfoType7, {16, 14}, kSib7},
-      {kTagSysInfoType11, {128, 18}, kSib11}, {kTagSysInfoType12, {128, 42}, kSib12},
-      {kTagSbSysInfoType18, {256, 50}, kSib18}};
-  /* SB1 repeats the references of SIB2, SIB7 (whose entry has no value tag: SIB7 expires
-     instead), the measurement blocks and SIB18, so that a UE that reads SB1 first finds them
-     there. */
-  const std::vector<Scheduled> sb1_refs = {{kTagSysInfoType2, {128, 10}, kSib2},
-                                           {kTagSysInfoType7, {16, 14}, kSib7},
-                                           {kTagSysInfoType11, {128, 18}, kSib11},
-                                           {kTagSysInfoType12, {128, 42}, kSib12},
-                                           {kTagSibSysInfoType18, {256, 50}, kSib18}};
+  /* The measurement blocks of a 1.28 Mcps TDD cell, in a file of their own. */
+  std::vector<Sib> tdd128(2);
+  tdd128[0] = {"sib11", "SIB11 of a 1.28 Mcps TDD cell", 11, {}, 0};
+  tdd128[1] = {"sib12", "SIB12 of a 1.28 Mcps TDD cell", 12, {}, 0};
+  build_sib11_lcr(tdd128[0]);
+  build_sib12_lcr(tdd128[1]);
+  add_hspa_samples(whole_only);
 
   /* The segment counts go into the scheduling, so cut once with counts of 1, then again. */
   std::vector<uint32_t> seg_counts(kCycleSize, 1);
   std::vector<umts_bch_block> blocks;
   for (int pass = 0; pass < 3; pass++) {
-    build_sb1(sibs[kSb1], sb1_refs, seg_counts);
-    build_mib(sibs[kMib], mib_refs, seg_counts);
+    const Plan plan = place_cycle(seg_counts, sibs);
+    build_sb1(sibs[kSb1], plan);
+    build_mib(sibs[kMib], plan);
     blocks = cut(sibs);
     std::vector<uint32_t> found(kCycleSize, 1);
     for (const umts_bch_block& b : blocks)
@@ -1523,7 +1875,18 @@ int main(int argc, char** argv) {
     whole += "\n# " + std::string(s.label) + ", " + std::to_string(s.numbits) + " bits\n" + s.name + " " +
              hex(s.bytes.data(), s.bytes.size()) + "\n";
 
-  const bool ok = write_file(dir + "/fdd_cell.bch", bch) && write_file(dir + "/fdd_cell_sibs.txt", whole);
+  std::string lcr =
+      "# SIB11 and SIB12 of a 1.28 Mcps TDD cell, whole: '<name> <hex of the unaligned PER encoding>'.\n"
+      "# The neighbours are in the LCR tree of the v4b0 extension; the main tree only names the\n"
+      "# quality measure. Written by mksamples (make samples).\n"
+      "# Decode with: sibdump --sibs samples/tdd128_cell_sibs.txt\n";
+  for (const Sib& s : tdd128)
+    lcr += "\n# " + std::string(s.label) + ", " + std::to_string(s.numbits) + " bits\n" + s.name + " " +
+           hex(s.bytes.data(), s.bytes.size()) + "\n";
+
+  const bool ok = write_file(dir + "/fdd_cell.bch", bch) && write_file(dir + "/fdd_cell_sibs.txt", whole) &&
+                  write_file(dir + "/tdd128_cell_sibs.txt", lcr) &&
+                  (argc < 3 || write_file(argv[2], scheduled_cycle(sibs)));
   rtFreeContext(&g_ctx);
   if (!ok) return 1;
   std::printf("mksamples: %zu SIBs in %zu transport blocks written to %s\n", sibs.size(), blocks.size(), dir.c_str());
