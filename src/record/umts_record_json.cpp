@@ -302,8 +302,16 @@ inline void put_int(JsonOut& out, T value) {
   using Wide = std::conditional_t<std::is_signed<typename integer_of<T>::type>::value, int64_t, uint64_t>;
   const Wide v = static_cast<Wide>(value);
   if (out.lim - out.cur >= 21) {
-    if (v >= 0 && v < 10) *out.cur++ = static_cast<char>('0' + v);
-    else out.cur = std::to_chars(out.cur, out.lim, v).ptr;
+    /* Most values of a record are small: one or two digits without a call. */
+    if (v >= 0 && v < 10) {
+      *out.cur++ = static_cast<char>('0' + v);
+    } else if (v >= 10 && v < 100) {
+      out.cur[0] = static_cast<char>('0' + v / 10);
+      out.cur[1] = static_cast<char>('0' + v % 10);
+      out.cur += 2;
+    } else {
+      out.cur = std::to_chars(out.cur, out.lim, v).ptr;
+    }
     return;
   }
   char text[48]; /* beyond the digits: room that the short copy may be thought to reach */
@@ -311,11 +319,15 @@ inline void put_int(JsonOut& out, T value) {
   out.put(text, static_cast<size_t>(r.ptr - text));
 }
 
-/* Keys: the comma that separates a field from the one before is left out for the first. */
+/* Keys, each written whole with the comma that separates it from the field before (a copy
+   of a constant length): the first key's comma is the brace that opens the object, written
+   over it; an object without fields is closed as "{}". */
 #define UMTS_JSON_KEY(name)                                                   \
   do {                                                                        \
     static const char key[] = ",\"" #name "\":";                              \
-    out.put(key + (first ? 1 : 0), sizeof key - 1 - (first ? 1u : 0u));       \
+    char* const at = out.cur;                                                 \
+    out.put(key, sizeof key - 1);                                             \
+    if (first && at < out.lim) *at = '{';                                     \
     first = false;                                                            \
   } while (0)
 
@@ -377,10 +389,9 @@ inline void put_entry(JsonOut& out, const T& e) {
 #define UMTS_JSON_DEFINE_RECORD(rec)            \
   void json_of(JsonOut& out, const rec& r) {    \
     bool first = true;                          \
-    out.put('{');                               \
     rec##_FIELDS(UMTS_JSON_FIELD)               \
+    if (first) out.put('{');                    \
     out.put('}');                               \
-    (void)first;                                \
   }
 #define UMTS_JSON_DEFINE_UNION(rec)                                   \
   bool has_member(const rec&, uint64_t tag) {                         \
@@ -388,10 +399,9 @@ inline void put_entry(JsonOut& out, const T& e) {
   }                                                                   \
   void json_of(JsonOut& out, const rec& r, uint64_t tag) {            \
     bool first = true;                                                \
-    out.put('{');                                                     \
     rec##_FIELDS(UMTS_JSON_MEMBER)                                    \
+    if (first) out.put('{');                                          \
     out.put('}');                                                     \
-    (void)first;                                                      \
   }
 #define UMTS_JSON_DEFINE(kind, rec) UMTS_JSON_DEFINE_##kind(rec)
 UMTS_ALL_RECORDS(UMTS_JSON_DEFINE)

@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -210,6 +211,17 @@ const HexTable kHex;
 
 int hex_value(unsigned char c) { return kHex.value[c]; }
 
+/* Value of two hex digits, indexed by the first in the high byte; -1 where either is none. */
+struct HexPairTable {
+  int16_t value[1 << 16];
+  HexPairTable() {
+    for (int hi = 0; hi < 256; hi++)
+      for (int lo = 0; lo < 256; lo++)
+        value[hi << 8 | lo] = kHex.value[hi] < 0 || kHex.value[lo] < 0 ? int16_t(-1) : int16_t(kHex.value[hi] << 4 | kHex.value[lo]);
+  }
+};
+const HexPairTable kHexPairs;
+
 bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\v' || c == '\f'; }
 
 /* Hex digits of text[0..length) into out; blanks are skipped. Returns false with a message. */
@@ -218,12 +230,14 @@ bool parse_hex(const char* text, size_t length, uint8_t* out, size_t capacity, s
   size_t digits = 0;
   size_t i = 0;
   /* Pairs of digits, as a line of hex without blanks is made of, an octet at a time. */
-  for (; i + 1 < length && i / 2 < capacity; i += 2, digits += 2) {
-    const int hi = hex_value(static_cast<unsigned char>(text[i]));
-    const int lo = hex_value(static_cast<unsigned char>(text[i + 1]));
-    if ((hi | lo) < 0) break;
-    out[i / 2] = static_cast<uint8_t>((hi << 4) | lo);
+  const size_t pairs = std::min(length / 2, capacity);
+  for (size_t k = 0; k < pairs; k++) {
+    const int v = kHexPairs.value[static_cast<unsigned char>(text[2 * k]) << 8 | static_cast<unsigned char>(text[2 * k + 1])];
+    if (v < 0) break;
+    out[k] = static_cast<uint8_t>(v);
+    i += 2;
   }
+  digits = i;
   for (; i < length; i++) {
     const unsigned char c = static_cast<unsigned char>(text[i]);
     const int v = hex_value(c);
