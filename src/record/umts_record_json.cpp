@@ -298,7 +298,7 @@ struct integer_of<T, true> {
 };
 
 template <class T>
-inline void put_int(JsonOut& out, T value) {
+__attribute__((always_inline)) inline void put_int(JsonOut& out, T value) {
   using Wide = std::conditional_t<std::is_signed<typename integer_of<T>::type>::value, int64_t, uint64_t>;
   const Wide v = static_cast<Wide>(value);
   if (out.lim - out.cur >= 21) {
