@@ -1084,7 +1084,7 @@ void convert_measurement_control_sys_info_extension_lcr_r4_use_of_hcs_hcs_used_c
    ECN0 cell converts primaryCCPCH_Info only with cellSelectionReselectionInfo; the HCS_RSCP
    selection record converts modeSpecificInfo only with the HCS information; the RSCP
    inter-frequency list converts its new cells before its removed cells, whose identities of
-   more than 8 run on over the first bytes of the new-cell list; e1d and e1g dispatch as
+   more than 8 run on over the new-cell list and leave it empty; e1d and e1g dispatch as
    events 1e and 1h; the reporting cell status keeps its value for tags 1 to 14 only. */
 void convert_MeasurementControlSysInfo_LCR_r4(const MeasurementControlSysInfo_LCR_r4_ext* src,
                                               umts_measurement_control_sys_info_lcr_r4_ext* dst);

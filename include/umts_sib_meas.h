@@ -934,7 +934,7 @@
   UMTS_INTRA_FREQ_CELL_INFO_SI_LIST_FIELDS(F, umts_new_intra_freq_cell_si_list_hcs_ecno_lcr_r4)
 
 /* In SIB11 the RSCP form's removeSomeInterFreqCells of more than 8 identities runs on over
-   the first bytes of newInterFreqCellList (see its conversion). */
+   newInterFreqCellList, which then reads empty (see its conversion). */
 #define umts_inter_freq_cell_info_si_list_rscp_lcr_FIELDS(F) \
   UMTS_INTER_FREQ_CELL_INFO_SI_LIST_FIELDS(F, umts_new_inter_freq_cell_si_list_rscp_lcr_r4)
 #define umts_inter_freq_cell_info_si_list_ecno_lcr_FIELDS(F) \

@@ -42,11 +42,13 @@ void flat_count_list(const rtxDList* src, Dst* dst, Convert convert) {
 
 /* removeSomeInterFreqCells copies 4 bytes per identity from the decoded array. Up to 8
    identities that stays within the 32-byte array; above 8 the copy ran on behind the array,
-   over the first 4 x count - 32 bytes of the list record's newInterFreqCellList, with bytes
-   read from behind the decoded array. Those bytes are not the message's: here they are zero,
-   written only inside newInterFreqCellList. In the RSCP list, which converts its new cells
-   first, this clears the new-cell count (and, from 10 identities on, the first bytes of the
-   first new cell); in the other forms the new-cell list is converted over it afterwards. */
+   over the first 4 x count - 32 bytes of the list record's newInterFreqCellList (its count
+   first), with bytes read from behind the decoded array. Those bytes are not the message's:
+   here they are zero, so the new-cell count reads 0. The entries that this count no longer
+   covers are cleared with it, so that the list reads empty byte for byte: a set of
+   umts_sib_set_alloc clears a list up to its count before the next conversion, and would
+   otherwise keep them. In the RSCP list, which converts its new cells first, the list thus
+   reads empty; in the other forms the new-cell list is converted over it afterwards. */
 template <class List>
 void removed_inter_freq_overrun(const RemovedInterFreqCellList* src, List* dst) {
   if (src->t != 2 || src->u.removeSomeInterFreqCells == nullptr) return;
@@ -59,8 +61,7 @@ void removed_inter_freq_overrun(const RemovedInterFreqCellList* src, List* dst) 
   static_assert(offsetof(umts_removed_inter_freq_cell_list, u) + offsetof(umts_removed_inter_freq_cells, entries) +
                         array == sizeof(umts_removed_inter_freq_cell_list),
                 "the removed-cell array ends its record");
-  const size_t over = copied - array;
-  std::memset(&dst->newInterFreqCellList, 0, over < sizeof dst->newInterFreqCellList ? over : sizeof dst->newInterFreqCellList);
+  std::memset(&dst->newInterFreqCellList, 0, sizeof dst->newInterFreqCellList);
 }
 
 }  // namespace
