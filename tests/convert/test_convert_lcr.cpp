@@ -669,35 +669,57 @@ void buildMeasurementControl(Pool& p, MeasurementControlSysInfo& mc) {
       p.make<MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP>();
 }
 
+// The messages: SIB11 and SIB12 with the LCR tree in their v4b0 extension (beside the smallest
+// main tree), SIB11bis with its LCR tree alone.
+MeasurementControlSysInfo_LCR_r4_ext& lcrOf(SysInfoType11& m) {
+  return m.v4b0NonCriticalExtensions.sysInfoType11_v4b0ext.measurementControlSysInfo_LCR;
+}
+MeasurementControlSysInfo_LCR_r4_ext& lcrOf(SysInfoType12& m) {
+  return m.v4b0NonCriticalExtensions.sysInfoType12_v4b0ext.measurementControlSysInfo_LCR;
+}
+
+template <class Sib>
+Sib v4b0Message(Pool& p, int form, const Shape& s) {
+  Sib m{};
+  buildMeasurementControl(p, m.measurementControlSysInfo);
+  m.m = 2;
+  m.v4b0NonCriticalExtensions.m = 1;
+  buildExt(p, lcrOf(m), form, s);
+  return m;
+}
+
+SysInfoType11bis bisMessage(Pool& p, int form, const Shape& s) {
+  SysInfoType11bis m{};
+  m.m = 2;
+  buildBis(p, m.measurementControlSysInfo_LCR, form, s);
+  return m;
+}
+
+std::vector<uint8_t> encoded(Pool& p, umts_sib_id id, int form, const Shape& s) {
+  if (id == umts_sib_sib11) return encode(asn1PE_UMTS_SysInfoType11, v4b0Message<SysInfoType11>(p, form, s));
+  if (id == umts_sib_sib12) return encode(asn1PE_UMTS_SysInfoType12, v4b0Message<SysInfoType12>(p, form, s));
+  return encode(asn1PE_UMTS_SysInfoType11bis, bisMessage(p, form, s));
+}
+
 class ConvertLcr : public FrameTest {
  protected:
   // One message of the form and shape through the tree; its LCR record, checked.
   const umts_measurement_control_sys_info_lcr_r4_ext& sib11(Pool& p, int form, const Shape& s) {
-    SysInfoType11 m{};
-    buildMeasurementControl(p, m.measurementControlSysInfo);
-    m.m = 2;
-    m.v4b0NonCriticalExtensions.m = 1;
-    buildExt(p, m.v4b0NonCriticalExtensions.sysInfoType11_v4b0ext.measurementControlSysInfo_LCR, form, s);
+    SysInfoType11 m = v4b0Message<SysInfoType11>(p, form, s);
     EXPECT_EQ(whole(umts_sib_sib11, encode(asn1PE_UMTS_SysInfoType11, m)), 1);
     const auto& f = result->sib11.v4b0NonCriticalExtensions.sysInfoType11_v4b0ext.measurementControlSysInfo_LCR;
-    checkExt(m.v4b0NonCriticalExtensions.sysInfoType11_v4b0ext.measurementControlSysInfo_LCR, f, form, Tree::Sib11);
+    checkExt(lcrOf(m), f, form, Tree::Sib11);
     return f;
   }
   const umts_measurement_control_sys_info_lcr_r4_ext& sib12(Pool& p, int form, const Shape& s) {
-    SysInfoType12 m{};
-    buildMeasurementControl(p, m.measurementControlSysInfo);
-    m.m = 2;
-    m.v4b0NonCriticalExtensions.m = 1;
-    buildExt(p, m.v4b0NonCriticalExtensions.sysInfoType12_v4b0ext.measurementControlSysInfo_LCR, form, s);
+    SysInfoType12 m = v4b0Message<SysInfoType12>(p, form, s);
     EXPECT_EQ(whole(umts_sib_sib12, encode(asn1PE_UMTS_SysInfoType12, m)), 1);
     const auto& f = result->sib12.v4b0NonCriticalExtensions.sysInfoType12_v4b0ext.measurementControlSysInfo_LCR;
-    checkExt(m.v4b0NonCriticalExtensions.sysInfoType12_v4b0ext.measurementControlSysInfo_LCR, f, form, Tree::Sib12);
+    checkExt(lcrOf(m), f, form, Tree::Sib12);
     return f;
   }
   void sib11bis(Pool& p, int form, const Shape& s) {
-    SysInfoType11bis m{};
-    m.m = 2;
-    buildBis(p, m.measurementControlSysInfo_LCR, form, s);
+    const SysInfoType11bis m = bisMessage(p, form, s);
     EXPECT_EQ(whole(umts_sib_sib11bis, encode(asn1PE_UMTS_SysInfoType11bis, m)), 1);
     EXPECT_EQ(result->sib11bis.presence_bitmask, 2);
     checkBis(m.measurementControlSysInfo_LCR, result->sib11bis.measurementControlSysInfo_LCR, form);
@@ -854,27 +876,7 @@ TEST_F(ConvertLcr, LibrarySetAfterOtherForms) {
     for (umts_sib_id id : {umts_sib_sib11, umts_sib_sib12, umts_sib_sib11bis}) {
       SCOPED_TRACE(std::string(umts_sib_name(id)) + " step " + std::to_string(step));
       Pool p;
-      std::vector<uint8_t> bytes;
-      if (id == umts_sib_sib11bis) {
-        SysInfoType11bis m{};
-        m.m = 2;
-        buildBis(p, m.measurementControlSysInfo_LCR, form, s);
-        bytes = encode(asn1PE_UMTS_SysInfoType11bis, m);
-      } else if (id == umts_sib_sib11) {
-        SysInfoType11 m{};
-        buildMeasurementControl(p, m.measurementControlSysInfo);
-        m.m = 2;
-        m.v4b0NonCriticalExtensions.m = 1;
-        buildExt(p, m.v4b0NonCriticalExtensions.sysInfoType11_v4b0ext.measurementControlSysInfo_LCR, form, s);
-        bytes = encode(asn1PE_UMTS_SysInfoType11, m);
-      } else {
-        SysInfoType12 m{};
-        buildMeasurementControl(p, m.measurementControlSysInfo);
-        m.m = 2;
-        m.v4b0NonCriticalExtensions.m = 1;
-        buildExt(p, m.v4b0NonCriticalExtensions.sysInfoType12_v4b0ext.measurementControlSysInfo_LCR, form, s);
-        bytes = encode(asn1PE_UMTS_SysInfoType12, m);
-      }
+      const std::vector<uint8_t> bytes = encoded(p, id, form, s);
       ASSERT_EQ(whole(id, bytes), 1);
       uint8_t mine = 0;
       captureStdout([&] { mine = umts_sib_msg_decoder(id, bytes.data(), own, static_cast<uint32_t>(bytes.size())); });
