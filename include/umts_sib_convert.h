@@ -610,14 +610,11 @@ void convert_measurement_control_sys_info_extension_use_of_hcs_hcs_used_cell_sel
     const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
     umts_ext_hcs_used_cpich_ec_n0* dst);
 
-/* Heads of the SIB11 and SIB12 extension chains: v4b0 under bit 0, the v590 link under bit 1.
-   The LCR tree of SIB11bis: its use_of_HCS tag until its contents are converted. */
+/* Heads of the SIB11 and SIB12 extension chains: v4b0 under bit 0, the v590 link under bit 1. */
 void convert_sysinfotype11_v4b0_nc_extensions(const SysInfoType11_v4b0NonCriticalExtensions* src,
                                               umts_sib11_v4b0_nc_extensions* dst);
 void convert_sysinfotype12_v4b0_nc_extensions(const SysInfoType12_v4b0NonCriticalExtensions* src,
                                               umts_sib12_v4b0_nc_extensions* dst);
-void convert_measurement_control_sys_info_extension_lcr_r4(const MeasurementControlSysInfoExtension_LCR_r4* src,
-                                                           umts_measurement_control_sys_info_extension_lcr_r4* dst);
 
 /* SIB11bis: the add-on of Release 5 (v590 cell records of the new cells) and the extension
    chain v7b0, v860. */
@@ -668,16 +665,13 @@ typedef SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690Non
 typedef SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions
     umts_sib12_nces_src;
 
-/* v4b0: the LCR FACH byte and the LCR measurement control tree (of which, until its
-   conversion, only the use_of_HCS tag). */
+/* v4b0: the LCR FACH byte and the LCR measurement control tree (SIB11:
+   convert_MeasurementControlSysInfo_LCR_r4, SIB12: convert_measurement_control_sys_info_lcr_r4_ext,
+   declared with the LCR trees below). */
 void convert_sysInfoType11_v4b0ext(const SysInfoType11_v4b0ext_IEs* src, umts_sib11_v4b0ext* dst);
 void convert_sysinfotype12_v4b0ext_ies(const SysInfoType12_v4b0ext_IEs* src, umts_sib12_v4b0ext* dst);
 void convert_fach_MeasurementOccasionInfo_LCR_Ext(const FACH_MeasurementOccasionInfo_LCR_r4_ext* src, uint8_t* dst);
 void convert_fach_measurement_occasion_info_lcr_r4_ext(const FACH_MeasurementOccasionInfo_LCR_r4_ext* src, uint8_t* dst);
-void convert_MeasurementControlSysInfo_LCR_r4(const MeasurementControlSysInfo_LCR_r4_ext* src,
-                                              umts_measurement_control_sys_info_lcr_r4_ext* dst);
-void convert_measurement_control_sys_info_lcr_r4_ext(const MeasurementControlSysInfo_LCR_r4_ext* src,
-                                                     umts_measurement_control_sys_info_lcr_r4_ext* dst);
 
 /* The links of SIB11: each converts its extension, then the next link under bit 0. */
 void convert_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(
@@ -983,6 +977,261 @@ void convert_event_1f(const Event1f* src, umts_event_1f* dst);
 void convert_reporting_cell_status(const ReportingCellStatus* src, umts_reporting_cell_status* dst);
 void convert_forbidden_affect_cell_list(const ForbiddenAffectCellList* src, umts_forbidden_affect_cell_list* dst);
 void convert_forbidden_affect_cell(const ForbiddenAffectCell* src, umts_forbidden_affect_cell* dst);
+
+/* ==== LCR (TDD 1.28 Mcps) measurement control information =============================== */
+
+/* The LCR primary CCPCH and timeslots, shared by the three trees. */
+void convert_primary_ccpch_info_lcr_r4(const PrimaryCCPCH_Info_LCR_r4* src, umts_primary_ccpch_info_lcr_r4* dst);
+void convert_timeslot_info_list_lcr_r4(const TimeslotInfoList_LCR_r4* src, umts_timeslot_info_list_lcr_r4* dst);
+
+/* The records of the four forms in the SIB12 and SIB11bis trees (v rscp, ecno, hcs_rscp,
+   hcs_ecno; V RSCP, ECN0, HCS_RSCP, HCS_ECN0). Every new inter-frequency cell converts its
+   frequency by its bit. */
+#define UMTS_DECLARE_LCR_FORM(v, V)                                                                            \
+  void convert_cell_info_si_##v##_lcr_r4(const CellInfoSI_##V##_LCR_r4* src, umts_cell_info_si_##v##_lcr_r4* dst); \
+  void convert_new_intra_freq_cell_si_list_##v##_lcr_r4(const NewIntraFreqCellSI_List_##V##_LCR_r4* src,       \
+                                                        umts_new_intra_freq_cell_si_list_##v##_lcr_r4* dst);  \
+  void convert_new_inter_freq_cell_si_list_##v##_lcr_r4(const NewInterFreqCellSI_List_##V##_LCR_r4* src,       \
+                                                        umts_new_inter_freq_cell_si_list_##v##_lcr_r4* dst);  \
+  void convert_intra_freq_cell_info_si_list_##v##_lcr_r4(const IntraFreqCellInfoSI_List_##V##_LCR_r4* src,     \
+                                                         umts_intra_freq_cell_info_si_list_##v##_lcr_r4* dst); \
+  void convert_inter_freq_cell_info_si_list_##v##_lcr(const InterFreqCellInfoSI_List_##V##_LCR* src,           \
+                                                      umts_inter_freq_cell_info_si_list_##v##_lcr* dst);      \
+  void convert_intra_freq_measurement_sys_info_##v##_lcr_r4(const IntraFreqMeasurementSysInfo_##V##_LCR_r4* src, \
+                                                            umts_intra_freq_measurement_sys_info_##v##_lcr_r4* dst); \
+  void convert_inter_freq_measurement_sys_info_##v##_lcr_r4(const InterFreqMeasurementSysInfo_##V##_LCR_r4* src, \
+                                                            umts_inter_freq_measurement_sys_info_##v##_lcr_r4* dst);
+UMTS_DECLARE_LCR_FORM(rscp, RSCP)
+UMTS_DECLARE_LCR_FORM(ecno, ECN0)
+UMTS_DECLARE_LCR_FORM(hcs_rscp, HCS_RSCP)
+UMTS_DECLARE_LCR_FORM(hcs_ecno, HCS_ECN0)
+
+/* Reporting in CELL_DCH with events 1a and 1b of LCR forbidden cells. */
+void convert_reporting_info_for_cell_dch_lcr_r4(const ReportingInfoForCellDCH_LCR_r4* src,
+                                                umts_reporting_info_for_cell_dch_lcr_r4* dst);
+void convert_cell_dch_report_criteria_lcr_r4(const CellDCH_ReportCriteria_LCR_r4* src,
+                                             umts_cell_dch_report_criteria_lcr_r4* dst);
+void convert_intra_freq_reporting_criteria_lcr_r4(const IntraFreqReportingCriteria_LCR_r4* src,
+                                                  umts_intra_freq_reporting_criteria_lcr_r4* dst);
+void convert_intra_freq_event_criteria_list_lcr_r4(const IntraFreqEventCriteriaList_LCR_r4* src,
+                                                   umts_intra_freq_event_criteria_list_lcr_r4* dst);
+void convert_intra_freq_event_criteria_lcr_r4(const IntraFreqEventCriteria_LCR_r4* src,
+                                              umts_intra_freq_event_criteria_lcr_r4* dst);
+void convert_intra_freq_event_lcr_r4(const IntraFreqEvent_LCR_r4* src, umts_intra_freq_event_lcr_r4* dst);
+void convert_event_1a_lcr_r4(const Event1a_LCR_r4* src, umts_event_1a_lcr_r4* dst);
+void convert_event_1b_lcr_r4(const Event1b_LCR_r4* src, umts_event_1b_lcr_r4* dst);
+void convert_forbidden_affect_cell_list_lcr_r4(const ForbiddenAffectCellList_LCR_r4* src,
+                                               umts_forbidden_affect_cell_list_lcr_r4* dst);
+
+/* SIB12: MeasurementControlSysInfo-LCR-r4-ext of the v4b0 extension. */
+void convert_measurement_control_sys_info_lcr_r4_ext(const MeasurementControlSysInfo_LCR_r4_ext* src,
+                                                     umts_measurement_control_sys_info_lcr_r4_ext* dst);
+void convert_measurement_control_sys_info_lcr_r4_ext_use_of_hcs(const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS* src,
+                                                                umts_use_of_hcs_lcr_r4_ext* dst);
+void convert_measurement_control_sys_info_lcr_r4_ext_use_of_hcs_hcs_not_used(
+    const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used* src, umts_lcr_hcs_not_used* dst);
+void convert_measurement_control_sys_info_lcr_r4_ext_use_of_hcs_hcs_used(
+    const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used* src, umts_lcr_hcs_used* dst);
+void convert_measurement_control_sys_info_lcr_r4_ext_use_of_hcs_hcs_not_used_cell_select_quality_measure(
+    const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* src,
+    umts_lcr_hcs_not_used_quality_measure* dst);
+void convert_measurement_control_sys_info_lcr_r4_ext_use_of_hcs_hcs_used_cell_select_quality_measure(
+    const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure* src,
+    umts_lcr_hcs_used_quality_measure* dst);
+void convert_measurement_control_sys_info_lcr_r4_ext_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_rscp(
+    const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* src,
+    umts_lcr_hcs_not_used_cpich_rscp* dst);
+void convert_measurement_control_sys_info_lcr_r4_ext_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_ec_no(
+    const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
+    umts_lcr_hcs_not_used_cpich_ec_n0* dst);
+void convert_measurement_control_sys_info_lcr_r4_ext_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_rscp(
+    const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* src,
+    umts_lcr_hcs_used_cpich_rscp* dst);
+void convert_measurement_control_sys_info_lcr_r4_ext_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_ecno(
+    const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
+    umts_lcr_hcs_used_cpich_ec_n0* dst);
+
+/* SIB11bis: MeasurementControlSysInfoExtension-LCR-r4, the new-cell lists. */
+void convert_measurement_control_sys_info_extension_lcr_r4(const MeasurementControlSysInfoExtension_LCR_r4* src,
+                                                           umts_measurement_control_sys_info_extension_lcr_r4* dst);
+void convert_measurement_control_sys_info_extension_lcr_r4_use_of_hcs(
+    const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS* src, umts_ext_use_of_hcs_lcr_r4* dst);
+void convert_measurement_control_sys_info_extension_lcr_r4_use_of_hcs_hcs_not_used(
+    const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used* src, umts_ext_hcs_not_used_lcr_r4* dst);
+void convert_measurement_control_sys_info_extension_lcr_r4_use_of_hcs_hcs_used(
+    const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used* src, umts_ext_hcs_used_lcr_r4* dst);
+void convert_measurement_control_sys_info_extension_lcr_r4_use_of_hcs_hcs_not_used_cell_select_quality_measure(
+    const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* src,
+    umts_ext_hcs_not_used_quality_measure_lcr_r4* dst);
+void convert_measurement_control_sys_info_extension_lcr_r4_use_of_hcs_hcs_used_cell_select_quality_measure(
+    const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure* src,
+    umts_ext_hcs_used_quality_measure_lcr_r4* dst);
+void convert_measurement_control_sys_info_extension_lcr_r4_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_rscp(
+    const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* src,
+    umts_ext_hcs_not_used_cpich_rscp_lcr_r4* dst);
+void convert_measurement_control_sys_info_extension_lcr_r4_use_of_hcs_hcs_not_used_cell_select_quality_measure_cpich_ec_no(
+    const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
+    umts_ext_hcs_not_used_cpich_ec_n0_lcr_r4* dst);
+void convert_measurement_control_sys_info_extension_lcr_r4_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_rscp(
+    const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* src,
+    umts_ext_hcs_used_cpich_rscp_lcr_r4* dst);
+void convert_measurement_control_sys_info_extension_lcr_r4_use_of_hcs_hcs_used_cell_select_quality_measure_cpich_ecno(
+    const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
+    umts_ext_hcs_used_cpich_ec_n0_lcr_r4* dst);
+
+/* SIB11: the same tree under the schema's names, with the places where it converts otherwise
+   (see convert_lcr_sib11.cpp): an RSCP element without intraFreqCellID keeps a zero cell; the
+   ECN0 cell converts primaryCCPCH_Info only with cellSelectionReselectionInfo; the HCS_RSCP
+   selection record converts modeSpecificInfo only with the HCS information; the RSCP
+   inter-frequency list converts its new cells before its removed cells, whose identities of
+   more than 8 run on over the new-cell list and leave it empty; e1d and e1g dispatch as
+   events 1e and 1h; the reporting cell status keeps its value for tags 1 to 14 only. */
+void convert_MeasurementControlSysInfo_LCR_r4(const MeasurementControlSysInfo_LCR_r4_ext* src,
+                                              umts_measurement_control_sys_info_lcr_r4_ext* dst);
+void conver_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS* src,
+                                                            umts_use_of_hcs_lcr_r4_ext* dst);
+void convert_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(
+    const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used* src, umts_lcr_hcs_not_used* dst);
+void convert_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(
+    const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used* src, umts_lcr_hcs_used* dst);
+void convert_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(
+    const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* src,
+    umts_lcr_hcs_not_used_quality_measure* dst);
+void convert_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(
+    const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure* src,
+    umts_lcr_hcs_used_quality_measure* dst);
+void convert_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(
+    const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* src,
+    umts_lcr_hcs_not_used_cpich_rscp* dst);
+void convert_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(
+    const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
+    umts_lcr_hcs_not_used_cpich_ec_n0* dst);
+void convert_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(
+    const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* src,
+    umts_lcr_hcs_used_cpich_rscp* dst);
+void convert_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(
+    const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* src,
+    umts_lcr_hcs_used_cpich_ec_n0* dst);
+void convert_intraFreqMeasurementSysInfo(const IntraFreqMeasurementSysInfo_RSCP_LCR_r4* src,
+                                         umts_intra_freq_measurement_sys_info_rscp_lcr_r4* dst);
+/* The records of the forms in the SIB11 tree (V RSCP, ECN0, HCS_RSCP, HCS_ECN0); the RSCP
+   measurement record is convert_intraFreqMeasurementSysInfo above. */
+#define UMTS_DECLARE_LCR_SIB11_FORM(v, V)                                                                      \
+  void convert_IntraFreqCellInfoSI_List_##V##_LCR_r4(const IntraFreqCellInfoSI_List_##V##_LCR_r4* src,         \
+                                                     umts_intra_freq_cell_info_si_list_##v##_lcr_r4* dst);     \
+  void convert_NewIntraFreqCellSI_List_##V##_LCR_r4(const NewIntraFreqCellSI_List_##V##_LCR_r4* src,           \
+                                                    umts_new_intra_freq_cell_si_list_##v##_lcr_r4* dst);      \
+  void convert_NewIntraFreqCellSI_##V##_LCR_r4(const NewIntraFreqCellSI_##V##_LCR_r4* src,                     \
+                                               umts_new_intra_freq_cell_si_##v##_lcr_r4* dst);                \
+  void convert_InterFreqMeasurementSysInfo_##V##_LCR_r4(const InterFreqMeasurementSysInfo_##V##_LCR_r4* src,   \
+                                                        umts_inter_freq_measurement_sys_info_##v##_lcr_r4* dst); \
+  void convert_InterFreqCellInfoSI_List_##V##_LCR(const InterFreqCellInfoSI_List_##V##_LCR* src,               \
+                                                  umts_inter_freq_cell_info_si_list_##v##_lcr* dst);          \
+  void convert_NewInterFreqCellSI_List_##V##_LCR_r4(const NewInterFreqCellSI_List_##V##_LCR_r4* src,           \
+                                                    umts_new_inter_freq_cell_si_list_##v##_lcr_r4* dst);      \
+  void convert_NewInterFreqCellSI_##V##_LCR_r4(const NewInterFreqCellSI_##V##_LCR_r4* src,                     \
+                                               umts_new_inter_freq_cell_si_##v##_lcr_r4* dst);
+UMTS_DECLARE_LCR_SIB11_FORM(rscp, RSCP)
+UMTS_DECLARE_LCR_SIB11_FORM(ecno, ECN0)
+UMTS_DECLARE_LCR_SIB11_FORM(hcs_rscp, HCS_RSCP)
+UMTS_DECLARE_LCR_SIB11_FORM(hcs_ecno, HCS_ECN0)
+void convert_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(const IntraFreqMeasurementSysInfo_ECN0_LCR_r4* src,
+                                                     umts_intra_freq_measurement_sys_info_ecno_lcr_r4* dst);
+void convert_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(const IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* src,
+                                                         umts_intra_freq_measurement_sys_info_hcs_rscp_lcr_r4* dst);
+void convert_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(const IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* src,
+                                                         umts_intra_freq_measurement_sys_info_hcs_ecno_lcr_r4* dst);
+/* The cells (HCS_ECN0: convert_cell_info_si_hcs_ecno_lcr_r4) and their selection records. */
+void convert_CellInfoSI_RSCP_LCR_r4(const CellInfoSI_RSCP_LCR_r4* src, umts_cell_info_si_rscp_lcr_r4* dst);
+void convert_CellInfoSI_ECN0_LCR_r4(const CellInfoSI_ECN0_LCR_r4* src, umts_cell_info_si_ecno_lcr_r4* dst);
+void convert_CellInfoSI_HCS_RSCP_LCR_r4(const CellInfoSI_HCS_RSCP_LCR_r4* src, umts_cell_info_si_hcs_rscp_lcr_r4* dst);
+#define UMTS_DECLARE_LCR_SIB11_SELECTION(v, V)                                                                 \
+  void convert_CellSelectReselectInfoSIB_11_12_##V(const CellSelectReselectInfoSIB_11_12_##V* src,             \
+                                                   umts_cell_select_reselect_info_sib_11_12_##v* dst);        \
+  void convert_CellSelectReselectInfoSIB_11_12_##V##_modeSpecificInfo(                                         \
+      const CellSelectReselectInfoSIB_11_12_##V##_modeSpecificInfo* src, umts_cell_select_reselect_mode_specific_info* dst); \
+  void convert_CellSelectReselectInfoSIB_11_12_##V##_modeSpecificInfo_fdd(                                     \
+      const CellSelectReselectInfoSIB_11_12_##V##_modeSpecificInfo_fdd* src,                                   \
+      umts_cell_select_reselect_mode_specific_info_fdd* dst);                                                  \
+  void convert_CellSelectReselectInfoSIB_11_12_##V##_modeSpecificInfo_tdd(                                     \
+      const CellSelectReselectInfoSIB_11_12_##V##_modeSpecificInfo_tdd* src,                                   \
+      umts_cell_select_reselect_mode_specific_info_rxlev* dst);                                                \
+  void convert_CellSelectReselectInfoSIB_11_12_##V##_modeSpecificInfo_gsm(                                     \
+      const CellSelectReselectInfoSIB_11_12_##V##_modeSpecificInfo_gsm* src,                                   \
+      umts_cell_select_reselect_mode_specific_info_rxlev* dst);
+UMTS_DECLARE_LCR_SIB11_SELECTION(rscp, RSCP)
+UMTS_DECLARE_LCR_SIB11_SELECTION(ecno, ECN0)
+void convert_CellSelectReselectInfoSIB_11_12_HCS_RSCP(const CellSelectReselectInfoSIB_11_12_HCS_RSCP* src,
+                                                      umts_cell_select_reselect_info_sib_11_12_hcs_rscp* dst);
+void convert_HCS_NeighbouringCellInformation_RSCP(const HCS_NeighbouringCellInformation_RSCP* src,
+                                                  umts_hcs_neighbouring_cell_info_rscp* dst);
+void convert_HCS_CellReselectInformation_RSCP(const HCS_CellReselectInformation_RSCP* src, umts_penalty_time_rscp* dst);
+void convert_PenaltyTime_RSCP(const PenaltyTime_RSCP* src, umts_penalty_time_rscp* dst);
+void convert_ReferenceTimeDifferenceToCell(const ReferenceTimeDifferenceToCell* src,
+                                           umts_reference_time_difference_to_cell* dst);
+void convert_PrimaryCCPCH_Info_LCR_r4(const PrimaryCCPCH_Info_LCR_r4* src, umts_primary_ccpch_info_lcr_r4* dst);
+void convert_TimeslotInfoList_LCR_r4(const TimeslotInfoList_LCR_r4* src, umts_timeslot_info_list_lcr_r4* dst);
+void convert_TimeslotInfo_LCR_r4(const TimeslotInfo_LCR_r4* src, uint8_t* dst);
+/* Removed cells and frequencies. */
+void convert_RemovedIntraFreqCellList(const RemovedIntraFreqCellList* src, umts_removed_intra_freq_cell_list* dst);
+void convert_removeSomeIntraFreqCells(const RemovedIntraFreqCellList_removeSomeIntraFreqCells* src,
+                                      umts_removed_intra_freq_cells* dst);
+void convert_RemovedInterFreqCellList(const RemovedInterFreqCellList* src, umts_removed_inter_freq_cell_list* dst);
+void convert_RemovedInterFreqCellList_removeSomeInterFreqCells(const RemovedInterFreqCellList_removeSomeInterFreqCells* src,
+                                                               umts_removed_inter_freq_cells* dst);
+void convert_FrequencyInfo(const FrequencyInfo* src, umts_frequency_info* dst);
+void convert_FrequencyInfo_modeSpecificInfo(const FrequencyInfo_modeSpecificInfo* src, umts_frequency_info* dst);
+void convert_FrequencyInfoFDD(const FrequencyInfoFDD* src, umts_frequency_info_fdd* dst);
+/* Quantities. */
+void convert_IntraFreqMeasQuantity(const IntraFreqMeasQuantity* src, umts_intra_freq_meas_quantity* dst);
+void convert_IntraFreqMeasQuantity_modeSpecificInfo(const IntraFreqMeasQuantity_modeSpecificInfo* src,
+                                                    umts_intra_freq_meas_quantity_mode_specific_info* dst);
+void convert_IntraFreqMeasQuantity_modeSpecificInfo_fdd(const IntraFreqMeasQuantity_modeSpecificInfo_fdd* src,
+                                                        uint32_t* dst);
+void convert_IntraFreqMeasQuantity_modeSpecificInfo_tdd(const IntraFreqMeasQuantity_modeSpecificInfo_tdd* src,
+                                                        umts_intra_freq_meas_quantity_tdd_list* dst);
+void convert_intraFreqMeasQuantity_TDDList(const IntraFreqMeasQuantity_TDDList* src,
+                                           umts_intra_freq_meas_quantity_tdd_list* dst);
+void convert_IntraFreqReportingQuantityForRACH(const IntraFreqReportingQuantityForRACH* src,
+                                               umts_intra_freq_reporting_quantity_for_rach* dst);
+void convert_IntraFreqReportingQuantityForRACH_modeSpecificInfo(
+    const IntraFreqReportingQuantityForRACH_modeSpecificInfo* src,
+    umts_intra_freq_reporting_quantity_for_rach_mode_specific_info* dst);
+void convert_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(
+    const IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd* src, uint32_t* dst);
+void convert_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(
+    const IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd* src, umts_intra_freq_rep_quantity_rach_tdd_list* dst);
+void convert_intraFreqReportingQuantity(const IntraFreqReportingQuantity* src, umts_intra_freq_reporting_quantity* dst);
+void convert_detectedSetReportingQuantities(const CellReportingQuantities* src, umts_cell_reporting_quantities* dst);
+void convert_CellReportingQuantities_modeSpecificInfo(const CellReportingQuantities_modeSpecificInfo* src,
+                                                      umts_cell_reporting_quantities_mode_specific_info* dst);
+void convert_CellReportingQuantities_modeSpecificInfo_fdd(const CellReportingQuantities_modeSpecificInfo_fdd* src,
+                                                          umts_cell_reporting_quantities_fdd* dst);
+void convert_CellReportingQuantities_modeSpecificInfo_tdd(const CellReportingQuantities_modeSpecificInfo_tdd* src,
+                                                          umts_cell_reporting_quantities_tdd* dst);
+void convert_measurementReportingMode(const MeasurementReportingMode* src, umts_measurement_reporting_mode* dst);
+void convert_periodicalReportingCriteria(const PeriodicalReportingCriteria* src, umts_periodical_reporting_criteria* dst);
+/* Reporting. */
+void convert_ReportingInfoForCellDCH_LCR_r4(const ReportingInfoForCellDCH_LCR_r4* src,
+                                            umts_reporting_info_for_cell_dch_lcr_r4* dst);
+void convert_CellDCH_ReportCriteria_LCR_r4(const CellDCH_ReportCriteria_LCR_r4* src,
+                                           umts_cell_dch_report_criteria_lcr_r4* dst);
+void convert_intraFreqReportingCriteria(const IntraFreqReportingCriteria_LCR_r4* src,
+                                        umts_intra_freq_reporting_criteria_lcr_r4* dst);
+void convert_IntraFreqEventCriteriaList_LCR_r4(const IntraFreqEventCriteriaList_LCR_r4* src,
+                                               umts_intra_freq_event_criteria_list_lcr_r4* dst);
+void convert_IntraFreqEventCriteria_LCR_r4(const IntraFreqEventCriteria_LCR_r4* src,
+                                           umts_intra_freq_event_criteria_lcr_r4* dst);
+void convert_IntraFreqEvent_LCR_r4(const IntraFreqEvent_LCR_r4* src, umts_intra_freq_event_lcr_r4* dst);
+void convert_Event1a_LCR_r4(const Event1a_LCR_r4* src, umts_event_1a_lcr_r4* dst);
+void convert_Event1b_LCR_r4(const Event1b_LCR_r4* src, umts_event_1b_lcr_r4* dst);
+void convert_Event1c(const Event1c* src, umts_event_1c* dst);
+void convert_Event1e(const Event1e* src, umts_event_1e* dst);
+void convert_Event1f(const Event1f* src, umts_event_1f* dst);
+void convert_ReportingCellStatus(const ReportingCellStatus* src, umts_reporting_cell_status* dst);
+void convert_ForbiddenAffectCellList_LCR_r4(const ForbiddenAffectCellList_LCR_r4* src,
+                                            umts_forbidden_affect_cell_list_lcr_r4* dst);
+void convert_ForbiddenAffectCell_LCR_r4(const ForbiddenAffectCell_LCR_r4* src, umts_primary_ccpch_info_lcr_r4* dst);
 
 #ifdef __cplusplus
 }

@@ -399,20 +399,21 @@
 
 /* triggeringCondition, reportDeactivationThreshold, reportingAmount and reportingInterval
    are ordinals. */
-#define UMTS_EVENT_1B_FIELDS(F)                                                        \
+#define UMTS_EVENT_1B_FIELDS(F, forbidden)                                             \
   F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                             \
   F(SCALAR, uint32_t, triggeringCondition, 1, UMTS_ALWAYS, _)                          \
   F(SCALAR, uint8_t, reportingRange, 1, UMTS_ALWAYS, _)                                \
-  F(RECORD, umts_forbidden_affect_cell_list, forbiddenAffectCellList, 1, 0, _)         \
+  F(RECORD, forbidden, forbiddenAffectCellList, 1, 0, _)                               \
   F(SCALAR, uint8_t, w, 1, UMTS_ALWAYS, _)
 
-#define umts_event_1a_FIELDS(F)                                        \
-  UMTS_EVENT_1B_FIELDS(F)                                              \
+#define UMTS_EVENT_1A_FIELDS(F, forbidden)                             \
+  UMTS_EVENT_1B_FIELDS(F, forbidden)                                   \
   F(SCALAR, uint32_t, reportDeactivationThreshold, 1, UMTS_ALWAYS, _)  \
   F(SCALAR, uint32_t, reportingAmount, 1, UMTS_ALWAYS, _)              \
   F(SCALAR, uint32_t, reportingInterval, 1, UMTS_ALWAYS, _)
 
-#define umts_event_1b_FIELDS(F) UMTS_EVENT_1B_FIELDS(F)
+#define umts_event_1a_FIELDS(F) UMTS_EVENT_1A_FIELDS(F, umts_forbidden_affect_cell_list)
+#define umts_event_1b_FIELDS(F) UMTS_EVENT_1B_FIELDS(F, umts_forbidden_affect_cell_list)
 
 #define umts_event_1c_FIELDS(F)                                                \
   F(SCALAR, uint32_t, replacementActivationThreshold, 1, UMTS_ALWAYS, _)       \
@@ -461,12 +462,14 @@
   F(UNION, umts_reporting_cell_status_u, u, 1, UMTS_ALWAYS, choice_tag)
 
 /* timeToTrigger: the ordinal. */
-#define umts_intra_freq_event_criteria_FIELDS(F)                                       \
+#define UMTS_INTRA_FREQ_EVENT_CRITERIA_FIELDS(F, event_type)                           \
   F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                             \
-  F(RECORD, umts_intra_freq_event, event, 1, UMTS_ALWAYS, _)                           \
+  F(RECORD, event_type, event, 1, UMTS_ALWAYS, _)                                      \
   F(SCALAR, uint8_t, hysteresis, 1, UMTS_ALWAYS, _)                                    \
   F(SCALAR, uint32_t, timeToTrigger, 1, UMTS_ALWAYS, _)                                \
   F(RECORD, umts_reporting_cell_status, reportingCellStatus, 1, 0, _)
+
+#define umts_intra_freq_event_criteria_FIELDS(F) UMTS_INTRA_FREQ_EVENT_CRITERIA_FIELDS(F, umts_intra_freq_event)
 
 #define umts_intra_freq_event_criteria_list_FIELDS(F)          \
   F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)                 \
@@ -484,22 +487,26 @@
   F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)           \
   F(UNION, umts_cell_dch_report_criteria_u, u, 1, UMTS_ALWAYS, choice_tag)
 
-#define umts_reporting_info_for_cell_dch_FIELDS(F)                                                     \
+#define UMTS_REPORTING_INFO_FOR_CELL_DCH_FIELDS(F, criteria)                                           \
   F(RECORD, umts_intra_freq_reporting_quantity, intraFreqReportingQuantity, 1, UMTS_ALWAYS, _)         \
   F(RECORD, umts_measurement_reporting_mode, measurementReportingMode, 1, UMTS_ALWAYS, _)              \
-  F(RECORD, umts_cell_dch_report_criteria, reportCriteria, 1, UMTS_ALWAYS, _)
+  F(RECORD, criteria, reportCriteria, 1, UMTS_ALWAYS, _)
+
+#define umts_reporting_info_for_cell_dch_FIELDS(F) UMTS_REPORTING_INFO_FOR_CELL_DCH_FIELDS(F, umts_cell_dch_report_criteria)
 
 /* ==== Intra-frequency measurement system information ====================================== */
 
 /* maxReportedCellsOnRACH: the ordinal. */
-#define UMTS_INTRA_FREQ_MEASUREMENT_SYS_INFO_FIELDS(F, list)                                                   \
+#define UMTS_INTRA_FREQ_MEASUREMENT_SYS_INFO_FIELDS(F, list) \
+  UMTS_INTRA_FREQ_MEASUREMENT_SYS_INFO_FORM_FIELDS(F, list, umts_reporting_info_for_cell_dch)
+#define UMTS_INTRA_FREQ_MEASUREMENT_SYS_INFO_FORM_FIELDS(F, list, dch)                                         \
   F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                                     \
   F(SCALAR, uint8_t, intraFreqMeasurementID, 1, UMTS_ALWAYS, _)                                                \
   F(RECORD, list, intraFreqCellInfoSI_List, 1, 0, _)                                                           \
   F(RECORD, umts_intra_freq_meas_quantity, intraFreqMeasQuantity, 1, 1, _)                                     \
   F(RECORD, umts_intra_freq_reporting_quantity_for_rach, intraFreqReportingQuantityForRACH, 1, 2, _)           \
   F(SCALAR, uint32_t, maxReportedCellsOnRACH, 1, 3, _)                                                         \
-  F(RECORD, umts_reporting_info_for_cell_dch, reportingInfoForCellDCH, 1, 4, _)
+  F(RECORD, dch, reportingInfoForCellDCH, 1, 4, _)
 
 #define umts_intra_freq_measurement_sysinfo_rscp_FIELDS(F) \
   UMTS_INTRA_FREQ_MEASUREMENT_SYS_INFO_FIELDS(F, umts_intra_freq_cell_info_si_list_rscp)
@@ -843,19 +850,265 @@
   F(RECORD, umts_v7b0ext_ies, sysInfoType11bis_v7b0ext, 1, UMTS_ALWAYS, _)             \
   F(RECORD, umts_sib11bis_v860_nc_extensions, v860NonCriticalExtensions, 1, 0, _)
 
-/* ==== The LCR tree of SIB11bis, whose contents come with its conversion ==================== */
-/* For now it holds only its use_of_HCS tag, so that it reads as all zero behind it. */
-#define umts_ext_use_of_hcs_lcr_r4_FIELDS(F) F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)
+/* ==== LCR (TDD 1.28 Mcps) forms of the measurement control information ===================== */
+
+/* An LCR record is its main record with the TDD members of the cell directly in the cell (an
+   LCR cell is always TDD), the LCR primary CCPCH, at most 6 timeslots, and forbidden cells of
+   events 1a and 1b that are LCR primary CCPCHs without a choice. */
+#define umts_primary_ccpch_info_lcr_r4_FIELDS(F)               \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)     \
+  F(BOOL, uint8_t, tstd_Indicator, 1, UMTS_ALWAYS, _)          \
+  F(SCALAR, uint8_t, cellParametersID, 1, 0, _)                \
+  F(BOOL, uint8_t, sctd_Indicator, 1, UMTS_ALWAYS, _)
+
+/* The timeslot numbers. */
+#define umts_timeslot_info_list_lcr_r4_FIELDS(F)               \
+  F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)                 \
+  F(ARRAY, uint8_t, entries, 6, UMTS_ALWAYS, count)
+
+#define UMTS_CELL_INFO_SI_LCR_R4_FIELDS(F, selection)                                                  \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                             \
+  F(SCALAR, int8_t, cellIndividualOffset, 1, UMTS_ALWAYS, _)                                           \
+  F(RECORD, umts_reference_time_difference_to_cell, referenceTimeDifferenceToCell, 1, 0, _)            \
+  F(RECORD, umts_primary_ccpch_info_lcr_r4, primaryCCPCH_Info, 1, UMTS_ALWAYS, _)                      \
+  F(SCALAR, uint8_t, primaryCCPCH_TX_Power, 1, 1, _)                                                   \
+  F(RECORD, umts_timeslot_info_list_lcr_r4, timeslotInfoList, 1, 2, _)                                 \
+  F(BOOL, uint8_t, readSFN_Indicator, 1, UMTS_ALWAYS, _)                                               \
+  F(RECORD, selection, cellSelectionReselectionInfo, 1, 3, _)
+
+/* In SIB11 the ECN0 cell has bit 3 say whether primaryCCPCH_Info was converted: a cell
+   without cellSelectionReselectionInfo keeps a zero primaryCCPCH_Info there. */
+#define umts_cell_info_si_rscp_lcr_r4_FIELDS(F) \
+  UMTS_CELL_INFO_SI_LCR_R4_FIELDS(F, umts_cell_select_reselect_info_sib_11_12_rscp)
+#define umts_cell_info_si_ecno_lcr_r4_FIELDS(F) \
+  UMTS_CELL_INFO_SI_LCR_R4_FIELDS(F, umts_cell_select_reselect_info_sib_11_12_ecno)
+#define umts_cell_info_si_hcs_rscp_lcr_r4_FIELDS(F) \
+  UMTS_CELL_INFO_SI_LCR_R4_FIELDS(F, umts_cell_select_reselect_info_sib_11_12_hcs_rscp)
+#define umts_cell_info_si_hcs_ecno_lcr_r4_FIELDS(F) \
+  UMTS_CELL_INFO_SI_LCR_R4_FIELDS(F, umts_cell_select_reselect_info_sib_11_12_hcs_ecno)
+
+#define umts_new_intra_freq_cell_si_rscp_lcr_r4_FIELDS(F) \
+  UMTS_NEW_INTRA_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_rscp_lcr_r4)
+#define umts_new_intra_freq_cell_si_ecno_lcr_r4_FIELDS(F) \
+  UMTS_NEW_INTRA_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_ecno_lcr_r4)
+#define umts_new_intra_freq_cell_si_hcs_rscp_lcr_r4_FIELDS(F) \
+  UMTS_NEW_INTRA_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_hcs_rscp_lcr_r4)
+#define umts_new_intra_freq_cell_si_hcs_ecno_lcr_r4_FIELDS(F) \
+  UMTS_NEW_INTRA_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_hcs_ecno_lcr_r4)
+
+#define umts_new_intra_freq_cell_si_list_rscp_lcr_r4_FIELDS(F) \
+  UMTS_CELL_LIST_FIELDS(F, umts_new_intra_freq_cell_si_rscp_lcr_r4, 32)
+#define umts_new_intra_freq_cell_si_list_ecno_lcr_r4_FIELDS(F) \
+  UMTS_CELL_LIST_FIELDS(F, umts_new_intra_freq_cell_si_ecno_lcr_r4, 32)
+#define umts_new_intra_freq_cell_si_list_hcs_rscp_lcr_r4_FIELDS(F) \
+  UMTS_CELL_LIST_FIELDS(F, umts_new_intra_freq_cell_si_hcs_rscp_lcr_r4, 32)
+#define umts_new_intra_freq_cell_si_list_hcs_ecno_lcr_r4_FIELDS(F) \
+  UMTS_CELL_LIST_FIELDS(F, umts_new_intra_freq_cell_si_hcs_ecno_lcr_r4, 32)
+
+/* Every LCR form sets bit 1 when frequencyInfo came. */
+#define umts_new_inter_freq_cell_si_rscp_lcr_r4_FIELDS(F) \
+  UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_rscp_lcr_r4)
+#define umts_new_inter_freq_cell_si_ecno_lcr_r4_FIELDS(F) \
+  UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_ecno_lcr_r4)
+#define umts_new_inter_freq_cell_si_hcs_rscp_lcr_r4_FIELDS(F) \
+  UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_hcs_rscp_lcr_r4)
+#define umts_new_inter_freq_cell_si_hcs_ecno_lcr_r4_FIELDS(F) \
+  UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_hcs_ecno_lcr_r4)
+
+#define umts_new_inter_freq_cell_si_list_rscp_lcr_r4_FIELDS(F) \
+  UMTS_CELL_LIST_FIELDS(F, umts_new_inter_freq_cell_si_rscp_lcr_r4, 32)
+#define umts_new_inter_freq_cell_si_list_ecno_lcr_r4_FIELDS(F) \
+  UMTS_CELL_LIST_FIELDS(F, umts_new_inter_freq_cell_si_ecno_lcr_r4, 32)
+#define umts_new_inter_freq_cell_si_list_hcs_rscp_lcr_r4_FIELDS(F) \
+  UMTS_CELL_LIST_FIELDS(F, umts_new_inter_freq_cell_si_hcs_rscp_lcr_r4, 32)
+#define umts_new_inter_freq_cell_si_list_hcs_ecno_lcr_r4_FIELDS(F) \
+  UMTS_CELL_LIST_FIELDS(F, umts_new_inter_freq_cell_si_hcs_ecno_lcr_r4, 32)
+
+#define umts_intra_freq_cell_info_si_list_rscp_lcr_r4_FIELDS(F) \
+  UMTS_INTRA_FREQ_CELL_INFO_SI_LIST_FIELDS(F, umts_new_intra_freq_cell_si_list_rscp_lcr_r4)
+#define umts_intra_freq_cell_info_si_list_ecno_lcr_r4_FIELDS(F) \
+  UMTS_INTRA_FREQ_CELL_INFO_SI_LIST_FIELDS(F, umts_new_intra_freq_cell_si_list_ecno_lcr_r4)
+#define umts_intra_freq_cell_info_si_list_hcs_rscp_lcr_r4_FIELDS(F) \
+  UMTS_INTRA_FREQ_CELL_INFO_SI_LIST_FIELDS(F, umts_new_intra_freq_cell_si_list_hcs_rscp_lcr_r4)
+#define umts_intra_freq_cell_info_si_list_hcs_ecno_lcr_r4_FIELDS(F) \
+  UMTS_INTRA_FREQ_CELL_INFO_SI_LIST_FIELDS(F, umts_new_intra_freq_cell_si_list_hcs_ecno_lcr_r4)
+
+/* In SIB11 the RSCP form's removeSomeInterFreqCells of more than 8 identities runs on over
+   newInterFreqCellList, which then reads empty (see its conversion). */
+#define umts_inter_freq_cell_info_si_list_rscp_lcr_FIELDS(F) \
+  UMTS_INTER_FREQ_CELL_INFO_SI_LIST_FIELDS(F, umts_new_inter_freq_cell_si_list_rscp_lcr_r4)
+#define umts_inter_freq_cell_info_si_list_ecno_lcr_FIELDS(F) \
+  UMTS_INTER_FREQ_CELL_INFO_SI_LIST_FIELDS(F, umts_new_inter_freq_cell_si_list_ecno_lcr_r4)
+#define umts_inter_freq_cell_info_si_list_hcs_rscp_lcr_FIELDS(F) \
+  UMTS_INTER_FREQ_CELL_INFO_SI_LIST_FIELDS(F, umts_new_inter_freq_cell_si_list_hcs_rscp_lcr_r4)
+#define umts_inter_freq_cell_info_si_list_hcs_ecno_lcr_FIELDS(F) \
+  UMTS_INTER_FREQ_CELL_INFO_SI_LIST_FIELDS(F, umts_new_inter_freq_cell_si_list_hcs_ecno_lcr_r4)
+
+/* The reporting records: events 1a and 1b with LCR forbidden cells. */
+#define umts_forbidden_affect_cell_list_lcr_r4_FIELDS(F) \
+  UMTS_CELL_LIST_FIELDS(F, umts_primary_ccpch_info_lcr_r4, 32)
+
+#define umts_event_1a_lcr_r4_FIELDS(F) UMTS_EVENT_1A_FIELDS(F, umts_forbidden_affect_cell_list_lcr_r4)
+#define umts_event_1b_lcr_r4_FIELDS(F) UMTS_EVENT_1B_FIELDS(F, umts_forbidden_affect_cell_list_lcr_r4)
+
+/* IntraFreqEvent-LCR-r4: the tags of IntraFreqEvent; e1d (4) and e1g (7) carry nothing. */
+#define umts_intra_freq_event_lcr_r4_u_FIELDS(F)       \
+  F(RECORD, umts_event_1a_lcr_r4, e1a, 1, 1, _)        \
+  F(RECORD, umts_event_1b_lcr_r4, e1b, 1, 2, _)        \
+  F(RECORD, umts_event_1c, e1c, 1, 3, _)               \
+  F(RECORD, umts_event_1e, e1e, 1, 5, _)               \
+  F(RECORD, umts_event_1f, e1f, 1, 6, _)               \
+  F(SCALAR, int16_t, e1h, 1, 8, _)                     \
+  F(SCALAR, int16_t, e1i, 1, 9, _)
+
+#define umts_intra_freq_event_lcr_r4_FIELDS(F)                 \
+  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)           \
+  F(UNION, umts_intra_freq_event_lcr_r4_u, u, 1, UMTS_ALWAYS, choice_tag)
+
+#define umts_intra_freq_event_criteria_lcr_r4_FIELDS(F) UMTS_INTRA_FREQ_EVENT_CRITERIA_FIELDS(F, umts_intra_freq_event_lcr_r4)
+
+#define umts_intra_freq_event_criteria_list_lcr_r4_FIELDS(F) UMTS_CELL_LIST_FIELDS(F, umts_intra_freq_event_criteria_lcr_r4, 8)
+
+#define umts_intra_freq_reporting_criteria_lcr_r4_FIELDS(F)                            \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                             \
+  F(RECORD, umts_intra_freq_event_criteria_list_lcr_r4, eventCriteriaList, 1, 0, _)
+
+#define umts_cell_dch_report_criteria_lcr_r4_u_FIELDS(F)                                       \
+  F(RECORD, umts_intra_freq_reporting_criteria_lcr_r4, intraFreqReportingCriteria, 1, 1, _)    \
+  F(RECORD, umts_periodical_reporting_criteria, periodicalReportingCriteria, 1, 2, _)
+
+#define umts_cell_dch_report_criteria_lcr_r4_FIELDS(F)         \
+  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)           \
+  F(UNION, umts_cell_dch_report_criteria_lcr_r4_u, u, 1, UMTS_ALWAYS, choice_tag)
+
+#define umts_reporting_info_for_cell_dch_lcr_r4_FIELDS(F) \
+  UMTS_REPORTING_INFO_FOR_CELL_DCH_FIELDS(F, umts_cell_dch_report_criteria_lcr_r4)
+
+/* The measurement records. */
+#define umts_intra_freq_measurement_sys_info_rscp_lcr_r4_FIELDS(F)                                     \
+  UMTS_INTRA_FREQ_MEASUREMENT_SYS_INFO_FORM_FIELDS(F, umts_intra_freq_cell_info_si_list_rscp_lcr_r4,   \
+                                                   umts_reporting_info_for_cell_dch_lcr_r4)
+#define umts_intra_freq_measurement_sys_info_ecno_lcr_r4_FIELDS(F)                                     \
+  UMTS_INTRA_FREQ_MEASUREMENT_SYS_INFO_FORM_FIELDS(F, umts_intra_freq_cell_info_si_list_ecno_lcr_r4,   \
+                                                   umts_reporting_info_for_cell_dch_lcr_r4)
+#define umts_intra_freq_measurement_sys_info_hcs_rscp_lcr_r4_FIELDS(F)                                 \
+  UMTS_INTRA_FREQ_MEASUREMENT_SYS_INFO_FORM_FIELDS(F, umts_intra_freq_cell_info_si_list_hcs_rscp_lcr_r4, \
+                                                   umts_reporting_info_for_cell_dch_lcr_r4)
+#define umts_intra_freq_measurement_sys_info_hcs_ecno_lcr_r4_FIELDS(F)                                 \
+  UMTS_INTRA_FREQ_MEASUREMENT_SYS_INFO_FORM_FIELDS(F, umts_intra_freq_cell_info_si_list_hcs_ecno_lcr_r4, \
+                                                   umts_reporting_info_for_cell_dch_lcr_r4)
+
+#define umts_inter_freq_measurement_sys_info_rscp_lcr_r4_FIELDS(F) \
+  UMTS_INTER_FREQ_MEASUREMENT_SYS_INFO_FIELDS(F, umts_inter_freq_cell_info_si_list_rscp_lcr)
+#define umts_inter_freq_measurement_sys_info_ecno_lcr_r4_FIELDS(F) \
+  UMTS_INTER_FREQ_MEASUREMENT_SYS_INFO_FIELDS(F, umts_inter_freq_cell_info_si_list_ecno_lcr)
+#define umts_inter_freq_measurement_sys_info_hcs_rscp_lcr_r4_FIELDS(F) \
+  UMTS_INTER_FREQ_MEASUREMENT_SYS_INFO_FIELDS(F, umts_inter_freq_cell_info_si_list_hcs_rscp_lcr)
+#define umts_inter_freq_measurement_sys_info_hcs_ecno_lcr_r4_FIELDS(F) \
+  UMTS_INTER_FREQ_MEASUREMENT_SYS_INFO_FIELDS(F, umts_inter_freq_cell_info_si_list_hcs_ecno_lcr)
+
+/* SIB11 and SIB12 (MeasurementControlSysInfo-LCR-r4-ext): each use_of_HCS alternative holds
+   only cellSelectQualityMeasure; every quality alternative converts the intra- and the
+   inter-frequency record, each by its own bit. */
+#define umts_lcr_hcs_not_used_cpich_rscp_FIELDS(F)                                             \
+  UMTS_QUALITY_ALTERNATIVE_FIELDS(F, umts_intra_freq_measurement_sys_info_rscp_lcr_r4,         \
+                                  umts_inter_freq_measurement_sys_info_rscp_lcr_r4)
+#define umts_lcr_hcs_not_used_cpich_ec_n0_FIELDS(F)                                            \
+  UMTS_QUALITY_ALTERNATIVE_FIELDS(F, umts_intra_freq_measurement_sys_info_ecno_lcr_r4,         \
+                                  umts_inter_freq_measurement_sys_info_ecno_lcr_r4)
+#define umts_lcr_hcs_used_cpich_rscp_FIELDS(F)                                                 \
+  UMTS_QUALITY_ALTERNATIVE_FIELDS(F, umts_intra_freq_measurement_sys_info_hcs_rscp_lcr_r4,     \
+                                  umts_inter_freq_measurement_sys_info_hcs_rscp_lcr_r4)
+#define umts_lcr_hcs_used_cpich_ec_n0_FIELDS(F)                                                \
+  UMTS_QUALITY_ALTERNATIVE_FIELDS(F, umts_intra_freq_measurement_sys_info_hcs_ecno_lcr_r4,     \
+                                  umts_inter_freq_measurement_sys_info_hcs_ecno_lcr_r4)
+
+#define umts_lcr_hcs_not_used_quality_measure_u_FIELDS(F)              \
+  F(RECORD, umts_lcr_hcs_not_used_cpich_rscp, cpich_RSCP, 1, 1, _)     \
+  F(RECORD, umts_lcr_hcs_not_used_cpich_ec_n0, cpich_Ec_N0, 1, 2, _)
+
+#define umts_lcr_hcs_not_used_quality_measure_FIELDS(F)        \
+  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)           \
+  F(UNION, umts_lcr_hcs_not_used_quality_measure_u, u, 1, UMTS_ALWAYS, choice_tag)
+
+#define umts_lcr_hcs_used_quality_measure_u_FIELDS(F)                  \
+  F(RECORD, umts_lcr_hcs_used_cpich_rscp, cpich_RSCP, 1, 1, _)         \
+  F(RECORD, umts_lcr_hcs_used_cpich_ec_n0, cpich_Ec_N0, 1, 2, _)
+
+#define umts_lcr_hcs_used_quality_measure_FIELDS(F)            \
+  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)           \
+  F(UNION, umts_lcr_hcs_used_quality_measure_u, u, 1, UMTS_ALWAYS, choice_tag)
+
+#define umts_lcr_hcs_not_used_FIELDS(F) \
+  F(RECORD, umts_lcr_hcs_not_used_quality_measure, cellSelectQualityMeasure, 1, UMTS_ALWAYS, _)
+#define umts_lcr_hcs_used_FIELDS(F) \
+  F(RECORD, umts_lcr_hcs_used_quality_measure, cellSelectQualityMeasure, 1, UMTS_ALWAYS, _)
+
+#define umts_use_of_hcs_lcr_r4_ext_u_FIELDS(F)                 \
+  F(RECORD, umts_lcr_hcs_not_used, hcs_not_used, 1, 1, _)      \
+  F(RECORD, umts_lcr_hcs_used, hcs_used, 1, 2, _)
+
+/* use_of_HCS: 1 hcs_not_used, 2 hcs_used. */
+#define umts_use_of_hcs_lcr_r4_ext_FIELDS(F)                   \
+  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)           \
+  F(UNION, umts_use_of_hcs_lcr_r4_ext_u, u, 1, UMTS_ALWAYS, choice_tag)
+
+#define umts_measurement_control_sys_info_lcr_r4_ext_FIELDS(F) \
+  F(RECORD, umts_use_of_hcs_lcr_r4_ext, use_of_HCS, 1, UMTS_ALWAYS, _)
+
+/* SIB11bis (MeasurementControlSysInfoExtension-LCR-r4): the shape of the main extension with
+   the LCR new-cell lists; every quality alternative converts both lists by their own bits. */
+#define umts_ext_hcs_not_used_cpich_rscp_lcr_r4_FIELDS(F)                                      \
+  UMTS_EXT_QUALITY_ALTERNATIVE_FIELDS(F, umts_new_intra_freq_cell_si_list_rscp_lcr_r4,         \
+                                      umts_new_inter_freq_cell_si_list_rscp_lcr_r4)
+#define umts_ext_hcs_not_used_cpich_ec_n0_lcr_r4_FIELDS(F)                                     \
+  UMTS_EXT_QUALITY_ALTERNATIVE_FIELDS(F, umts_new_intra_freq_cell_si_list_ecno_lcr_r4,         \
+                                      umts_new_inter_freq_cell_si_list_ecno_lcr_r4)
+#define umts_ext_hcs_used_cpich_rscp_lcr_r4_FIELDS(F)                                          \
+  UMTS_EXT_QUALITY_ALTERNATIVE_FIELDS(F, umts_new_intra_freq_cell_si_list_hcs_rscp_lcr_r4,     \
+                                      umts_new_inter_freq_cell_si_list_hcs_rscp_lcr_r4)
+#define umts_ext_hcs_used_cpich_ec_n0_lcr_r4_FIELDS(F)                                         \
+  UMTS_EXT_QUALITY_ALTERNATIVE_FIELDS(F, umts_new_intra_freq_cell_si_list_hcs_ecno_lcr_r4,     \
+                                      umts_new_inter_freq_cell_si_list_hcs_ecno_lcr_r4)
+
+#define umts_ext_hcs_not_used_quality_measure_lcr_r4_u_FIELDS(F)               \
+  F(RECORD, umts_ext_hcs_not_used_cpich_rscp_lcr_r4, cpich_RSCP, 1, 1, _)      \
+  F(RECORD, umts_ext_hcs_not_used_cpich_ec_n0_lcr_r4, cpich_Ec_N0, 1, 2, _)
+
+#define umts_ext_hcs_not_used_quality_measure_lcr_r4_FIELDS(F) \
+  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)           \
+  F(UNION, umts_ext_hcs_not_used_quality_measure_lcr_r4_u, u, 1, UMTS_ALWAYS, choice_tag)
+
+#define umts_ext_hcs_used_quality_measure_lcr_r4_u_FIELDS(F)                   \
+  F(RECORD, umts_ext_hcs_used_cpich_rscp_lcr_r4, cpich_RSCP, 1, 1, _)          \
+  F(RECORD, umts_ext_hcs_used_cpich_ec_n0_lcr_r4, cpich_Ec_N0, 1, 2, _)
+
+#define umts_ext_hcs_used_quality_measure_lcr_r4_FIELDS(F)     \
+  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)           \
+  F(UNION, umts_ext_hcs_used_quality_measure_lcr_r4_u, u, 1, UMTS_ALWAYS, choice_tag)
+
+#define umts_ext_hcs_not_used_lcr_r4_FIELDS(F)                                                         \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                             \
+  F(RECORD, umts_ext_hcs_not_used_quality_measure_lcr_r4, cellSelectQualityMeasure, 1, UMTS_ALWAYS, _) \
+  F(RECORD, umts_new_inter_rat_cell_list, newInterRATCellList, 1, 0, _)
+
+#define umts_ext_hcs_used_lcr_r4_FIELDS(F)                                                             \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                             \
+  F(RECORD, umts_ext_hcs_used_quality_measure_lcr_r4, cellSelectQualityMeasure, 1, UMTS_ALWAYS, _)     \
+  F(RECORD, umts_new_inter_rat_cell_list, newInterRATCellList, 1, 0, _)
+
+#define umts_ext_use_of_hcs_lcr_r4_u_FIELDS(F)                 \
+  F(RECORD, umts_ext_hcs_not_used_lcr_r4, hcs_not_used, 1, 1, _) \
+  F(RECORD, umts_ext_hcs_used_lcr_r4, hcs_used, 1, 2, _)
+
+#define umts_ext_use_of_hcs_lcr_r4_FIELDS(F)                   \
+  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)           \
+  F(UNION, umts_ext_use_of_hcs_lcr_r4_u, u, 1, UMTS_ALWAYS, choice_tag)
+
 #define umts_measurement_control_sys_info_extension_lcr_r4_FIELDS(F) \
   F(RECORD, umts_ext_use_of_hcs_lcr_r4, use_of_HCS, 1, UMTS_ALWAYS, _)
 
 /* ==== SIB11 and SIB12: the v4b0 records and the extension chains =========================== */
-
-/* The LCR measurement control tree of SIB11 and SIB12, whose contents come with its
-   conversion: for now only its use_of_HCS tag, so that it reads as all zero behind it. */
-#define umts_use_of_hcs_lcr_r4_ext_FIELDS(F) F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)
-#define umts_measurement_control_sys_info_lcr_r4_ext_FIELDS(F) \
-  F(RECORD, umts_use_of_hcs_lcr_r4_ext, use_of_HCS, 1, UMTS_ALWAYS, _)
 
 /* v4b0: the LCR FACH byte (inter_freq_TDD128_meas_ind), then the LCR measurement control
    tree, always. */
@@ -1189,6 +1442,79 @@
   X(UNION, umts_ext_use_of_hcs_u)                                       \
   X(RECORD, umts_ext_use_of_hcs)                                        \
   X(RECORD, umts_measurement_control_sys_info_extension)                \
+  X(RECORD, umts_primary_ccpch_info_lcr_r4)                             \
+  X(RECORD, umts_timeslot_info_list_lcr_r4)                             \
+  X(RECORD, umts_cell_info_si_rscp_lcr_r4)                              \
+  X(RECORD, umts_cell_info_si_ecno_lcr_r4)                              \
+  X(RECORD, umts_cell_info_si_hcs_rscp_lcr_r4)                          \
+  X(RECORD, umts_cell_info_si_hcs_ecno_lcr_r4)                          \
+  X(RECORD, umts_new_intra_freq_cell_si_rscp_lcr_r4)                    \
+  X(RECORD, umts_new_intra_freq_cell_si_ecno_lcr_r4)                    \
+  X(RECORD, umts_new_intra_freq_cell_si_hcs_rscp_lcr_r4)                \
+  X(RECORD, umts_new_intra_freq_cell_si_hcs_ecno_lcr_r4)                \
+  X(RECORD, umts_new_intra_freq_cell_si_list_rscp_lcr_r4)               \
+  X(RECORD, umts_new_intra_freq_cell_si_list_ecno_lcr_r4)               \
+  X(RECORD, umts_new_intra_freq_cell_si_list_hcs_rscp_lcr_r4)           \
+  X(RECORD, umts_new_intra_freq_cell_si_list_hcs_ecno_lcr_r4)           \
+  X(RECORD, umts_new_inter_freq_cell_si_rscp_lcr_r4)                    \
+  X(RECORD, umts_new_inter_freq_cell_si_ecno_lcr_r4)                    \
+  X(RECORD, umts_new_inter_freq_cell_si_hcs_rscp_lcr_r4)                \
+  X(RECORD, umts_new_inter_freq_cell_si_hcs_ecno_lcr_r4)                \
+  X(RECORD, umts_new_inter_freq_cell_si_list_rscp_lcr_r4)               \
+  X(RECORD, umts_new_inter_freq_cell_si_list_ecno_lcr_r4)               \
+  X(RECORD, umts_new_inter_freq_cell_si_list_hcs_rscp_lcr_r4)           \
+  X(RECORD, umts_new_inter_freq_cell_si_list_hcs_ecno_lcr_r4)           \
+  X(RECORD, umts_intra_freq_cell_info_si_list_rscp_lcr_r4)              \
+  X(RECORD, umts_intra_freq_cell_info_si_list_ecno_lcr_r4)              \
+  X(RECORD, umts_intra_freq_cell_info_si_list_hcs_rscp_lcr_r4)          \
+  X(RECORD, umts_intra_freq_cell_info_si_list_hcs_ecno_lcr_r4)          \
+  X(RECORD, umts_inter_freq_cell_info_si_list_rscp_lcr)                 \
+  X(RECORD, umts_inter_freq_cell_info_si_list_ecno_lcr)                 \
+  X(RECORD, umts_inter_freq_cell_info_si_list_hcs_rscp_lcr)             \
+  X(RECORD, umts_inter_freq_cell_info_si_list_hcs_ecno_lcr)             \
+  X(RECORD, umts_forbidden_affect_cell_list_lcr_r4)                     \
+  X(RECORD, umts_event_1a_lcr_r4)                                       \
+  X(RECORD, umts_event_1b_lcr_r4)                                       \
+  X(UNION, umts_intra_freq_event_lcr_r4_u)                              \
+  X(RECORD, umts_intra_freq_event_lcr_r4)                               \
+  X(RECORD, umts_intra_freq_event_criteria_lcr_r4)                      \
+  X(RECORD, umts_intra_freq_event_criteria_list_lcr_r4)                 \
+  X(RECORD, umts_intra_freq_reporting_criteria_lcr_r4)                  \
+  X(UNION, umts_cell_dch_report_criteria_lcr_r4_u)                      \
+  X(RECORD, umts_cell_dch_report_criteria_lcr_r4)                       \
+  X(RECORD, umts_reporting_info_for_cell_dch_lcr_r4)                    \
+  X(RECORD, umts_intra_freq_measurement_sys_info_rscp_lcr_r4)           \
+  X(RECORD, umts_intra_freq_measurement_sys_info_ecno_lcr_r4)           \
+  X(RECORD, umts_intra_freq_measurement_sys_info_hcs_rscp_lcr_r4)       \
+  X(RECORD, umts_intra_freq_measurement_sys_info_hcs_ecno_lcr_r4)       \
+  X(RECORD, umts_inter_freq_measurement_sys_info_rscp_lcr_r4)           \
+  X(RECORD, umts_inter_freq_measurement_sys_info_ecno_lcr_r4)           \
+  X(RECORD, umts_inter_freq_measurement_sys_info_hcs_rscp_lcr_r4)       \
+  X(RECORD, umts_inter_freq_measurement_sys_info_hcs_ecno_lcr_r4)       \
+  X(RECORD, umts_lcr_hcs_not_used_cpich_rscp)                           \
+  X(RECORD, umts_lcr_hcs_not_used_cpich_ec_n0)                          \
+  X(RECORD, umts_lcr_hcs_used_cpich_rscp)                               \
+  X(RECORD, umts_lcr_hcs_used_cpich_ec_n0)                              \
+  X(UNION, umts_lcr_hcs_not_used_quality_measure_u)                     \
+  X(RECORD, umts_lcr_hcs_not_used_quality_measure)                      \
+  X(UNION, umts_lcr_hcs_used_quality_measure_u)                         \
+  X(RECORD, umts_lcr_hcs_used_quality_measure)                          \
+  X(RECORD, umts_lcr_hcs_not_used)                                      \
+  X(RECORD, umts_lcr_hcs_used)                                          \
+  X(UNION, umts_use_of_hcs_lcr_r4_ext_u)                                \
+  X(RECORD, umts_use_of_hcs_lcr_r4_ext)                                 \
+  X(RECORD, umts_measurement_control_sys_info_lcr_r4_ext)               \
+  X(RECORD, umts_ext_hcs_not_used_cpich_rscp_lcr_r4)                    \
+  X(RECORD, umts_ext_hcs_not_used_cpich_ec_n0_lcr_r4)                   \
+  X(RECORD, umts_ext_hcs_used_cpich_rscp_lcr_r4)                        \
+  X(RECORD, umts_ext_hcs_used_cpich_ec_n0_lcr_r4)                       \
+  X(UNION, umts_ext_hcs_not_used_quality_measure_lcr_r4_u)              \
+  X(RECORD, umts_ext_hcs_not_used_quality_measure_lcr_r4)               \
+  X(UNION, umts_ext_hcs_used_quality_measure_lcr_r4_u)                  \
+  X(RECORD, umts_ext_hcs_used_quality_measure_lcr_r4)                   \
+  X(RECORD, umts_ext_hcs_not_used_lcr_r4)                               \
+  X(RECORD, umts_ext_hcs_used_lcr_r4)                                   \
+  X(UNION, umts_ext_use_of_hcs_lcr_r4_u)                                \
   X(RECORD, umts_ext_use_of_hcs_lcr_r4)                                 \
   X(RECORD, umts_measurement_control_sys_info_extension_lcr_r4)         \
   X(RECORD, umts_cell_select_reselect_info_v590ext_list)               \
@@ -1199,8 +1525,6 @@
   X(RECORD, umts_sib11bis_v860ext_ies)                                  \
   X(RECORD, umts_sib11bis_v860_nc_extensions)                           \
   X(RECORD, umts_sib11bis_v7b0_nc_extensions)                           \
-  X(RECORD, umts_use_of_hcs_lcr_r4_ext)                                 \
-  X(RECORD, umts_measurement_control_sys_info_lcr_r4_ext)               \
   X(RECORD, umts_sib11_v4b0ext)                                         \
   X(RECORD, umts_sib12_v4b0ext)                                         \
   X(RECORD, umts_intra_freq_event_criteria_list_v590ext)                \

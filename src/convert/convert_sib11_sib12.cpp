@@ -295,21 +295,3 @@ void convert_sysinfotype12_v4b0_nc_extensions(const SysInfoType12_v4b0NonCritica
   UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sysinfotype12_v4b0ext_ies, sysInfoType12_v4b0ext);
   UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_sysinfotype12_v4b0nces_v590nce, v590NonCriticalExtension);
 }
-
-/* ---- The LCR trees of the three blocks, whose contents come with their conversion: for now
-        their use_of_HCS tag ----------------------------------------------------------------- */
-
-void convert_measurement_control_sys_info_extension_lcr_r4(const MeasurementControlSysInfoExtension_LCR_r4* src,
-                                                           umts_measurement_control_sys_info_extension_lcr_r4* dst) {
-  dst->use_of_HCS.choice_tag = src->use_of_HCS.t;
-}
-
-void convert_MeasurementControlSysInfo_LCR_r4(const MeasurementControlSysInfo_LCR_r4_ext* src,
-                                              umts_measurement_control_sys_info_lcr_r4_ext* dst) {
-  dst->use_of_HCS.choice_tag = src->use_of_HCS.t;
-}
-
-void convert_measurement_control_sys_info_lcr_r4_ext(const MeasurementControlSysInfo_LCR_r4_ext* src,
-                                                     umts_measurement_control_sys_info_lcr_r4_ext* dst) {
-  dst->use_of_HCS.choice_tag = src->use_of_HCS.t;
-}
