@@ -965,6 +965,14 @@ TEST_F(ConvertSib5Tdd, MbmsSccpch) {
       EXPECT_EQ(c7.u.tdd128.modulation, 1u);
     }
   }
+  // v690's other alternative: the MCCH configuration alone.
+  e690.sccpch_SystemInformation_MBMS.t = 1;
+  mcch(*pool.alloc(e690.sccpch_SystemInformation_MBMS.u.mcchOnSCCPCHusedForNonMBMS), 5);
+  const umts_sib5_v690_sccpch_mbms& v =
+      convert(b).v4b0NonCriticalExtensions.v590NonCriticalExtensions.v650NonCriticalExtensions.v680NonCriticalExtensions
+          .v690NonCriticalExtensions.sysInfoType5_v690ext.sccpch_SystemInformation_MBMS;
+  ASSERT_EQ(v.choice_tag, 1u);
+  checkMcch(v.u.mcchOnSCCPCHusedForNonMBMS, 5);
 }
 
 // The r7 tdd128 S-CCPCH copies mbsfnSpecialTimeSlot with modulation whatever its option says,
@@ -973,6 +981,9 @@ TEST(ConvertSib5TddParts, MbmsTdd128SpecialTimeslotTravelsWithModulation) {
   static_assert(offsetof(umts_secondary_ccpch_info_mbms_r7_tdd128, commonTimeslotInfoMBMS) ==
                     offsetof(umts_secondary_ccpch_info_mbms_r7_tdd384, commonTimeslotInfoMBMS) + 4,
                 "one word later");
+  static_assert(sizeof(umts_prach_partitioning_r7_tdd::count) == 1 && sizeof(umts_prach_partitioning_r7_fdd::count) == 1 &&
+                    sizeof(umts_prach_partitioning_tdd::count) == 4,
+                "the r7 partitioning counts are 8-bit, the base ones 32-bit");
   SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128 src = {};
   src.m = 0;  // option clear, value left in the decoded record
   src.mbsfnSpecialTimeSlot = 3;
