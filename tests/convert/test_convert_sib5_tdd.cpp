@@ -321,12 +321,20 @@ void checkSfn(const Flat& f, unsigned e) {
 
 class ConvertSib5Tdd : public FrameTest {
  protected:
-  // Encodes `b`, converts it whole and returns the SIB5 record.
+  void TearDown() override {
+    umts_sib_set_free(library);
+    FrameTest::TearDown();
+  }
+  // Encodes `b`, converts it whole and returns the SIB5 record. The same bytes go into a set
+  // of umts_sib_set_alloc, cleared by what the test's conversion before wrote: its record
+  // must read byte for byte as the caller's set, written with zeros whole.
   const umts_sib5_info& convert(const sib5test::Sib5Builder& b) {
     const std::vector<uint8_t> bytes = b.encode();
     EXPECT_FALSE(bytes.empty());
     EXPECT_LE(bytes.size(), 1000u) << "the conversion reads 1000 octets";
     EXPECT_EQ(whole(umts_sib_sib5, bytes), 1);
+    captureStdout([&] { umts_sib_msg_decoder(umts_sib_sib5, bytes.data(), library, static_cast<uint32_t>(bytes.size())); });
+    EXPECT_TRUE(same(library->sib5, result->sib5)) << "the library set's record differs from the caller's";
     return result->sib5;
   }
   // The transport format set and TFCS that the builder's sample cell already carries, and
@@ -342,6 +350,7 @@ class ConvertSib5Tdd : public FrameTest {
     return std::memcmp(&a, &b, sizeof a) == 0;
   }
   Pool pool;
+  umts_sib_set* library = umts_sib_set_alloc();
 };
 
 // 3.84 Mcps TDD: eight PUSCHs and eight PDSCHs, each form of moreTimeslots, the longest
