@@ -414,23 +414,14 @@ TEST_F(ConvertSib5Tdd, Tdd128SpecificInfoAndLcrPrach) {
   v4.openLoopPowerControl_IPDL_TDD = {2, 1};
   for (unsigned p = 0; p < 2; p++) {
     auto* prach = pool.make<PRACH_SystemInformation_LCR_r4>();
-    SYNC_UL_Info_r4& sync = prach->prach_RACH_Info_LCR.sync_UL_Info;
-    sync.sync_UL_Codes_Bitmap = bitString<Sync_UL_Codes_Bitmap>({static_cast<uint8_t>(0xA5 + p)}, 8);
-    sync.prxUpPCHdes = static_cast<uint8_t>(40 + p);
-    sync.powerRampStep = 2;
-    sync.max_SYNC_UL_Transmissions = 3;
-    sync.mmax = static_cast<uint8_t>(30 + p);
+    prach->prach_RACH_Info_LCR.sync_UL_Info = {bitString<Sync_UL_Codes_Bitmap>({static_cast<uint8_t>(0xA5 + p)}, 8),
+                                               static_cast<uint8_t>(40 + p), 2, 3, static_cast<uint8_t>(30 + p)};
     for (unsigned k = 0; k < 8; k++) {
-      auto* def = pool.make<PRACH_Definition_LCR_r4>();
-      def->timeslot = static_cast<uint8_t>(1 + k % 6);
-      def->prach_ChanCodes_LCR.n = 4;
-      for (uint32_t c = 0; c < 4; c++) def->prach_ChanCodes_LCR.elem[c] = (k + c) % 8;
+      auto* def = pool.addNew(prach->prach_RACH_Info_LCR.prach_DefinitionList,
+                              PRACH_Definition_LCR_r4{static_cast<uint8_t>(1 + k % 6), {4, {k % 8, (k + 1) % 8, (k + 2) % 8, (k + 3) % 8}}, {},
+                                                      {static_cast<uint8_t>(k % 7), 15 - k, {}, static_cast<uint8_t>(1 + k % 4)}});
       fillLcrMidamble(pool, def->midambleShiftAndBurstType, k);
-      def->fpach_Info.timeslot = static_cast<uint8_t>(k % 7);
-      def->fpach_Info.channelisationCode = 15 - k;
       fillLcrMidamble(pool, def->fpach_Info.midambleShiftAndBurstType, k + 1);
-      def->fpach_Info.wi = static_cast<uint8_t>(1 + k % 4);
-      pool.add(prach->prach_RACH_Info_LCR.prach_DefinitionList, *def);
     }
     if (p == 1) {
       prach->m = 2;
@@ -468,13 +459,8 @@ TEST_F(ConvertSib5Tdd, Tdd128SpecificInfoAndLcrPrach) {
     fillLcrMidamble(pool, ext->secondaryCCPCH_LCR_Extensions.individualTimeslotLCR_Ext.midambleShiftAndBurstType, 7 + k);
     ext->secondaryCCPCH_LCR_Extensions.individualTimeslotLCR_Ext.modulation = 1;
     ext->secondaryCCPCH_LCR_Extensions.individualTimeslotLCR_Ext.ss_TPC_Symbols = 2;
-    if (k == 1) {
-      ext->m = 1;
-      ext->pich_Info.pichChannelisationCodeList_LCR_r4.n = 2;
-      ext->pich_Info.pichChannelisationCodeList_LCR_r4.elem[1] = 9;
-      fillLcrMidamble(pool, ext->pich_Info.midambleShiftAndBurstType, 3);
-      ext->pich_Info.n_PCH = 4;
-    }
+    if (k == 1) ext->m = 1, ext->pich_Info.pichChannelisationCodeList_LCR_r4 = {2, {0, 9}}, ext->pich_Info.n_PCH = 4;
+    fillLcrMidamble(pool, ext->pich_Info.midambleShiftAndBurstType, 3);
     pool.add(t128.sCCPCH_LCR_ExtensionsList, *ext);
   }
   const umts_sib5_info& f = convert(b);
@@ -561,14 +547,8 @@ TEST_F(ConvertSib5Tdd, HcrSharedChannels) {
       u->pusch_SysInfo.usch_TFCS = sampleTfcs(b);
       d->pdsch_SysInfo.m = 1;
       for (uint8_t c = 0; c < 2; c++) {
-        auto* uc = pool.make<USCH_TransportChannelsInfo_element>();
-        uc->usch_TransportChannelIdentity = static_cast<uint8_t>(20 + c);
-        uc->usch_TFS = sampleTfs(b);
-        pool.add(u->pusch_SysInfo.usch_TransportChannelsInfo, *uc);
-        auto* dc = pool.make<DSCH_TransportChannelsInfo_element>();
-        dc->dsch_transport_channel_identity = static_cast<uint8_t>(30 + c);
-        dc->dsch_TFS = sampleTfs(b);
-        pool.add(d->pdsch_SysInfo.dsch_TransportChannelsInfo, *dc);
+        pool.addNew(u->pusch_SysInfo.usch_TransportChannelsInfo, USCH_TransportChannelsInfo_element{static_cast<uint8_t>(20 + c), sampleTfs(b)});
+        pool.addNew(d->pdsch_SysInfo.dsch_TransportChannelsInfo, DSCH_TransportChannelsInfo_element{static_cast<uint8_t>(30 + c), sampleTfs(b)});
       }
     }
     pool.add(hcr.pusch_SysInfoList_SFN, *u);
@@ -739,11 +719,9 @@ TEST_F(ConvertSib5Tdd, V770Tdd128ListAndHcrVhcrSccpch) {
   e770.modeSpecificInfo.t = 3;
   auto* t128 = pool.alloc(e770.modeSpecificInfo.u.tdd128);
   t128->m = 1;
-  for (unsigned p = 0; p < 3; p++) {
-    auto* e = pool.make<PRACH_SystemInformation_LCR_v770ext>();
-    e->prach_RACH_Info_LCR.e_RUCCH_Sync_UL_Codes_Bitmap = bitString<Sync_UL_Codes_Bitmap>({static_cast<uint8_t>(0x11 * (p + 1))}, 8);
-    pool.add(t128->prach_SystemInformationList, *e);
-  }
+  for (unsigned p = 0; p < 3; p++)
+    pool.addNew(t128->prach_SystemInformationList,
+                PRACH_SystemInformation_LCR_v770ext{{bitString<Sync_UL_Codes_Bitmap>({static_cast<uint8_t>(0x11 * (p + 1))}, 8)}});
   for (unsigned k = 0; k < 2; k++) {
     auto* c = pool.make<SCCPCH_SystemInformation_HCR_VHCR_r7>();
     auto& mode = c->secondaryCCPCH_Info.modeSpecificInfo;
@@ -759,17 +737,8 @@ TEST_F(ConvertSib5Tdd, V770Tdd128ListAndHcrVhcrSccpch) {
     }
     c->m = k == 0 ? 4u : 7u;
     if (k == 1) c->tfcs = sampleTfcs(b), c->fach_PCH_InformationList = b.sccpch[0].fach_PCH_InformationList;
-    PICH_Info_HCR_VHCR_r7& pich = c->pich_Info;
-    pich.m = k == 0 ? 1u : 7u;
-    pich.channelisationCode.t = 1 + k;
-    pich.channelisationCode.u.tdd384 = 10 + 15 * k;
-    pich.timeslot = 6;
-    fillBurst(pool, pich.midambleShiftAndBurstType.burstType, 2, 3);
-    pich.repetitionPeriodLengthOffset.t = 4;
-    pich.repetitionPeriodLengthOffset.u.rpp16_2 = 7;
-    pich.pagingIndicatorLength = 2;
-    pich.n_GAP = 1;
-    pich.n_PCH = static_cast<uint8_t>(3 + k);
+    c->pich_Info = {k == 0 ? 1u : 7u, {1 + k, {10 + 15 * k}}, 6, {}, {4, {7}}, 2, 1, static_cast<uint8_t>(3 + k)};
+    fillBurst(pool, c->pich_Info.midambleShiftAndBurstType.burstType, 2, 3);
     pool.add(e770.sccpch_SystemInformationList, *c);
   }
   const umts_sib5_info& f = convert(b);
