@@ -1042,6 +1042,16 @@ TEST_F(ConvertSib5Tdd, Tdd128CommonEdch) {
         .v690NonCriticalExtensions.v770NonCriticalExtensions.v860NonCriticalExtensions.v890NonCriticalExtensions
         .sysInfoType5_v890ext.commonEDCHSystemInfo;
   };
+  // First the longest E-RNTI list, 256 groups under an 8-bit count that reads 0; the three
+  // groups after it must leave no trace of the others in either set.
+  const rtxDList three = ccch.common_e_rnti_Info;
+  ccch.common_e_rnti_Info = {};
+  for (unsigned i = 0; i < 256; i++)
+    pool.addNew(ccch.common_e_rnti_Info, Common_E_RNTI_Info_element{bitString<E_RNTI>({0xAB, static_cast<uint8_t>(i)}, 16), 1, 1});
+  const umts_common_e_rnti_info_list& full = edch(convert(b)).modeSpecificInfo.u.tdd.u.tdd128.ccch_transmission_Info.common_e_rnti_Info;
+  EXPECT_EQ(full.count, 0);
+  EXPECT_EQ(full.entries[255].starting_E_RNTI.data[1], 255);
+  ccch.common_e_rnti_Info = three;
   const umts_common_edch_system_info& out = edch(convert(b));
   ASSERT_EQ(out.modeSpecificInfo.choice_tag, 2u);
   ASSERT_EQ(out.modeSpecificInfo.u.tdd.choice_tag, 3u);
