@@ -694,20 +694,7 @@
   F(SCALAR, int8_t, dpch_ConstantValue, 1, UMTS_ALWAYS, _)             \
   F(SCALAR, int8_t, pusch_ConstantValue, 1, 1, _)
 
-/* Records of the TDD, LCR and later-release members. They keep their names and place in the
-   record; their fields are converted by the TDD and HS-DSCH/E-DCH work and stay zero here. */
-#define UMTS_SIB5_RESERVED_LIST_FIELDS(F) F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)
-#define UMTS_SIB5_RESERVED_RECORD_FIELDS(F) F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)
-#define umts_pusch_sysinfo_list_sfn_FIELDS(F) UMTS_SIB5_RESERVED_LIST_FIELDS(F)
-#define umts_pdsch_sysinfo_list_sfn_FIELDS(F) UMTS_SIB5_RESERVED_LIST_FIELDS(F)
-#define umts_prach_system_information_list_lcr_r4_FIELDS(F) UMTS_SIB5_RESERVED_LIST_FIELDS(F)
-#define umts_sib5_tdd128_specific_info_FIELDS(F) UMTS_SIB5_RESERVED_RECORD_FIELDS(F)
-#define umts_sib5_hcr_r5_specific_info_FIELDS(F) UMTS_SIB5_RESERVED_RECORD_FIELDS(F)
-#define umts_sccpch_system_information_mbms_r6_FIELDS(F) UMTS_SIB5_RESERVED_RECORD_FIELDS(F)
-#define umts_additional_prach_tf_and_tfcs_ccch_list_FIELDS(F) UMTS_SIB5_RESERVED_LIST_FIELDS(F)
-#define umts_sccpch_system_information_list_hcr_vhcr_r7_FIELDS(F) UMTS_SIB5_RESERVED_LIST_FIELDS(F)
-#define umts_sccpch_system_information_mbms_r7_FIELDS(F) UMTS_SIB5_RESERVED_RECORD_FIELDS(F)
-
+#include "umts_sib_sib5_tdd.h"
 #include "umts_sib_sib5_hspa.h"
 
 /* TDD-MBSFNInformation: a count, then the pairs packed right after it. */
@@ -770,7 +757,7 @@
 #define umts_sib5_v690ext_FIELDS(F)                                                                       \
   F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                                \
   F(SCALAR, uint32_t, edch_CellIndicator, 1, 0, _)                                                        \
-  F(RECORD, umts_sccpch_system_information_mbms_r6, sccpch_SystemInformation_MBMS, 1, 1, _)               \
+  F(RECORD, umts_sib5_v690_sccpch_mbms, sccpch_SystemInformation_MBMS, 1, 1, _)                    \
   F(RECORD, umts_additional_prach_tf_and_tfcs_ccch_list, additionalPRACH_TF_and_TFCS_CCCH_List, 1, 2, _)  \
   F(SCALAR, uint32_t, cBS_DRX_Level1Information_extension, 1, 3, _)
 
@@ -778,7 +765,7 @@
   F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                                 \
   F(RECORD, umts_sib5_v770_mode_specific_info, modeSpecificInfo, 1, 0, _)                                  \
   F(RECORD, umts_sccpch_system_information_list_hcr_vhcr_r7, sccpch_SystemInformationList, 1, 1, _)        \
-  F(RECORD, umts_sccpch_system_information_mbms_r7, sccpch_SystemInformation_MBMS, 1, 2, _)                \
+  F(RECORD, umts_sib5_v770_sccpch_mbms, sccpch_SystemInformation_MBMS, 1, 2, _)                          \
   F(RECORD, umts_tdd_mbsfn_information, tDD_MBSFNInformation, 1, 3, _)
 
 #define umts_sib5_v860ext_FIELDS(F)                                                             \
@@ -983,16 +970,8 @@
   X(RECORD, umts_sccpch_system_information)                      \
   X(RECORD, umts_sccpch_system_information_list)                 \
   X(RECORD, umts_open_loop_power_control_tdd)                    \
-  X(RECORD, umts_pusch_sysinfo_list_sfn)                         \
-  X(RECORD, umts_pdsch_sysinfo_list_sfn)                         \
-  X(RECORD, umts_prach_system_information_list_lcr_r4)           \
-  X(RECORD, umts_sib5_tdd128_specific_info)                      \
-  X(RECORD, umts_sib5_hcr_r5_specific_info)                      \
-  X(RECORD, umts_sccpch_system_information_mbms_r6)              \
-  X(RECORD, umts_additional_prach_tf_and_tfcs_ccch_list)         \
+  UMTS_SIB5_TDD_RECORDS(X)                                       \
   UMTS_SIB5_HSPA_RECORDS(X)                                      \
-  X(RECORD, umts_sccpch_system_information_list_hcr_vhcr_r7)     \
-  X(RECORD, umts_sccpch_system_information_mbms_r7)              \
   X(RECORD, umts_tdd_mbsfn_tslot_info)                           \
   X(RECORD, umts_tdd_mbsfn_information)                          \
   X(RECORD, umts_sib5_mode_specific_info_fdd)                    \

@@ -3,10 +3,8 @@
  * E-DCH (v890 commonEDCHSystemInfo, v8d0 commonEDCHSystemInfoFDD). Included by
  * umts_sib_sib5.h, whose PICH, PRACH and bit string records they reuse.
  *
- * The 1.28 Mcps HS-DSCH common and paging information of v860 is converted; the other TDD
- * parts of these members (v770 tdd768/tdd128, the tdd128 common E-DCH resources, the tdd form
- * of PRACH-Partitioning-r7) keep their tag and presence bits; their own fields are not
- * converted yet and stay zero.
+ * The TDD channel lists of v770 tdd768 and tdd128 are records of umts_sib_sib5_tdd.h; the
+ * 1.28 Mcps common E-DCH resources (E-RUCCH, E-PUCH, E-HICH, E-AGCH) are here.
  */
 #ifndef UMTS_SIB_SIB5_HSPA_H
 #define UMTS_SIB_SIB5_HSPA_H
@@ -92,9 +90,15 @@
   F(RECORD, umts_hs_dsch_common_system_information, hs_dsch_CommonSystemInformation, 1, UMTS_ALWAYS, _) \
   F(RECORD, umts_hs_dsch_paging_system_information, hs_dsch_PagingSystemInformation, 1, 0, _)
 
-/* The TDD forms: presence bits only (bit 0 PUSCH, 1 PDSCH, 2 PRACH list; tdd128 bit 0 PRACH). */
-#define umts_sib5_v770_mode_specific_info_tdd768_FIELDS(F) F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)
-#define umts_sib5_v770_mode_specific_info_tdd128_FIELDS(F) F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)
+/* tdd768: bit 0 PUSCH, 1 PDSCH, 2 PRACH list; tdd128: bit 0 its PRACH list. */
+#define umts_sib5_v770_mode_specific_info_tdd768_FIELDS(F)                                              \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                             \
+  F(RECORD, umts_pusch_sysinfo_list_sfn_vhcr, pusch_SysInfoList_SFN, 1, 0, _)                          \
+  F(RECORD, umts_pdsch_sysinfo_list_vhcr_r7, pdsch_SysInfoList_SFN, 1, 1, _)                           \
+  F(RECORD, umts_prach_system_information_list_vhcr_r7, prach_SystemInformationList, 1, 2, _)
+#define umts_sib5_v770_mode_specific_info_tdd128_FIELDS(F)                                              \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                             \
+  F(RECORD, umts_prach_system_information_list_lcr_v770ext, prach_SystemInformationList, 1, 0, _)
 
 #define umts_sib5_v770_mode_specific_info_u_FIELDS(F)                             \
   F(RECORD, umts_sib5_v770_mode_specific_info_fdd, fdd, 1, 1, _)                  \
@@ -177,28 +181,6 @@
   F(RECORD, umts_h_rnti_list, common_H_RNTI_information, 1, UMTS_ALWAYS, _)                                 \
   F(RECORD, umts_bit_string32, bcchSpecific_H_RNTI, 1, UMTS_ALWAYS, _)
 
-/* MidambleShiftAndBurstType-LCR-r4: the allocation mode (3 ueSpecificMidamble, whose shift
-   is `midambleShift`), then the configuration. */
-#define umts_midamble_shift_and_burst_type_lcr_r4_FIELDS(F)      \
-  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)             \
-  F(SCALAR, uint8_t, midambleShift, 1, UMTS_ALWAYS, _)           \
-  F(SCALAR, uint8_t, midambleConfiguration, 1, UMTS_ALWAYS, _)
-
-#define umts_pich_channelisation_code_list_lcr_r4_FIELDS(F) \
-  F(SCALAR, uint32_t, count, 1, UMTS_ALWAYS, _)             \
-  F(ARRAY, uint32_t, entries, 2, UMTS_ALWAYS, count)
-
-/* PICH-Info-LCR-r4: bit 0 timeslot, bit 1 repetitionPeriodLengthOffset. */
-#define umts_pich_info_lcr_r4_FIELDS(F)                                                                     \
-  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                                  \
-  F(SCALAR, uint8_t, timeslot, 1, 0, _)                                                                     \
-  F(RECORD, umts_pich_channelisation_code_list_lcr_r4, pichChannelisationCodeList_LCR_r4, 1, UMTS_ALWAYS, _) \
-  F(RECORD, umts_midamble_shift_and_burst_type_lcr_r4, midambleShiftAndBurstType, 1, UMTS_ALWAYS, _)        \
-  F(RECORD, umts_rep_per_length_offset_pich, repetitionPeriodLengthOffset, 1, 1, _)                         \
-  F(SCALAR, uint32_t, pagingIndicatorLength, 1, UMTS_ALWAYS, _)                                             \
-  F(SCALAR, uint32_t, n_GAP, 1, UMTS_ALWAYS, _)                                                             \
-  F(SCALAR, uint8_t, n_PCH, 1, UMTS_ALWAYS, _)
-
 #define umts_pich_for_hsdpa_implicit_tdd128_FIELDS(F)                     \
   F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                \
   F(SCALAR, uint8_t, occurrenceSequenceNumberOfPICH, 1, 0, _)
@@ -278,21 +260,6 @@
 #define umts_common_e_dch_mac_d_flow_list_FIELDS(F) \
   F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)      \
   F(ARRAY, umts_common_e_dch_mac_d_flow, entries, 8, UMTS_ALWAYS, count)
-
-/* PRACH-Partitioning-r7 keeps an 8-bit count where PRACH-Partitioning has 32 bits. */
-#define umts_prach_partitioning_r7_fdd_FIELDS(F)         \
-  F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)           \
-  F(ARRAY, umts_asc_setting_fdd, entries, 8, UMTS_ALWAYS, count)
-
-#define umts_prach_partitioning_r7_tdd_FIELDS(F) F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)
-
-#define umts_prach_partitioning_r7_u_FIELDS(F)                  \
-  F(RECORD, umts_prach_partitioning_r7_fdd, fdd, 1, 1, _)       \
-  F(RECORD, umts_prach_partitioning_r7_tdd, tdd, 1, 2, _)
-
-#define umts_prach_partitioning_r7_FIELDS(F)             \
-  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)     \
-  F(UNION, umts_prach_partitioning_r7_u, u, 1, UMTS_ALWAYS, choice_tag)
 
 /* Bits 0 to 2 stand for the three members that the message always carries; bits 3 to 10 for
    the optional ones, in order. */
@@ -431,8 +398,152 @@
   F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)    \
   UMTS_COMMON_EDCH_FDD_MEMBERS(F, 0)
 
-/* tdd: the inner tag (3 tdd128), whose resources keep their place only so far. */
-#define umts_common_edch_mode_tdd_FIELDS(F) F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)
+/* ---- 1.28 Mcps common E-DCH resources ---- */
+
+/* SYNC-UL-InfoForE-RUCCH: bits 0 to 2 the three optional members, then the bitmap and mmax. */
+#define umts_sync_ul_info_for_e_rucch_FIELDS(F)                                         \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                            \
+  F(SCALAR, uint8_t, prxUpPCHdes, 1, 0, _)                                            \
+  F(SCALAR, uint8_t, powerRampStep, 1, 1, _)                                          \
+  F(SCALAR, uint32_t, max_SYNC_UL_Transmissions, 1, 2, _)                             \
+  F(RECORD, umts_bit_string32, e_RUCCH_Sync_UL_Codes_Bitmap, 1, UMTS_ALWAYS, _)       \
+  F(SCALAR, uint8_t, mmax, 1, UMTS_ALWAYS, _)
+
+#define umts_prach_chan_codes_list_lcr_FIELDS(F)  \
+  F(SCALAR, uint32_t, count, 1, UMTS_ALWAYS, _)   \
+  F(ARRAY, uint32_t, codes, 2, UMTS_ALWAYS, count)
+
+#define umts_prach_information_lcr_FIELDS(F)                                                             \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                              \
+  F(SCALAR, uint8_t, timeslot, 1, UMTS_ALWAYS, _)                                                       \
+  F(RECORD, umts_prach_chan_codes_list_lcr, prach_ChanCodes_list_LCR, 1, UMTS_ALWAYS, _)                \
+  F(RECORD, umts_midamble_shift_and_burst_type_lcr_r4, midambleShiftAndBurstType, 1, UMTS_ALWAYS, _)    \
+  F(RECORD, umts_fpach_info_r4, fpach_Info, 1, 0, _)
+
+#define umts_prach_information_lcr_list_FIELDS(F) \
+  F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)    \
+  F(ARRAY, umts_prach_information_lcr, entries, 8, UMTS_ALWAYS, count)
+
+/* E-RUCCH-Info-TDD128: nine optional members, bits 0 to 8 in order. */
+#define umts_e_rucch_info_tdd128_FIELDS(F)                                                           \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                          \
+  F(SCALAR, uint32_t, t_RUCCH, 1, 0, _)                                                             \
+  F(SCALAR, uint8_t, n_RUCCH, 1, 1, _)                                                              \
+  F(SCALAR, uint32_t, t_WAIT, 1, 2, _)                                                              \
+  F(SCALAR, uint32_t, t_SI, 1, 3, _)                                                                \
+  F(SCALAR, uint8_t, extendedEstimationWindow, 1, 4, _)                                             \
+  F(RECORD, umts_prach_partitioning_lcr_r4, e_RUCCH_AccessServiceClass, 1, 5, _)                    \
+  F(RECORD, umts_persistence_scaling_factor_list, e_RUCCH_PersistenceScalingFactor, 1, 6, _)        \
+  F(RECORD, umts_sync_ul_info_for_e_rucch, sync_UL_InfoForE_RUCCH, 1, 7, _)                         \
+  F(RECORD, umts_prach_information_lcr_list, prach_information, 1, 8, _)
+
+/* A reference code rate and its beta, packed. */
+#define umts_reference_beta_FIELDS(F)                             \
+  F(SCALAR, uint8_t, reference_Code_Rate, 1, UMTS_ALWAYS, _)      \
+  F(SCALAR, int8_t, reference_Beta, 1, UMTS_ALWAYS, _)
+
+#define umts_reference_beta_list_FIELDS(F)        \
+  F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)    \
+  F(ARRAY, umts_reference_beta, entries, 8, UMTS_ALWAYS, count)
+
+#define umts_e_tfcs_info_FIELDS(F)                                                 \
+  F(RECORD, umts_reference_beta_list, reference_Beta_QPSK_List, 1, UMTS_ALWAYS, _) \
+  F(RECORD, umts_reference_beta_list, reference_Beta_16QAM_List, 1, UMTS_ALWAYS, _)
+
+#define umts_ul_synchronisation_parameters_FIELDS(F)   \
+  F(SCALAR, uint8_t, stepSize, 1, UMTS_ALWAYS, _)      \
+  F(SCALAR, uint8_t, frequency, 1, UMTS_ALWAYS, _)
+
+/* An E-PUCH timeslot: its midamble shift (ueSpecificMidamble, tag 2) inline. */
+#define umts_e_puch_ts_slots_lcr_FIELDS(F)                                                          \
+  F(SCALAR, uint8_t, timeslotNumber, 1, UMTS_ALWAYS, _)                                            \
+  F(RECORD, umts_hs_sich_midamble_allocation_mode, midambleAllocationMode, 1, UMTS_ALWAYS, _)      \
+  F(SCALAR, uint8_t, midambleConfiguration, 1, UMTS_ALWAYS, _)
+
+#define umts_e_puch_ts_configuration_list_FIELDS(F) \
+  F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)      \
+  F(ARRAY, umts_e_puch_ts_slots_lcr, entries, 5, UMTS_ALWAYS, count)
+
+/* E-PUCH-Info-TDD128: bits 0 snpl_ReportType, 1 beaconPLEst, 2 pebase_PowerControlGAP,
+   3 ul_SynchronisationParameters, 4 dummy. */
+#define umts_e_puch_info_tdd128_FIELDS(F)                                                             \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                                           \
+  F(RECORD, umts_e_tfcs_info, e_TFCS_Info, 1, UMTS_ALWAYS, _)                                        \
+  F(SCALAR, uint32_t, snpl_ReportType, 1, 0, _)                                                      \
+  F(SCALAR, int8_t, prxBASEdes, 1, UMTS_ALWAYS, _)                                                   \
+  F(BOOL, uint8_t, beaconPLEst, 1, 1, _)                                                             \
+  F(SCALAR, uint8_t, tpc_StepSize, 1, UMTS_ALWAYS, _)                                                \
+  F(SCALAR, uint8_t, pebase_PowerControlGAP, 1, 2, _)                                                \
+  F(RECORD, umts_ul_synchronisation_parameters, ul_SynchronisationParameters, 1, 3, _)               \
+  F(RECORD, umts_e_puch_ts_configuration_list, e_PUCH_TS_ConfigurationList, 1, UMTS_ALWAYS, _)       \
+  F(SCALAR, uint8_t, minimum_Allowed_Code_Rate, 1, UMTS_ALWAYS, _)                                   \
+  F(SCALAR, uint8_t, maximum_Allowed_Code_Rate, 1, UMTS_ALWAYS, _)                                   \
+  F(SCALAR, uint8_t, maximumNumOfRetransSchedInfo, 1, UMTS_ALWAYS, _)                                \
+  F(SCALAR, uint32_t, retransTimerForSchedInfo, 1, UMTS_ALWAYS, _)                                   \
+  F(SCALAR, uint8_t, dummy, 1, 4, _)
+
+#define umts_e_hich_information_lcr_FIELDS(F)                                                       \
+  F(SCALAR, uint8_t, ei, 1, UMTS_ALWAYS, _)                                                        \
+  F(SCALAR, uint8_t, timeslotNumber, 1, UMTS_ALWAYS, _)                                            \
+  F(SCALAR, uint32_t, channelisation_Code, 1, UMTS_ALWAYS, _)                                      \
+  F(RECORD, umts_hs_sich_midamble_allocation_mode, midambleAllocationMode, 1, UMTS_ALWAYS, _)      \
+  F(SCALAR, uint8_t, midambleConfiguration, 1, UMTS_ALWAYS, _)
+
+#define umts_e_hich_information_lcr_list_FIELDS(F) \
+  F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)     \
+  F(ARRAY, umts_e_hich_information_lcr, entries, 4, UMTS_ALWAYS, count)
+
+#define umts_e_hich_information_tdd128_FIELDS(F)                                            \
+  F(SCALAR, uint8_t, n_E_HICH, 1, UMTS_ALWAYS, _)                                          \
+  F(RECORD, umts_e_hich_information_lcr_list, e_HICH_InfoList, 1, UMTS_ALWAYS, _)
+
+/* An E-AGCH: as an HS-SCCH without its HS-SICH (midamble shift inline, tag 3). */
+#define umts_e_agch_individual_lcr_FIELDS(F)                                                        \
+  F(SCALAR, uint8_t, timeslotNumber, 1, UMTS_ALWAYS, _)                                            \
+  F(SCALAR, uint32_t, firstChannelisationCode, 1, UMTS_ALWAYS, _)                                  \
+  F(SCALAR, uint32_t, secondChannelisationCode, 1, UMTS_ALWAYS, _)                                 \
+  F(RECORD, umts_hs_scch_midamble_allocation_mode, midambleAllocationMode, 1, UMTS_ALWAYS, _)      \
+  F(SCALAR, uint8_t, midambleConfiguration, 1, UMTS_ALWAYS, _)
+
+#define umts_e_agch_set_config_lcr_FIELDS(F)      \
+  F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)    \
+  F(ARRAY, umts_e_agch_individual_lcr, entries, 4, UMTS_ALWAYS, count)
+
+#define umts_e_agch_information_tdd128_FIELDS(F)                                         \
+  F(BOOL, uint8_t, rdi_Indicator, 1, UMTS_ALWAYS, _)                                    \
+  F(SCALAR, uint8_t, tpc_StepSize, 1, UMTS_ALWAYS, _)                                   \
+  F(RECORD, umts_e_agch_set_config_lcr, e_AGCH_Set_Config, 1, UMTS_ALWAYS, _)           \
+  F(SCALAR, int8_t, e_AGCH_BLER_Target, 1, UMTS_ALWAYS, _)
+
+#define umts_common_e_rnti_info_FIELDS(F)                                    \
+  F(RECORD, umts_bit_string32, starting_E_RNTI, 1, UMTS_ALWAYS, _)           \
+  F(SCALAR, uint8_t, number_of_group, 1, UMTS_ALWAYS, _)                     \
+  F(SCALAR, uint8_t, number_of_ENRTI_per_group, 1, UMTS_ALWAYS, _)
+
+/* Up to 256 groups under an 8-bit count: a full list reads 0. */
+#define umts_common_e_rnti_info_list_FIELDS(F)    \
+  F(SCALAR, uint8_t, count, 1, UMTS_ALWAYS, _)    \
+  F(ARRAY, umts_common_e_rnti_info, entries, 256, UMTS_ALWAYS, count)
+
+#define umts_ccch_transmission_info_tdd128_FIELDS(F)                                       \
+  F(RECORD, umts_common_e_rnti_info_list, common_e_rnti_Info, 1, UMTS_ALWAYS, _)          \
+  F(SCALAR, uint8_t, harq_MaximumNumberOfRetransmissions, 1, UMTS_ALWAYS, _)              \
+  F(SCALAR, uint32_t, harq_retransmission_timer, 1, UMTS_ALWAYS, _)                       \
+  F(SCALAR, uint8_t, harq_power_offset, 1, UMTS_ALWAYS, _)
+
+#define umts_common_edch_tdd128_FIELDS(F)                                                         \
+  F(RECORD, umts_e_rucch_info_tdd128, e_RUCCH_Info, 1, UMTS_ALWAYS, _)                           \
+  F(RECORD, umts_e_puch_info_tdd128, e_PUCH_Info, 1, UMTS_ALWAYS, _)                             \
+  F(RECORD, umts_e_hich_information_tdd128, e_hich_Information, 1, UMTS_ALWAYS, _)               \
+  F(RECORD, umts_e_agch_information_tdd128, e_agch_Information, 1, UMTS_ALWAYS, _)               \
+  F(SCALAR, uint32_t, harq_Info, 1, UMTS_ALWAYS, _)                                              \
+  F(RECORD, umts_ccch_transmission_info_tdd128, ccch_transmission_Info, 1, UMTS_ALWAYS, _)
+
+/* tdd: the inner tag, of which 3 (tdd128) alone has members. */
+#define umts_common_edch_mode_tdd_u_FIELDS(F) F(RECORD, umts_common_edch_tdd128, tdd128, 1, 3, _)
+#define umts_common_edch_mode_tdd_FIELDS(F)              \
+  F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)     \
+  F(UNION, umts_common_edch_mode_tdd_u, u, 1, UMTS_ALWAYS, choice_tag)
 
 #define umts_common_edch_mode_specific_info_u_FIELDS(F)     \
   F(RECORD, umts_common_edch_mode_fdd, fdd, 1, 1, _)        \
@@ -488,9 +599,6 @@
   X(RECORD, umts_hs_scch_system_info_tdd128)                     \
   X(RECORD, umts_hs_pdsch_midamble_configuration_tdd128)         \
   X(RECORD, umts_hs_dsch_common_system_information_tdd128)       \
-  X(RECORD, umts_midamble_shift_and_burst_type_lcr_r4)           \
-  X(RECORD, umts_pich_channelisation_code_list_lcr_r4)           \
-  X(RECORD, umts_pich_info_lcr_r4)                               \
   X(RECORD, umts_pich_for_hsdpa_implicit_tdd128)                 \
   X(UNION, umts_pich_for_hsdpa_supported_paging_tdd128_u)        \
   X(RECORD, umts_pich_for_hsdpa_supported_paging_tdd128)         \
@@ -507,10 +615,6 @@
   X(RECORD, umts_sib5_v860_mode_specific_info)                   \
   X(RECORD, umts_common_e_dch_mac_d_flow)                        \
   X(RECORD, umts_common_e_dch_mac_d_flow_list)                   \
-  X(RECORD, umts_prach_partitioning_r7_fdd)                      \
-  X(RECORD, umts_prach_partitioning_r7_tdd)                      \
-  X(UNION, umts_prach_partitioning_r7_u)                         \
-  X(RECORD, umts_prach_partitioning_r7)                          \
   X(RECORD, umts_prach_preamble_for_enhanced_uplink)             \
   X(RECORD, umts_e_agch_information)                             \
   X(UNION, umts_power_control_algorithm_u)                       \
@@ -531,6 +635,29 @@
   X(RECORD, umts_common_e_dch_resource_info)                     \
   X(RECORD, umts_common_e_dch_resource_info_list)                \
   X(RECORD, umts_common_edch_mode_fdd)                           \
+  X(RECORD, umts_sync_ul_info_for_e_rucch)                       \
+  X(RECORD, umts_prach_chan_codes_list_lcr)                      \
+  X(RECORD, umts_prach_information_lcr)                          \
+  X(RECORD, umts_prach_information_lcr_list)                     \
+  X(RECORD, umts_e_rucch_info_tdd128)                            \
+  X(RECORD, umts_reference_beta)                                 \
+  X(RECORD, umts_reference_beta_list)                            \
+  X(RECORD, umts_e_tfcs_info)                                    \
+  X(RECORD, umts_ul_synchronisation_parameters)                  \
+  X(RECORD, umts_e_puch_ts_slots_lcr)                            \
+  X(RECORD, umts_e_puch_ts_configuration_list)                   \
+  X(RECORD, umts_e_puch_info_tdd128)                             \
+  X(RECORD, umts_e_hich_information_lcr)                         \
+  X(RECORD, umts_e_hich_information_lcr_list)                    \
+  X(RECORD, umts_e_hich_information_tdd128)                      \
+  X(RECORD, umts_e_agch_individual_lcr)                          \
+  X(RECORD, umts_e_agch_set_config_lcr)                          \
+  X(RECORD, umts_e_agch_information_tdd128)                      \
+  X(RECORD, umts_common_e_rnti_info)                             \
+  X(RECORD, umts_common_e_rnti_info_list)                        \
+  X(RECORD, umts_ccch_transmission_info_tdd128)                  \
+  X(RECORD, umts_common_edch_tdd128)                             \
+  X(UNION, umts_common_edch_mode_tdd_u)                          \
   X(RECORD, umts_common_edch_mode_tdd)                           \
   X(UNION, umts_common_edch_mode_specific_info_u)                \
   X(RECORD, umts_common_edch_mode_specific_info)                 \

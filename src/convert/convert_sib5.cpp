@@ -4,9 +4,8 @@
  *
  * The PRACH list is in convert_sib5_prach.cpp, the S-CCPCH list with its PICH in
  * convert_sib5_sccpch.cpp, transport format sets and TFCS in convert_transport_format.cpp.
- * HS-DSCH and common E-DCH members are in convert_sib5_hspa.cpp. The TDD, LCR, HCR/VHCR and
- * MBMS members of the extensions keep their place (and presence bit) in the record; their own
- * fields are not converted yet.
+ * HS-DSCH and common E-DCH members are in convert_sib5_hspa.cpp, the TDD, LCR, HCR and VHCR
+ * channels in convert_sib5_tdd.cpp, the MBMS S-CCPCH in convert_sib5_mbms.cpp.
  */
 #include <cstring>
 
@@ -66,8 +65,8 @@ void convert_sib_type_5_mode_specific_info(const SysInfoType5_modeSpecificInfo* 
   } else if (src->t == 2 && src->u.tdd != nullptr) {
     const SysInfoType5_modeSpecificInfo_tdd* tdd = src->u.tdd;
     umts_sib5_mode_specific_info_tdd* out = &dst->u.tdd;
-    /* The PUSCH and PDSCH lists are TDD records of their own: their presence is kept. */
-    out->presence_bitmask = static_cast<uint16_t>(tdd->m & 3u);
+    UMTS_CONVERT_OPTIONAL(tdd, out, 1u, convert_pusch_sysinfo_list_sfn, pusch_SysInfoList_SFN);
+    UMTS_CONVERT_OPTIONAL(tdd, out, 2u, convert_pdsch_sysinfo_list_sfn, pdsch_SysInfoList_SFN);
     const OpenLoopPowerControl_TDD& olpc = tdd->openLoopPowerControl_TDD;
     umts_open_loop_power_control_tdd& flat = out->openLoopPowerControl_TDD;
     flat.primaryCCPCH_TX_Power = olpc.primaryCCPCH_TX_Power;
@@ -172,22 +171,15 @@ void convert_sysinfotype5_v4b0nces_v590nces_v650nces_v680nces_v690nces_v770nces_
 /* ---- Extension contents --------------------------------------------------------------- */
 
 void convert_sysinfotype5_v4b0ext_ies(const SysInfoType5_v4b0ext_IEs* src, umts_sib5_v4b0ext* dst) {
-  if (src->m & 1u) {
-    dst->presence_bitmask |= 1u;
-    dst->pNBSCH_Allocation_r4.numberOfRepetitionsPerSFNPeriod = src->pNBSCH_Allocation_r4.numberOfRepetitionsPerSFNPeriod;
-  }
-  if (src->m & 2u) {
-    dst->presence_bitmask |= 2u;
-    dst->openLoopPowerControl_IPDL_TDD.ipdl_alpha = src->openLoopPowerControl_IPDL_TDD.ipdl_alpha;
-    dst->openLoopPowerControl_IPDL_TDD.maxPowerIncrease = src->openLoopPowerControl_IPDL_TDD.maxPowerIncrease;
-  }
-  /* The LCR PRACH list and the 1.28 Mcps TDD part: presence kept, contents not converted. */
-  dst->presence_bitmask |= static_cast<uint16_t>(src->m & 0x0Cu);
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_pnbsch_allocation_r4, pNBSCH_Allocation_r4);
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_open_loop_power_control_ipdl_tdd_r4, openLoopPowerControl_IPDL_TDD);
+  UMTS_CONVERT_OPTIONAL(src, dst, 4u, convert_prach_system_information_list_lcr_r4, prach_SystemInformationList_LCR_r4);
+  UMTS_CONVERT_OPTIONAL(src, dst, 8u, convert_sysinfotype5_v4b0ext_ies_tdd128_specific_info, tdd128SpecificInfo);
   UMTS_COPY_OPTIONAL(src, dst, 0x10u, frequencyBandIndicator);
 }
 
 void convert_sysinfotype5_v590ext_ies(const SysInfoType5_v590ext_IEs* src, umts_sib5_v590ext* dst) {
-  dst->presence_bitmask |= static_cast<uint16_t>(src->m & 1u);
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sysinfotype5_v590ext_ies_hcr_r5_specific_info, hcr_r5_SpecificInfo);
 }
 
 void convert_sysinfotype5_v650ext_ies(const SysInfoType5_v650ext_IEs* src, umts_sib5_v650ext* dst) {
@@ -200,13 +192,15 @@ void convert_sysinfotype5_v680ext_ies(const SysInfoType5_v680ext_IEs* src, umts_
 
 void convert_sysinfotype5_v690ext_ies(const SysInfoType5_v690ext_IEs* src, umts_sib5_v690ext* dst) {
   UMTS_COPY_OPTIONAL(src, dst, 1u, edch_CellIndicator);
-  dst->presence_bitmask |= static_cast<uint16_t>(src->m & 6u); /* MBMS S-CCPCH, additional PRACH TF/TFCS */
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_sysinfotype5_v690ext_ies_sccpch_system_information_mbms, sccpch_SystemInformation_MBMS);
+  UMTS_CONVERT_OPTIONAL(src, dst, 4u, convert_additional_prach_tf_and_tfcs_ccch_list, additionalPRACH_TF_and_TFCS_CCCH_List);
   UMTS_COPY_OPTIONAL(src, dst, 8u, cBS_DRX_Level1Information_extension);
 }
 
 void convert_sysinfotype5_v770ext_ies(const SysInfoType5_v770ext_IEs* src, umts_sib5_v770ext* dst) {
   UMTS_CONVERT_OPTIONAL(src, dst, 1u, convert_sysinfotype5_v770ext_ies_mode_specific_info, modeSpecificInfo);
-  dst->presence_bitmask |= static_cast<uint16_t>(src->m & 0x06u); /* HCR/VHCR list, MBMS */
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, convert_sccpch_system_information_list_hcr_vhcr_r7, sccpch_SystemInformationList);
+  UMTS_CONVERT_OPTIONAL(src, dst, 4u, convert_sysinfotype5_v770ext_ies_sccpch_system_information_mbms, sccpch_SystemInformation_MBMS);
   UMTS_CONVERT_OPTIONAL(src, dst, 8u, convert_tdd_mbsfn_information, tDD_MBSFNInformation);
 }
 

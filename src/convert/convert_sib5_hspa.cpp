@@ -3,8 +3,8 @@
  * commonEDCHSystemInfo, v8d0 commonEDCHSystemInfoFDD): what an HSPA cell broadcasts.
  *
  * The v890 fdd alternative and the v8d0 record carry the same members under decoded types of
- * their own; one template converts both. The TDD parts of these members keep their tags and
- * presence bits only.
+ * their own; one template converts both. The 1.28 Mcps common E-DCH resources of v890 are at
+ * the end; the TDD channel lists of v770 are in convert_sib5_tdd.cpp.
  */
 #include <cstring>
 
@@ -68,9 +68,9 @@ void convert_sysinfotype5_v770ext_ies_mode_specific_info(const SysInfoType5_v770
                                               &dst->u.fdd.hs_dsch_CommonSystemInformation);
     UMTS_CONVERT_OPTIONAL(fdd, &dst->u.fdd, 1u, convert_hs_dsch_paging_system_information, hs_dsch_PagingSystemInformation);
   } else if (src->t == 2 && src->u.tdd768 != nullptr) {
-    dst->u.tdd768.presence_bitmask = static_cast<uint16_t>(src->u.tdd768->m & 7u);
+    convert_sysinfotype5_v770ext_ies_mode_specific_info_tdd768(src->u.tdd768, &dst->u.tdd768);
   } else if (src->t == 3 && src->u.tdd128 != nullptr) {
-    dst->u.tdd128.presence_bitmask = static_cast<uint16_t>(src->u.tdd128->m & 1u);
+    convert_sysinfotype5_v770ext_ies_mode_specific_info_tdd128(src->u.tdd128, &dst->u.tdd128);
   }
 }
 
@@ -231,7 +231,8 @@ void convert_common_edch_system_info(const CommonEDCHSystemInfo* src, umts_commo
 }
 
 /* fdd converts its members (the message's first alternative is the FDD resources, not a
-   byte); tdd stores its inner tag, of which tdd128 (3) alone has members, not yet kept. */
+   byte); tdd stores its inner tag, of which tdd128 (3) alone has members: E-RUCCH, E-PUCH,
+   E-HICH, E-AGCH, HARQ and CCCH transmission, in that order. */
 void convert_common_edch_system_info_mode_specific_info(const CommonEDCHSystemInfo_modeSpecificInfo* src,
                                                         umts_common_edch_mode_specific_info* dst) {
   dst->choice_tag = src->t;
@@ -239,6 +240,16 @@ void convert_common_edch_system_info_mode_specific_info(const CommonEDCHSystemIn
     convert_common_edch_fdd_members(src->u.fdd, &dst->u.fdd, 1u);
   } else if (src->t == 2 && src->u.tdd != nullptr) {
     dst->u.tdd.choice_tag = src->u.tdd->t;
+    if (src->u.tdd->t == 3 && src->u.tdd->u.tdd128 != nullptr) {
+      const CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128* tdd128 = src->u.tdd->u.tdd128;
+      umts_common_edch_tdd128* out = &dst->u.tdd.u.tdd128;
+      convert_e_rucch_info_tdd128(&tdd128->e_RUCCH_Info, &out->e_RUCCH_Info);
+      convert_e_puch_info_tdd128(&tdd128->e_PUCH_Info, &out->e_PUCH_Info);
+      convert_e_hich_information_tdd128(&tdd128->e_hich_Information, &out->e_hich_Information);
+      convert_e_agch_information_tdd128(&tdd128->e_agch_Information, &out->e_agch_Information);
+      convert_harq_info(&tdd128->harq_Info, &out->harq_Info);
+      convert_ccch_transmission_info_tdd128(&tdd128->ccch_transmission_Info, &out->ccch_transmission_Info);
+    }
   }
 }
 
@@ -298,17 +309,11 @@ void convert_persistence_scaling_factor_list(const PersistenceScalingFactorList*
   std::memcpy(dst->entries, src->elem, (src->n < 6u ? src->n : 6u) * sizeof dst->entries[0]);
 }
 
-/* The 8-bit count of the r7 form. The tdd form keeps its count only so far. */
+/* PRACH-Partitioning-r7: 1 fdd, 2 tdd, each with an 8-bit count. */
 void convert_prach_partitioning_r7(const PRACH_Partitioning_r7* src, umts_prach_partitioning_r7* dst) {
   dst->choice_tag = src->t;
-  if (src->t == 1 && src->u.fdd != nullptr) {
-    dst->u.fdd.count = static_cast<uint8_t>(src->u.fdd->count);
-    umts_for_each_node<ASCSetting_FDD>(src->u.fdd, 8u, [dst](const ASCSetting_FDD* entry, uint32_t i) {
-      UMTS_CONVERT_OPTIONAL(entry, &dst->u.fdd.entries[i], 1u, convert_access_service_class_fdd, accessServiceClass_FDD);
-    });
-  } else if (src->t == 2 && src->u.tdd != nullptr) {
-    dst->u.tdd.count = static_cast<uint8_t>(src->u.tdd->count);
-  }
+  if (src->t == 1 && src->u.fdd != nullptr) convert_prach_partitioning_r7_fdd(src->u.fdd, &dst->u.fdd);
+  else if (src->t == 2 && src->u.tdd != nullptr) convert_prach_partitioning_r7_tdd(src->u.tdd, &dst->u.tdd);
 }
 
 void convert_ul_dpch_power_control_info_for_common_edch(const UL_DPCHpowerControlInfoForCommonEDCH* src,
@@ -458,4 +463,132 @@ void convert_pich_info_lcr_r4(const PICH_Info_LCR_r4* src, umts_pich_info_lcr_r4
   dst->pagingIndicatorLength = src->pagingIndicatorLength;
   dst->n_GAP = src->n_GAP;
   dst->n_PCH = src->n_PCH;
+}
+
+/* ==== 1.28 Mcps TDD: common E-DCH resources ============================================== */
+
+namespace {
+
+/* A midamble allocation mode whose ueSpecificMidamble shift is inline, under `ue_tag`. */
+template <class Mode, class Dst>
+void convert_inline_midamble_mode(const Mode& mode, uint32_t ue_tag, Dst* dst) {
+  dst->choice_tag = mode.t;
+  if (mode.t == ue_tag) dst->u.ueSpecificMidamble = mode.u.ueSpecificMidamble;
+}
+
+template <class Entry>
+void convert_reference_beta_list(const rtxDList* src, umts_reference_beta_list* dst) {
+  dst->count = static_cast<uint8_t>(src->count);
+  umts_for_each_node<Entry>(src, 8u, [dst](const Entry* e, uint32_t i) {
+    dst->entries[i].reference_Code_Rate = e->reference_Code_Rate;
+    dst->entries[i].reference_Beta = e->reference_Beta;
+  });
+}
+
+}  // namespace
+
+/* Nine optional members, bits 0 to 8 as the message's. */
+void convert_e_rucch_info_tdd128(const E_RUCCH_Info_TDD128* src, umts_e_rucch_info_tdd128* dst) {
+  UMTS_COPY_OPTIONAL(src, dst, 0x001u, t_RUCCH);
+  UMTS_COPY_OPTIONAL(src, dst, 0x002u, n_RUCCH);
+  UMTS_COPY_OPTIONAL(src, dst, 0x004u, t_WAIT);
+  UMTS_COPY_OPTIONAL(src, dst, 0x008u, t_SI);
+  UMTS_COPY_OPTIONAL(src, dst, 0x010u, extendedEstimationWindow);
+  UMTS_CONVERT_OPTIONAL(src, dst, 0x020u, convert_prach_partitioning_lcr_r4, e_RUCCH_AccessServiceClass);
+  UMTS_CONVERT_OPTIONAL(src, dst, 0x040u, convert_persistence_scaling_factor_list, e_RUCCH_PersistenceScalingFactor);
+  UMTS_CONVERT_OPTIONAL(src, dst, 0x080u, convert_sync_ul_info_for_e_rucch, sync_UL_InfoForE_RUCCH);
+  UMTS_CONVERT_OPTIONAL(src, dst, 0x100u, convert_prach_information_lcr_list, prach_information);
+}
+
+void convert_sync_ul_info_for_e_rucch(const SYNC_UL_InfoForE_RUCCH* src, umts_sync_ul_info_for_e_rucch* dst) {
+  UMTS_COPY_OPTIONAL(src, dst, 1u, prxUpPCHdes);
+  UMTS_COPY_OPTIONAL(src, dst, 2u, powerRampStep);
+  UMTS_COPY_OPTIONAL(src, dst, 4u, max_SYNC_UL_Transmissions);
+  convert_sync_ul_codes_bitmap(&src->e_RUCCH_Sync_UL_Codes_Bitmap, &dst->e_RUCCH_Sync_UL_Codes_Bitmap);
+  dst->mmax = src->mmax;
+}
+
+void convert_prach_information_lcr_list(const PRACH_Information_LCR_List* src, umts_prach_information_lcr_list* dst) {
+  dst->count = static_cast<uint8_t>(src->count);
+  umts_for_each_node<PRACH_Information_LCR>(src, 8u, [dst](const PRACH_Information_LCR* e, uint32_t i) {
+    umts_prach_information_lcr* out = &dst->entries[i];
+    out->timeslot = e->timeslot;
+    out->prach_ChanCodes_list_LCR.count = e->prach_ChanCodes_list_LCR.n;
+    copy_inline(out->prach_ChanCodes_list_LCR.codes, e->prach_ChanCodes_list_LCR.elem, e->prach_ChanCodes_list_LCR.n, 2u);
+    convert_midamble_shift_and_burst_type_lcr_r4(&e->midambleShiftAndBurstType, &out->midambleShiftAndBurstType);
+    UMTS_CONVERT_OPTIONAL(e, out, 1u, convert_fpach_info_r4, fpach_Info);
+  });
+}
+
+void convert_e_puch_info_tdd128(const E_PUCH_Info_TDD128* src, umts_e_puch_info_tdd128* dst) {
+  convert_reference_beta_list<Reference_Beta_QPSK>(&src->e_TFCS_Info.reference_Beta_QPSK_List, &dst->e_TFCS_Info.reference_Beta_QPSK_List);
+  convert_reference_beta_list<Reference_Beta_16QAM>(&src->e_TFCS_Info.reference_Beta_16QAM_List,
+                                                    &dst->e_TFCS_Info.reference_Beta_16QAM_List);
+  UMTS_COPY_OPTIONAL(src, dst, 1u, snpl_ReportType);
+  dst->prxBASEdes = src->prxBASEdes;
+  UMTS_COPY_OPTIONAL(src, dst, 2u, beaconPLEst);
+  dst->tpc_StepSize = src->tpc_StepSize;
+  UMTS_COPY_OPTIONAL(src, dst, 4u, pebase_PowerControlGAP);
+  if (src->m & 8u) {
+    dst->presence_bitmask |= 8u;
+    dst->ul_SynchronisationParameters.stepSize = src->ul_SynchronisationParameters.stepSize;
+    dst->ul_SynchronisationParameters.frequency = src->ul_SynchronisationParameters.frequency;
+  }
+  dst->e_PUCH_TS_ConfigurationList.count = static_cast<uint8_t>(src->e_PUCH_TS_ConfigurationList.count);
+  umts_for_each_node<E_PUCH_TS_Slots_LCR>(&src->e_PUCH_TS_ConfigurationList, 5u, [dst](const E_PUCH_TS_Slots_LCR* e, uint32_t i) {
+    umts_e_puch_ts_slots_lcr* out = &dst->e_PUCH_TS_ConfigurationList.entries[i];
+    out->timeslotNumber = e->timeslotNumber;
+    convert_inline_midamble_mode(e->midambleAllocationMode, 2u, &out->midambleAllocationMode);
+    out->midambleConfiguration = e->midambleConfiguration;
+  });
+  dst->minimum_Allowed_Code_Rate = src->minimum_Allowed_Code_Rate;
+  dst->maximum_Allowed_Code_Rate = src->maximum_Allowed_Code_Rate;
+  dst->maximumNumOfRetransSchedInfo = src->maximumNumOfRetransSchedInfo;
+  dst->retransTimerForSchedInfo = src->retransTimerForSchedInfo;
+  UMTS_COPY_OPTIONAL(src, dst, 16u, dummy);
+}
+
+void convert_e_hich_information_tdd128(const E_HICH_Information_TDD128* src, umts_e_hich_information_tdd128* dst) {
+  dst->n_E_HICH = src->n_E_HICH;
+  dst->e_HICH_InfoList.count = static_cast<uint8_t>(src->e_HICH_InfoList.count);
+  umts_for_each_node<E_HICH_Information_LCR>(&src->e_HICH_InfoList, 4u, [dst](const E_HICH_Information_LCR* e, uint32_t i) {
+    umts_e_hich_information_lcr* out = &dst->e_HICH_InfoList.entries[i];
+    out->ei = e->ei;
+    out->timeslotNumber = e->timeslotNumber;
+    out->channelisation_Code = e->channelisation_Code;
+    convert_inline_midamble_mode(e->midambleAllocationMode, 2u, &out->midambleAllocationMode);
+    out->midambleConfiguration = e->midambleConfiguration;
+  });
+}
+
+void convert_e_agch_information_tdd128(const E_AGCH_Information_TDD128* src, umts_e_agch_information_tdd128* dst) {
+  dst->rdi_Indicator = src->rdi_Indicator;
+  dst->tpc_StepSize = src->tpc_StepSize;
+  dst->e_AGCH_Set_Config.count = static_cast<uint8_t>(src->e_AGCH_Set_Config.count);
+  umts_for_each_node<E_AGCH_Individual_LCR>(&src->e_AGCH_Set_Config, 4u, [dst](const E_AGCH_Individual_LCR* e, uint32_t i) {
+    umts_e_agch_individual_lcr* out = &dst->e_AGCH_Set_Config.entries[i];
+    out->timeslotNumber = e->timeslotNumber;
+    out->firstChannelisationCode = e->firstChannelisationCode;
+    out->secondChannelisationCode = e->secondChannelisationCode;
+    convert_inline_midamble_mode(e->midambleAllocationMode, 3u, &out->midambleAllocationMode);
+    out->midambleConfiguration = e->midambleConfiguration;
+  });
+  dst->e_AGCH_BLER_Target = src->e_AGCH_BLER_Target;
+}
+
+/* Up to 256 E-RNTI groups under an 8-bit count (a full list reads 0). Each starting E-RNTI
+   (16 bits, told as 16 octets) is held to its four octets; the group numbers it ran over are
+   stored after it. */
+void convert_ccch_transmission_info_tdd128(const CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info* src,
+                                           umts_ccch_transmission_info_tdd128* dst) {
+  dst->common_e_rnti_Info.count = static_cast<uint8_t>(src->common_e_rnti_Info.count);
+  umts_for_each_node<Common_E_RNTI_Info_element>(&src->common_e_rnti_Info, 256u, [dst](const Common_E_RNTI_Info_element* e, uint32_t i) {
+    umts_common_e_rnti_info* out = &dst->common_e_rnti_Info.entries[i];
+    umts_copy_bit_string(e->starting_E_RNTI, &out->starting_E_RNTI);
+    out->number_of_group = e->number_of_group;
+    out->number_of_ENRTI_per_group = e->number_of_ENRTI_per_group;
+  });
+  dst->harq_MaximumNumberOfRetransmissions = src->harq_MaximumNumberOfRetransmissions;
+  dst->harq_retransmission_timer = src->harq_retransmission_timer;
+  dst->harq_power_offset = src->harq_power_offset;
 }

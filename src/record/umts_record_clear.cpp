@@ -146,6 +146,9 @@ void clear_walk(const Walk& w, uint8_t* base) {
     case Walk::kList: {
       uint64_t count = umts_record_load_unsigned(base + w.aux_offset, w.aux_size);
       if (count > w.dim) count = w.dim;
+      /* A list whose bound its count cannot hold (256 under 8 bits: tfci-Range, the common
+         E-RNTI groups) reads 0 when full: such a count of 0 clears the whole list. */
+      if (count == 0 && w.aux_size < sizeof count && w.dim > (uint64_t{1} << (8 * w.aux_size)) - 1) count = w.dim;
       if (w.elem == nullptr) std::memset(p, 0, count * w.elem_size);
       else
         for (uint64_t i = 0; i < count; i++) clear(w.elem, p + i * w.elem_size, 0);

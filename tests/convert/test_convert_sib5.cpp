@@ -706,7 +706,8 @@ TEST(ConvertSib5Top, UnknownModeTagIsKeptAlone) {
   SysInfoType5_modeSpecificInfo mode{};
   mode.t = 3;
   mode.u.fdd = &fdd;
-  umts_sib5_mode_specific_info flat{};
+  static umts_sib5_mode_specific_info flat;  // its TDD lists make it large: not on the stack
+  std::memset(static_cast<void*>(&flat), 0, sizeof flat);
   const std::string out = captureStdout([&] { convert_sib_type_5_mode_specific_info(&mode, &flat); });
   EXPECT_EQ(flat.choice_tag, 3u);
   EXPECT_TRUE(allZero(flat.u));

@@ -629,7 +629,7 @@ TEST_F(ConvertSib5Hspa, Tdd128HsdschCommonInformation) {
 
 // The alternatives that the conversion treats apart, each on its own decoded value.
 TEST(ConvertSib5HspaParts, ModeAlternativesAndTheirTags) {
-  // v770: tdd768 with its three lists announced, tdd128 with none: tag and presence only.
+  // v770: tdd768 with its three lists announced (empty), tdd128 with none: tag and presence.
   SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768 t768 = {};
   t768.m = 7;
   SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128 t128 = {};
@@ -642,7 +642,8 @@ TEST(ConvertSib5HspaParts, ModeAlternativesAndTheirTags) {
     SysInfoType5_v770ext_IEs_modeSpecificInfo src = {};
     src.t = k.tag;
     src.u.tdd768 = static_cast<SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768*>(k.alt);
-    umts_sib5_v770_mode_specific_info out = {};
+    static umts_sib5_v770_mode_specific_info out;  // megabytes: not on the stack
+    std::memset(static_cast<void*>(&out), 0, sizeof out);
     convert_sysinfotype5_v770ext_ies_mode_specific_info(&src, &out);
     EXPECT_EQ(out.choice_tag, k.tag);
     if (k.tag == 2) EXPECT_EQ(out.u.tdd768.presence_bitmask, k.bits768);
@@ -665,7 +666,7 @@ TEST(ConvertSib5HspaParts, ModeAlternativesAndTheirTags) {
   EXPECT_EQ(o860.u.tdd128.hs_dsch_DrxCellfach_info.t_321, 1u);
   EXPECT_EQ(o860.u.tdd128.hs_dsch_DrxCellfach_info.hs_dsch_DrxBurstFach, 3u);
 
-  // Common E-DCH tdd: the inner tag alone, whatever it is.
+  // Common E-DCH tdd: the inner tag, and nothing else when tdd128 has no value.
   for (uint32_t inner : {1u, 2u, 3u}) {
     CommonEDCHSystemInfo_modeSpecificInfo_tdd tdd = {};
     tdd.t = inner;
