@@ -102,6 +102,7 @@ void BM_Sib5Second_Convert_CallerSet(benchmark::State& s) { convert(s, 1, false)
 void BM_Sib5Second_Convert_LibrarySet(benchmark::State& s) { convert(s, 1, true); }
 void BM_Sib5Hspa_Decode(benchmark::State& s) { decodeOnly(s, 2); }
 void BM_Sib5Hspa_Convert_CallerSet(benchmark::State& s) { convert(s, 2, false); }
+void BM_Sib5Hspa_Convert_LibrarySet(benchmark::State& s) { convert(s, 2, true); }
 void BM_Sib5_Convert_CallerSet_Cold(benchmark::State& s) { convert(s, 0, false, true); }
 void BM_Sib5_Convert_LibrarySet_Cold(benchmark::State& s) { convert(s, 0, true, true); }
 BENCHMARK(BM_Sib5_Decode);
@@ -114,6 +115,7 @@ BENCHMARK(BM_Sib5Second_Convert_CallerSet);
 BENCHMARK(BM_Sib5Second_Convert_LibrarySet);
 BENCHMARK(BM_Sib5Hspa_Decode);
 BENCHMARK(BM_Sib5Hspa_Convert_CallerSet);
+BENCHMARK(BM_Sib5Hspa_Convert_LibrarySet);
 
 }  // namespace
 
