@@ -285,3 +285,63 @@ TEST(BchSegmenter, ReproducesARealTransportBlock) {
 }
 
 }  // namespace
+
+#include <fstream>
+#include <sstream>
+
+#include "umts_sib_decoder.h"
+#include "umts_sib_json.h"
+
+namespace {
+
+/* The record of block `id` as JSON. */
+std::string record_json(const umts_sib_set* set, umts_sib_id id) {
+  std::vector<char> text(1 << 20);
+  umts_sib_record_json(set, id, text.data(), text.size());
+  return text.data();
+}
+
+/* Every whole SIB of the sample files (the FDD cell's forms, and the 1.28 Mcps TDD cell's
+   SIB11 and SIB12 with their LCR trees), cut into transport blocks and fed to the BCH entry,
+   gives the record that the whole-SIB entry gives. */
+TEST(BchSegmenter, SampleSibsOverTheBchAreTheWholeSibs) {
+  umts_sib_print_to(nullptr);
+  umts_sib_set* whole = umts_sib_set_alloc();
+  umts_sib_set* over_bch = umts_sib_set_alloc();
+  ASSERT_NE(whole, nullptr);
+  ASSERT_NE(over_bch, nullptr);
+  size_t compared = 0;
+  for (const char* file : {"/fdd_cell_sibs.txt", "/tdd128_cell_sibs.txt"}) {
+    std::ifstream in(std::string(UMTS_SAMPLES_DIR) + file);
+    std::string line;
+    while (std::getline(in, line)) {
+      std::istringstream fields(line);
+      std::string name, hex;
+      if (line.empty() || line[0] == '#' || !(fields >> name >> hex)) continue;
+      const umts_sib_id id = umts_sib_id_of_name(name.c_str(), name.size());
+      if (id == umts_sib_count) continue; /* SIB16 stands outside the set */
+      SCOPED_TRACE(std::string(file) + " " + name);
+      std::vector<uint8_t> bytes;
+      for (size_t i = 0; i + 1 < hex.size(); i += 2) bytes.push_back(static_cast<uint8_t>(std::stoul(hex.substr(i, 2), nullptr, 16)));
+      ASSERT_EQ(umts_sib_msg_decoder(id, bytes.data(), whole, static_cast<uint32_t>(bytes.size())), 1);
+      /* SIB-Type of each block: 0 MIB ... 12 SIB12, 26 SIB18, 27 SB1, 28 SB2, 31 extension. */
+      static const uint32_t kSibType[] = {0, 1, 2, 3, 5, 7, 11, 31, 12, 26, 27, 28};
+      if (id == umts_sib_sib11bis) continue; /* an extension SIB is filed only where a schedule puts it */
+      const umts_bch_sib sib = {kSibType[id], bytes.data(), static_cast<uint32_t>(bytes.size() * 8), 1};
+      std::vector<umts_bch_block> blocks(16);
+      uint32_t count = 0;
+      ASSERT_EQ(umts_bch_segment(&sib, 1, 0, blocks.data(), 16, &count, nullptr), umts_bch_ok);
+      over_bch->presence_bitmask = 0;
+      for (uint32_t i = 0; i < count; i++) umts_sib_decoder(blocks[i].data, over_bch, UMTS_BCH_BLOCK_OCTETS);
+      EXPECT_EQ(over_bch->presence_bitmask, 1u << id);
+      EXPECT_EQ(record_json(over_bch, id), record_json(whole, id));
+      compared++;
+    }
+  }
+  EXPECT_GE(compared, 14u);
+  umts_sib_set_free(whole);
+  umts_sib_set_free(over_bch);
+  umts_sib_print_to(stdout);
+}
+
+}  // namespace
