@@ -323,18 +323,37 @@ void add_offsets(SummaryNode& n, const Info& cell) {
   n.add("cell_individual_offset", quantity(cell.cellIndividualOffset * 0.5, "dB", cell.cellIndividualOffset));
 }
 
+/* The thresholds that a neighbour has of its own, where the cell sends them (else the
+   serving cell's apply): the maximum UL power, and by mode Qqualmin and Qrxlevmin (TS 25.331:
+   Qrxlevmin is 2 x coded + 1 dBm, for a GSM cell as well). */
+void add_thresholds(SummaryNode& n, bool max_power_sent, int max_power,
+                    const umts_cell_select_reselect_mode_specific_info& m) {
+  if (max_power_sent) n.add("max_allowed_ul_tx_power", quantity(max_power, "dBm", max_power));
+  if (m.choice_tag == 1) {
+    if (m.u.fdd.presence_bitmask & 1u) n.add("q_qualmin", quantity(m.u.fdd.q_QualMin, "dB", m.u.fdd.q_QualMin));
+    if (m.u.fdd.presence_bitmask & 2u)
+      n.add("q_rxlevmin", quantity(2 * m.u.fdd.q_RxlevMin + 1, "dBm", m.u.fdd.q_RxlevMin));
+  } else if (m.choice_tag == 2 || m.choice_tag == 3) {
+    const umts_cell_select_reselect_mode_specific_info_rxlev& r = m.choice_tag == 2 ? m.u.tdd : m.u.gsm;
+    if (r.presence_bitmask & 1u) n.add("q_rxlevmin", quantity(2 * r.q_RxlevMin + 1, "dBm", r.q_RxlevMin));
+  }
+}
+
 void add_reselection(SummaryNode& n, const umts_cell_select_reselect_info_sib_11_12_rscp& r) {
   n.add("q_offset_s_n", quantity(r.q_OffsetS_N, "dB", r.q_OffsetS_N));
+  add_thresholds(n, r.presence_bitmask & 1u, r.maxAllowedUL_TX_Power, r.modeSpecificInfo);
 }
 void add_reselection(SummaryNode& n, const umts_cell_select_reselect_info_sib_11_12_hcs_rscp& r) {
   n.add("q_offset_s_n", quantity(r.q_OffsetS_N, "dB", r.q_OffsetS_N));
   if (r.presence_bitmask & 2u)
     n.add("hcs_priority", static_cast<unsigned>(r.hcs_NeighbouringCellInformation_RSCP.hcs_PRIO))
         .add("q_hcs_coded", static_cast<unsigned>(r.hcs_NeighbouringCellInformation_RSCP.q_HCS));
+  add_thresholds(n, r.presence_bitmask & 1u, r.maxAllowedUL_TX_Power, r.modeSpecificInfo);
 }
 void add_reselection(SummaryNode& n, const umts_cell_select_reselect_info_sib_11_12_ecno& r) {
   n.add("q_offset1_s_n", quantity(r.q_Offset1S_N, "dB", r.q_Offset1S_N));
   n.add("q_offset2_s_n", quantity(r.q_Offset2S_N, "dB", r.q_Offset2S_N));
+  add_thresholds(n, r.presence_bitmask & 1u, r.maxAllowedUL_TX_Power, r.modeSpecificInfo);
 }
 void add_reselection(SummaryNode& n, const umts_cell_select_reselect_info_sib_11_12_hcs_ecno& r) {
   n.add("q_offset1_s_n", quantity(r.q_Offset1S_N, "dB", r.q_Offset1S_N));
@@ -342,6 +361,7 @@ void add_reselection(SummaryNode& n, const umts_cell_select_reselect_info_sib_11
   if (r.presence_bitmask & 2u)
     n.add("hcs_priority", static_cast<unsigned>(r.hcs_NeighbouringCellInformation_ECN0.hcs_PRIO))
         .add("q_hcs_coded", static_cast<unsigned>(r.hcs_NeighbouringCellInformation_ECN0.q_HCS));
+  add_thresholds(n, r.presence_bitmask & 1u, r.maxAllowedUL_TX_Power, r.modeSpecificInfo);
 }
 
 /* Scrambling code, offsets and reselection values of one cell of a list. */
@@ -389,8 +409,11 @@ void utran_lists(const Alternative& a, SummaryNode& intra, SummaryNode& inter) {
   }
 }
 
+/* `bsic_always`: the list of the B form (without HCS), whose cells always bring their BSIC to
+   the record; in the full list (with HCS) the record has a cell's BSIC only with bit 1 (the
+   element dummy came with it), and without it the BSIC is said to be missing, not 0-0. */
 template <class List>
-void gsm_list(const List& l, SummaryNode& gsm) {
+void gsm_list(const List& l, bool bsic_always, SummaryNode& gsm) {
   for (unsigned i = 0; i < l.count && i < 32; i++) {
     const umts_new_inter_rat_cell& c = l.entries[i];
     if (c.technologySpecificInfo.choice_tag != 1) continue;
@@ -401,11 +424,14 @@ void gsm_list(const List& l, SummaryNode& gsm) {
     std::snprintf(bsic, sizeof bsic, "%u-%u", g.bsic.ncc, g.bsic.bcc);
     n.add("bcch_arfcn", static_cast<unsigned>(g.bcch_ARFCN))
         .add("band", named(UMTS_Frequency_Band_ToString(g.frequency_band), g.frequency_band))
-        .add("bsic", bsic)
+        .add("bsic", bsic_always || (g.presence_bitmask & 2u) ? SummaryNode(std::string(bsic))
+                                                              : missing("not in the record without the element dummy"))
         .add("individual_offset", quantity(g.interRATCellIndividualOffset, "dB", g.interRATCellIndividualOffset));
-    if (g.presence_bitmask & 1u)
-      n.add("q_offset1_s_n", quantity(g.cellSelectionReselectionInfo.q_Offset1S_N, "dB",
-                                      g.cellSelectionReselectionInfo.q_Offset1S_N));
+    if (g.presence_bitmask & 1u) {
+      const umts_cell_select_reselect_info_sib_11_12& r = g.cellSelectionReselectionInfo;
+      n.add("q_offset1_s_n", quantity(r.q_Offset1S_N, "dB", r.q_Offset1S_N));
+      add_thresholds(n, r.presence_bitmask & 2u, r.maxAllowedUL_TX_Power, r.modeSpecificInfo);
+    }
     gsm.push(std::move(n));
   }
 }
@@ -786,14 +812,14 @@ SummaryNode summary_neighbours(const CellRecords& cell) {
     if (quality == 1) utran_lists(h.cellSelectQualityMeasure.u.cpich_RSCP, intra, inter);
     if (quality == 2) utran_lists(h.cellSelectQualityMeasure.u.cpich_Ec_N0, intra, inter);
     if ((h.presence_bitmask & 1u) && (h.interRATMeasurementSysInfo.presence_bitmask & 1u))
-      gsm_list(h.interRATMeasurementSysInfo.interRATCellInfoList.newInterRATCellList, gsm);
+      gsm_list(h.interRATMeasurementSysInfo.interRATCellInfoList.newInterRATCellList, true, gsm);
   } else if (hcs == 2) {
     const umts_hcs_used& h = m.use_of_HCS.u.hcs_used;
     quality = h.cellSelectQualityMeasure.choice_tag;
     if (quality == 1) utran_lists(h.cellSelectQualityMeasure.u.cpich_RSCP, intra, inter);
     if (quality == 2) utran_lists(h.cellSelectQualityMeasure.u.cpich_Ec_N0, intra, inter);
     if ((h.presence_bitmask & 1u) && (h.interRATMeasurementSysInfo.presence_bitmask & 1u))
-      gsm_list(h.interRATMeasurementSysInfo.interRATCellInfoList.newInterRATCellList, gsm);
+      gsm_list(h.interRATMeasurementSysInfo.interRATCellInfoList.newInterRATCellList, false, gsm);
   }
   n.add("quality_measure", named(quality == 1 ? "cpich-RSCP" : quality == 2 ? "cpich-Ec-N0" : "unknown", quality));
   n.add("intra_frequency", intra).add("inter_frequency", inter).add("gsm", gsm);

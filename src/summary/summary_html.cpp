@@ -24,7 +24,7 @@ const char kStyle[] =
     "table{border-collapse:collapse;margin:.2em 0 .8em}"
     "th,td{border:1px solid #bbb;padding:2px 6px;text-align:left;vertical-align:top;font-size:.9em}"
     "th{background:#e8eef5}td.missing{color:#a33;font-style:italic}"
-    "svg{display:block;margin:.3em 0 1em;background:#fafafa;border:1px solid #ccc}"
+    "svg{display:block;margin:.3em 0 1em;background:#fafafa;border:1px solid #ccc;max-width:100%;height:auto}"
     "svg text{font:11px sans-serif}";
 
 /* Colours of the rows of the drawing, in turn. */
@@ -140,13 +140,13 @@ std::vector<ScheduleRow> schedule_rows(const SummaryNode& schedule) {
 
 /* The rows drawn over frames [0, span) at `scale` pixels per frame, ticks every `tick`. */
 std::string schedule_svg(const std::vector<ScheduleRow>& rows, int span, double scale, int tick, bool titles) {
-  const int width = kLabel + static_cast<int>(span * scale) + 10;
+  const int width = kLabel + static_cast<int>(span * scale) + 16; /* room for half the last tick's label */
   const int height = static_cast<int>(rows.size()) * kRow + 24;
   char buf[256];
   std::snprintf(buf, sizeof buf,
-                "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%d\" height=\"%d\" role=\"img\" "
-                "aria-label=\"schedule of frames 0 to %d\">",
-                width, height, span - 1);
+                "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%d\" height=\"%d\" viewBox=\"0 0 %d %d\" "
+                "role=\"img\" aria-label=\"schedule of frames 0 to %d\">",
+                width, height, width, height, span - 1);
   std::string out = buf;
   for (int f = 0; f <= span; f += tick) {
     const double x = kLabel + f * scale;

@@ -3,6 +3,7 @@
 // of a live network with the SIBs that a phone reassembled from them, and against SIBs of
 // every length cut by the BCH segmenter.
 #include <algorithm>
+#include <cstddef>
 #include <map>
 #include <random>
 #include <set>
@@ -27,6 +28,17 @@ constexpr char kSib18[] = "9ee00000120001208088a8000000";
 // The first segment of an extensionType SIB (a SIB19 by the cell's schedule), seg_Count 7,
 // SFN' 1290.
 constexpr char kExtensionBlock[] = "a143f686e52a22282f36928cc1852026d2519830afacda4a330614909b4944";
+
+// The bit position of a slot lies in its padding and the schedules follow the slots: the
+// fields that hosts read of g_umts_ctxt keep their places.
+static_assert(offsetof(umts_sib_slot, buffer) == 0 && offsetof(umts_sib_slot, write_cursor) == sizeof(void*) &&
+                  offsetof(umts_sib_slot, total_segments) == 2 * sizeof(void*) &&
+                  offsetof(umts_sib_slot, remaining_segments) == 2 * sizeof(void*) + 1 &&
+                  sizeof(umts_sib_slot) == 3 * sizeof(void*),
+              "umts_sib_slot keeps its layout");
+static_assert(offsetof(umts_decoder_ctxt, request_bitmask) == 0 && offsetof(umts_decoder_ctxt, slots) == sizeof(void*) &&
+                  offsetof(umts_decoder_ctxt, sfn_prime) == sizeof(void*) + umts_sib_count * sizeof(umts_sib_slot),
+              "the fields of g_umts_ctxt before the schedules keep their places");
 
 constexpr uint16_t bit(umts_sib_id id) { return static_cast<uint16_t>(1u << id); }
 

@@ -279,7 +279,8 @@ TEST(Summary, SampleCellFromBlocksAndCapture) {
 }
 
 /* Every SIB of the sibs file, of which the last forms count: SIB11 with HCS in use, the HSPA
-   SIB5. */
+   SIB5. The GSM cells of the HCS form's full list come without the element dummy, so their
+   record holds no BSIC: said missing, not shown as 0-0. */
 TEST(Summary, LastFormOfEachBlockCounts) {
   const Outcome r = run_sibdump("--sibs --summary=json '" + kSamples + "/fdd_cell_sibs.txt'");
   const std::vector<std::string> cells = summaries(r);
@@ -293,6 +294,10 @@ TEST(Summary, LastFormOfEachBlockCounts) {
       << s;
   EXPECT_TRUE(has(s, "\"hsdpa_cell\":true,\"hs_dsch_in_cell_fach\":true,\"edch_cell\":true,\"common_edch\":true")) << s;
   EXPECT_TRUE(has(s, "\"sib11bis\"")) << s;
+  EXPECT_TRUE(has(s, "{\"cell_id\":2,\"bcch_arfcn\":81,\"band\":{\"name\":\"dcs1800BandUsed\",\"coded\":0},"
+                     "\"bsic\":{\"missing\":\"not in the record without the element dummy\"}"))
+      << s;
+  EXPECT_FALSE(has(s, "\"bsic\":\"")) << s;
 }
 
 /* The sample's SIB3 made barred through the codec: decoded, changed, encoded again. Access
@@ -646,7 +651,8 @@ TEST(Summary, LiveStreamShowsTheChangeAsItComes) {
 /* The sample's first SIB11 (no HCS, Ec/N0) with two inter-frequency cells added through the
    codec: cell 1 on UARFCN 10563 with scrambling code 300 and an offset coded 2 (0.5 dB steps:
    1 dB), then scrambling code 301 with no frequency of its own (it is on the frequency of the
-   cell before). Its 12 intra-frequency and 3 GSM cells stay. */
+   cell before), with thresholds of its own: maximum UL power 21 dBm, Qqualmin -20 dB and
+   Qrxlevmin coded -50 (2 x -50 + 1 = -99 dBm). Its 12 intra-frequency and 3 GSM cells stay. */
 TEST(Summary, NeighboursOnEveryKindOfList) {
   std::string sib11_hex;
   for (const std::string& l : lines_of(read_file(kSamples + "/fdd_cell_sibs.txt")))
@@ -687,6 +693,16 @@ TEST(Summary, NeighboursOnEveryKindOfList) {
   cells[0].frequencyInfo.modeSpecificInfo.t = 1;
   cells[0].frequencyInfo.modeSpecificInfo.u.fdd = &fdd;
   cells[0].cellInfo.cellIndividualOffset = 2;
+  CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd thresholds{};
+  thresholds.m = 3u;
+  thresholds.q_QualMin = -20;
+  thresholds.q_RxlevMin = -50;
+  CellSelectReselectInfoSIB_11_12_ECN0& own = cells[1].cellInfo.cellSelectionReselectionInfo;
+  cells[1].cellInfo.m |= 2u;
+  own.m = 1u;
+  own.maxAllowedUL_TX_Power = 21;
+  own.modeSpecificInfo.t = 1;
+  own.modeSpecificInfo.u.fdd = &thresholds;
   uint32_t bits = 0;
   const Bytes new_sib11 = encode(asn1PE_UMTS_SysInfoType11, &sib11, &bits);
   rtFreeContext(&dec);
@@ -701,7 +717,12 @@ TEST(Summary, NeighboursOnEveryKindOfList) {
   EXPECT_TRUE(has(s, "\"inter_frequency\":[{\"cell_id\":1,\"uarfcn_dl\":10563,\"primary_scrambling_code\":300,"
                      "\"cell_individual_offset\":{\"value\":1,\"unit\":\"dB\",\"coded\":2}},"
                      "{\"uarfcn_dl\":\"same as the cell before\",\"primary_scrambling_code\":301,"
-                     "\"cell_individual_offset\":{\"value\":0,\"unit\":\"dB\",\"coded\":0}}]"))
+                     "\"cell_individual_offset\":{\"value\":0,\"unit\":\"dB\",\"coded\":0},"
+                     "\"q_offset1_s_n\":{\"value\":0,\"unit\":\"dB\",\"coded\":0},"
+                     "\"q_offset2_s_n\":{\"value\":0,\"unit\":\"dB\",\"coded\":0},"
+                     "\"max_allowed_ul_tx_power\":{\"value\":21,\"unit\":\"dBm\",\"coded\":21},"
+                     "\"q_qualmin\":{\"value\":-20,\"unit\":\"dB\",\"coded\":-20},"
+                     "\"q_rxlevmin\":{\"value\":-99,\"unit\":\"dBm\",\"coded\":-50}}]"))
       << s;
   EXPECT_TRUE(has(s, "\"primary_scrambling_code\":240,")) << s; /* the twelfth intra-frequency cell */
   EXPECT_TRUE(has(s, "\"bcch_arfcn\":81,")) << s;
