@@ -4,7 +4,7 @@
 // conversion of the sample cell next to its decode alone.
 //
 // Input: bench/bch_cycle.bch (the sample cell's broadcast as scheduled over one SFN cycle,
-// 1648 transport blocks, see its head) and the whole SIBs of the sample cell
+// 1664 transport blocks, see its head) and the whole SIBs of the sample cell
 // (samples/fdd_cell_sibs.txt).
 #include <benchmark/benchmark.h>
 #include <fcntl.h>

@@ -24,7 +24,7 @@ import sibdecoder_umts as sd  # noqa: E402
 
 BUILD = Path(os.environ.get("UMTS_BUILD_DIR", REPO / "build"))
 SIBDUMP = Path(os.environ.get("SIBDUMP", BUILD / "tools/sibdump/sibdump"))
-CYCLE = {"mib", "sib1", "sib2", "sib3", "sib5", "sib7", "sib11", "sib12", "sib18", "sb1"}
+CYCLE = {"mib", "sib1", "sib2", "sib3", "sib5", "sib7", "sib11", "sib11bis", "sib12", "sib18", "sb1"}
 
 
 @pytest.fixture(scope="module")

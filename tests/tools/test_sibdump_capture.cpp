@@ -156,7 +156,7 @@ const std::map<std::string, std::vector<std::string>>& hex_records() {
     const Outcome r = run_sibdump("'" + kSamples + "/fdd_cell.bch'");
     EXPECT_EQ(r.status, 0) << r.err;
     m = records_by_block(parse_lines(r.out));
-    EXPECT_EQ(m.size(), 10u); /* every block of the cell but SB2 and SIB11bis */
+    EXPECT_EQ(m.size(), 11u); /* every block of the cell but SB2 */
   }
   return m;
 }

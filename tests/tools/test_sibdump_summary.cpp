@@ -208,8 +208,9 @@ std::string entry(const char* sib, const char* by, int rep, int pos, int segs, c
 }
 
 /* SIB_POS is twice the coded position; further segments follow two frames later unless the
-   entry lists offsets (SIB_OFF): SIB5's so6, so2 give 12, 18, 20, SIB11's so6, so8, so16 give
-   28, 34, 42, 58. The MIB names SB1 and the blocks for camping, SB1 the rest and SIB7 again. */
+   entry lists offsets (SIB_OFF): SIB5's so6, so2 give 12, 18, 20, SIB11's so8, so16 give 34,
+   42, 58. The MIB names SB1 and the blocks for camping, SB1 the rest and SIB7 again, and in its
+   extension SIB11bis, once in the SFN cycle (rep4096) at frame 28, and SIB19. */
 std::string sample_schedule() {
   return "\"schedule\":[" + entry("masterInformationBlock", "fixed", 8, 0, 1, "0", "3", "true") + "," +
          entry("sysInfoTypeSB1", "mib", 64, 2, 1, "2", "2", "true") + "," +
@@ -219,9 +220,10 @@ std::string sample_schedule() {
          entry("sysInfoType7", "mib", 16, 14, 1, "14", "null", "true") + "," +
          entry("sysInfoType2", "sb1", 128, 10, 1, "10", "2", "true") + "," +
          entry("sysInfoType7", "sb1", 16, 14, 1, "14", "null", "true") + "," +
-         entry("sysInfoType11", "sb1", 128, 28, 4, "28,34,42,58", "2", "true") + "," +
+         entry("sysInfoType11", "sb1", 128, 34, 3, "34,42,58", "2", "true") + "," +
          entry("sysInfoType12", "sb1", 128, 60, 1, "60", "2", "true") + "," +
          entry("sysInfoType18", "sb1", 256, 74, 1, "74", "2", "true") + "," +
+         entry("systemInfoType11bis", "sb1", 4096, 28, 1, "28", "2", "true") + "," +
          entry("systemInfoType19", "sb1", 128, 26, 1, "26", "2", "false") + "]";
 }
 
@@ -240,8 +242,8 @@ TEST(Summary, SampleCellFromBlocksAndCapture) {
     const std::vector<std::string> cells = summaries(r);
     ASSERT_EQ(cells.size(), 1u) << r.out;
     const std::string& s = cells[0];
-    EXPECT_TRUE(has(s, "\"blocks_received\":[\"mib\",\"sib1\",\"sib2\",\"sib3\",\"sib5\",\"sib7\",\"sib11\",\"sib12\","
-                       "\"sib18\",\"sb1\"]")) << s;
+    EXPECT_TRUE(has(s, "\"blocks_received\":[\"mib\",\"sib1\",\"sib2\",\"sib3\",\"sib5\",\"sib7\",\"sib11\",\"sib11bis\","
+                       "\"sib12\",\"sib18\",\"sb1\"]")) << s;
     for (const std::string& part : {std::string(kIdentity), std::string(kAccess), std::string(kSelection),
                                    sample_schedule(), std::string(kCommonChannels)})
       EXPECT_TRUE(has(s, part)) << in.args << "\nexpected: " << part << "\nin: " << s;

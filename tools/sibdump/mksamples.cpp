@@ -213,7 +213,10 @@ constexpr uint16_t kPlmnValueTag = 17;
 constexpr uint8_t kCellValueTag = 2;
 
 /* The SIBs of the cycle. */
-enum CycleIndex : uint32_t { kMib, kSb1, kSib1, kSib2, kSib3, kSib5, kSib7, kSib11, kSib12, kSib18, kSib5Second, kCycleSize };
+/* The SIBs of the cycle, in the order they are sent. */
+enum CycleIndex : uint32_t {
+  kMib, kSb1, kSib1, kSib2, kSib3, kSib5, kSib7, kSib11Hcs, kSib11, kSib12, kSib18, kSib11bis, kSib5Second, kCycleSize
+};
 
 /* A block that the MIB or SB1 references: its SIBSb-TypeAndTag / SIB-TypeAndTag alternative. */
 struct Ref {
@@ -226,6 +229,9 @@ struct Plan {
   std::vector<Schedule> at = std::vector<Schedule>(kCycleSize); /* by cycle index; MIB included */
   Schedule sib19;
 };
+
+/* systemInfoType11bis, the first alternative of SIB-TypeExt. */
+const uint32_t kTagExtSysInfoType11bis = 1;
 
 const uint32_t kTagSysInfoType1 = 1, kTagSysInfoType2 = 2, kTagSysInfoType3 = 3, kTagSysInfoType5 = 5,
                kTagSysInfoType7 = 7, kTagSysInfoType11 = 11, kTagSysInfoType12 = 12;
@@ -249,8 +255,11 @@ const Ref kSb1Refs[] = {{kTagSysInfoType2, kSib2},
 
 /* Repetition and wanted position of each block, placed in this order (shortest repetition
    first): the MIB every 8 frames at SFN 0; SIB3 and SIB7 often, SIB1, SIB5 and SB1 less, the
-   measurement blocks, SIB2 and SIB18 seldom. SIB19 (rep 128 at 26, which SB1 schedules though
-   the cycle does not carry it) is placed before SIB11. */
+   measurement blocks, SIB2, SIB18 and SIB11bis seldom. SIB19 (rep 128 at 26, which SB1
+   schedules though the cycle does not carry it) is placed before SIB11. In the cycle of
+   samples/fdd_cell.bch, whose blocks follow each other, SIB11bis (which a receiver takes for
+   one only where the schedule puts it) is instead placed first, once in the SFN cycle, in the
+   frame of the block that carries it there. */
 struct Wish {
   uint32_t sib_index;
   uint32_t rep;
@@ -258,15 +267,23 @@ struct Wish {
 };
 const Wish kWishes[] = {{kMib, 8, 0},     {kSib3, 16, 6},    {kSib7, 16, 14},   {kSib1, 32, 4},
                         {kSib5, 32, 12},  {kSb1, 64, 2},     {kSib2, 128, 10},  {kSib11, 128, 18},
-                        {kSib12, 128, 42}, {kSib18, 256, 50}};
+                        {kSib12, 128, 42}, {kSib18, 256, 50}, {kSib11bis, 256, 90}};
 
-Plan place_cycle(const std::vector<uint32_t>& seg_counts, const std::vector<Sib>& sibs) {
+/* With `sib11bis_frame` at 0 or above, SIB11bis is placed first at that frame, once per SFN
+   cycle. */
+Plan place_cycle(const std::vector<uint32_t>& seg_counts, const std::vector<Sib>& sibs, int32_t sib11bis_frame = -1) {
   FrameMap map;
   Plan plan;
+  if (sib11bis_frame >= 0) {
+    plan.at[kSib11bis] = map.place(kSfnCycle, static_cast<uint32_t>(sib11bis_frame), seg_counts[kSib11bis], "SIB11bis");
+    if (plan.at[kSib11bis].pos != static_cast<uint32_t>(sib11bis_frame)) die("SIB11bis cannot have its block's frame");
+  }
   for (const Wish& w : kWishes) {
     if (w.sib_index == kSib11) plan.sib19 = map.place(128, 26, 1, "SIB19");
+    if (w.sib_index == kSib11bis && sib11bis_frame >= 0) continue;
     plan.at[w.sib_index] = map.place(w.rep, w.pos, seg_counts[w.sib_index], sibs[w.sib_index].label);
   }
+  if (plan.at[kMib].pos != 0) die("the MIB cannot have the frames of SFN mod 8 = 0");
   return plan;
 }
 
@@ -310,9 +327,16 @@ void build_sb1(Sib& sib, const Plan& plan) {
     set_scheduling(&e->scheduling, plan.at[r.sib_index], true);
     append(&sb1->sib_ReferenceList, e);
   }
-  /* The v6b0 level, without its list, only carries the v860 level, which schedules SIB19. */
+  /* The v6b0 level schedules SIB11bis and carries the v860 level, which schedules SIB19. */
   sb1->m |= 1u;
   SysInfoTypeSB1_v6b0NonCriticalExtensions* v6b0 = &sb1->v6b0NonCriticalExtensions;
+  v6b0->sysInfoTypeSB1_v6b0ext.m = 1u; /* extSIBTypeInfoSchedulingInfo-List */
+  ExtSIBTypeInfoSchedulingInfo* sib11bis = make<ExtSIBTypeInfoSchedulingInfo>();
+  sib11bis->extensionSIB_Type.t = kTagExtSysInfoType11bis;
+  set_scheduling(&sib11bis->schedulingInfo, plan.at[kSib11bis], true);
+  sib11bis->valueTagInfo.t = 2; /* cellValueTag */
+  sib11bis->valueTagInfo.u.cellValueTag = kCellValueTag;
+  append(&v6b0->sysInfoTypeSB1_v6b0ext.extSIBTypeInfoSchedulingInfo_List, sib11bis);
   v6b0->m |= 1u;
   SysInfoTypeSB1_v860ext* v860 = &v6b0->v860NonCriticalExtensions.sysInfoTypeSB1_v860ext;
   v860->m |= 1u; /* extSIBTypeInfoSchedulingInfo-List */
@@ -1698,7 +1722,7 @@ std::string scheduled_cycle(std::vector<Sib> sibs) {
     build_mib(sibs[kMib], plan);
     std::vector<uint32_t> found(kCycleSize, 1);
     for (uint32_t i = 0; i < kCycleSize; i++) {
-      if (i == kSib5Second) continue;
+      if (i == kSib5Second || i == kSib11Hcs) continue; /* the forms that the schedule does not name */
       cuts[i] = cut_alone(sibs[i]);
       found[i] = static_cast<uint32_t>(cuts[i].size());
     }
@@ -1720,7 +1744,8 @@ std::string scheduled_cycle(std::vector<Sib> sibs) {
       "# occupies (and those of SIB19, which the cycle does not carry) without a block. The input\n"
       "# of the benchmarks of the whole road (bench/bench_road.cpp) and of timing sibdump; not a\n"
       "# recording. Written by mksamples (make samples) with the SIBs of samples/fdd_cell.bch\n"
-      "# (the first form of SIB5). One transport block per line, in hexadecimal, SFN' in order.\n"
+      "# (the first forms of SIB5 and SIB11). One transport block per line, in hexadecimal,\n"
+      "# SFN' in order.\n"
       "#\n"
       "# Block: repetition, position and frames of its segments (frames of the period), blocks sent\n";
   uint32_t sent = 0;
@@ -1789,17 +1814,21 @@ int main(int argc, char** argv) {
   sibs[kSib3] = {"sib3", "SIB3", 3, {}, 0};
   sibs[kSib5] = {"sib5", "SIB5", 5, {}, 0};
   sibs[kSib7] = {"sib7", "SIB7", 7, {}, 0};
+  sibs[kSib11Hcs] = {"sib11", "SIB11, the form with HCS (Ec/N0)", 11, {}, 0};
   sibs[kSib11] = {"sib11", "SIB11", 11, {}, 0};
   sibs[kSib12] = {"sib12", "SIB12", 12, {}, 0};
   sibs[kSib18] = {"sib18", "SIB18", 26, {}, 0};
   sibs[kSib5Second] = {"sib5", "SIB5 (second form)", 5, {}, 0};
+  sibs[kSib11bis] = {"sib11bis", "SIB11bis", 31, {}, 0};
 
   build_sib1(sibs[kSib1]);
   build_sib2(sibs[kSib2]);
   build_sib3(sibs[kSib3]);
   build_sib5(sibs[kSib5]);
   build_sib7(sibs[kSib7]);
+  build_sib11_hcs(sibs[kSib11Hcs]);
   build_sib11(sibs[kSib11]);
+  build_sib11bis(sibs[kSib11bis]);
   build_sib12(sibs[kSib12]);
   build_sib18(sibs[kSib18]);
   /* The second SIB5 starts a block of its own, in the first of its shapes (from the fullest
@@ -1817,11 +1846,7 @@ int main(int argc, char** argv) {
   }
 
   /* Blocks of the whole-SIB file that the cycle does not carry. */
-  std::vector<Sib> whole_only(2);
-  whole_only[0] = {"sib11", "SIB11 with HCS in use and Ec/N0 (a second form, not in the cycle)", 11, {}, 0};
-  whole_only[1] = {"sib11bis", "SIB11bis (not in the cycle)", 31, {}, 0};
-  build_sib11_hcs(whole_only[0]);
-  build_sib11bis(whole_only[1]);
+  std::vector<Sib> whole_only;
 
   /* The measurement blocks of a 1.28 Mcps TDD cell, in a file of their own. */
   std::vector<Sib> tdd128(2);
@@ -1834,16 +1859,23 @@ int main(int argc, char** argv) {
   /* The segment counts go into the scheduling, so cut once with counts of 1, then again. */
   std::vector<uint32_t> seg_counts(kCycleSize, 1);
   std::vector<umts_bch_block> blocks;
-  for (int pass = 0; pass < 3; pass++) {
-    const Plan plan = place_cycle(seg_counts, sibs);
+  /* So do the frame of the block that starts SIB11bis, which SB1 schedules it in. */
+  int32_t sib11bis_frame = -1;
+  for (int pass = 0; pass < 4; pass++) {
+    const Plan plan = place_cycle(seg_counts, sibs, sib11bis_frame);
     build_sb1(sibs[kSb1], plan);
     build_mib(sibs[kMib], plan);
     blocks = cut(sibs);
     std::vector<uint32_t> found(kCycleSize, 1);
+    int32_t found_frame = -1;
     for (const umts_bch_block& b : blocks)
-      for (uint32_t i = 0; i < b.piece_count; i++) found[b.pieces[i].sib] = b.pieces[i].seg_count;
-    if (found == seg_counts) break;
+      for (uint32_t i = 0; i < b.piece_count; i++) {
+        found[b.pieces[i].sib] = b.pieces[i].seg_count;
+        if (b.pieces[i].sib == kSib11bis && b.pieces[i].segment == 0) found_frame = 2 * b.sfn_prime;
+      }
+    if (found == seg_counts && found_frame == sib11bis_frame) break;
     seg_counts = found;
+    sib11bis_frame = found_frame;
   }
   for (const umts_bch_block& b : blocks)
     for (uint32_t i = 0; i < b.piece_count; i++)
@@ -1853,14 +1885,16 @@ int main(int argc, char** argv) {
       "# One broadcast cycle of a UMTS FDD cell: MCC 262, MNC 01, LAC 0x4E21, cell identity\n"
       "# 0x01A2B3C, primary scrambling code 123. Written by mksamples (make samples).\n"
       "# SB1 also schedules SIB19, which the library does not convert: it is left out here.\n"
-      "# After SIB18 comes a second form of SIB5, as the cell sends it after a reconfiguration\n"
-      "# (dedicated and dynamic transport formats, fuller TFCS, eight FACHs); the MIB schedules\n"
-      "# the first.\n"
+      "# SIB11 comes first in the form the cell sent while it used HCS, then as it is now;\n"
+      "# SIB11bis follows SIB18, in the frame where SB1 schedules it; last comes a second form\n"
+      "# of SIB5, as the cell sends it after a reconfiguration (dedicated and dynamic transport\n"
+      "# formats, fuller TFCS, eight FACHs), where the MIB schedules the first.\n"
       "#\n"
       "# One BCH transport block per line, in hexadecimal: a BCCH-BCH-Message of TS 25.331,\n"
       "# 246 bits in 31 octets, SFN' counting up by one per block (here the blocks follow\n"
-      "# each other; on air each stands at the position that the MIB and SB1 schedule). The\n"
-      "# comment before each block says what it carries. Decode with: sibdump samples/fdd_cell.bch\n";
+      "# each other; on air each stands at the position that the MIB and SB1 schedule, and so\n"
+      "# does SIB11bis here, which a receiver takes for one only there). The comment before\n"
+      "# each block says what it carries. Decode with: sibdump samples/fdd_cell.bch\n";
   for (const umts_bch_block& b : blocks) {
     bch += "\n# " + describe(b, sibs) + "\n";
     bch += hex(b.data, UMTS_BCH_BLOCK_OCTETS) + "\n";
@@ -1868,7 +1902,13 @@ int main(int argc, char** argv) {
   std::string whole =
       "# The SIBs of samples/fdd_cell.bch, whole: '<name> <hex of the unaligned PER encoding>'.\n"
       "# Written by mksamples (make samples). Decode with: sibdump --sibs samples/fdd_cell_sibs.txt\n";
-  for (const Sib& s : sibs)
+  /* The cycle's SIBs, the second form of SIB11 and SIB11bis after the others. */
+  std::vector<Sib> in_order;
+  for (uint32_t i = 0; i < kCycleSize; i++)
+    if (i != kSib11Hcs && i != kSib11bis) in_order.push_back(sibs[i]);
+  in_order.push_back(sibs[kSib11Hcs]);
+  in_order.push_back(sibs[kSib11bis]);
+  for (const Sib& s : in_order)
     whole += "\n# " + std::string(s.label) + ", " + std::to_string(s.numbits) + " bits\n" + s.name + " " +
              hex(s.bytes.data(), s.bytes.size()) + "\n";
   for (const Sib& s : whole_only)
