@@ -19,6 +19,8 @@
 namespace {
 
 using namespace umts_lcr;
+using umts_meas::both_cell_lists;
+using umts_meas::both_frequencies;
 
 }  // namespace
 

@@ -103,19 +103,6 @@ void quality_measure(const Src* src, Dst* dst, Rscp rscp, Ecno ecno) {
   else if (src->t == 2 && src->u.cpich_Ec_N0 != nullptr) ecno(src->u.cpich_Ec_N0, &dst->u.cpich_Ec_N0);
 }
 
-/* intra, then inter, each by its own bit. */
-template <class Src, class Dst, class Intra, class Inter>
-void both_frequencies(const Src* src, Dst* dst, Intra intra, Inter inter) {
-  UMTS_CONVERT_OPTIONAL(src, dst, 1u, intra, intraFreqMeasurementSysInfo);
-  UMTS_CONVERT_OPTIONAL(src, dst, 2u, inter, interFreqMeasurementSysInfo);
-}
-
-template <class Src, class Dst, class Intra, class Inter>
-void both_cell_lists(const Src* src, Dst* dst, Intra intra, Inter inter) {
-  UMTS_CONVERT_OPTIONAL(src, dst, 1u, intra, newIntraFreqCellList);
-  UMTS_CONVERT_OPTIONAL(src, dst, 2u, inter, newInterFreqCellList);
-}
-
 }  // namespace umts_lcr
 
 #endif /* UMTS_CONVERT_LCR_H */

@@ -30,6 +30,8 @@
 namespace {
 
 using namespace umts_lcr;
+using umts_meas::both_cell_lists;
+using umts_meas::both_frequencies;
 
 /* A list whose walk reads its count back from the flat 8-bit field. */
 template <class Element, class Dst, class Convert>

@@ -6,6 +6,7 @@
 
 #include <stddef.h>
 
+#include "convert_frame.h"
 #include "umts_rrc.h"
 
 namespace umts_meas {
@@ -28,6 +29,21 @@ inline void copy_list(const rtxDList* src, uint8_t* count, Entry (&entries)[N], 
 template <class Entry, size_t N>
 constexpr uint32_t bound_of(const Entry (&)[N]) {
   return static_cast<uint32_t>(N);
+}
+
+/* The two frequency records of a quality alternative (intraFreqMeasurementSysInfo,
+   interFreqMeasurementSysInfo), or the two new-cell lists of SIB11bis's (newIntraFreqCellList,
+   newInterFreqCellList): each by its own presence bit, intra first. */
+template <class Src, class Dst, class Intra, class Inter>
+void both_frequencies(const Src* src, Dst* dst, Intra intra, Inter inter) {
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, intra, intraFreqMeasurementSysInfo);
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, inter, interFreqMeasurementSysInfo);
+}
+
+template <class Src, class Dst, class Intra, class Inter>
+void both_cell_lists(const Src* src, Dst* dst, Intra intra, Inter inter) {
+  UMTS_CONVERT_OPTIONAL(src, dst, 1u, intra, newIntraFreqCellList);
+  UMTS_CONVERT_OPTIONAL(src, dst, 2u, inter, newInterFreqCellList);
 }
 
 }  // namespace umts_meas

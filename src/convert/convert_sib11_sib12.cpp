@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include "convert_frame.h"
+#include "convert_meas.h"
 #include "umts_sib_convert.h"
 
 namespace {
@@ -39,18 +40,8 @@ const umts_frame_desc kSib12Frame = {
     {UMTS_FRAME_QUIET, nullptr},
 };
 
-/* intra, then inter, each by its own bit. */
-template <class Src, class Dst, class Intra, class Inter>
-void both_frequencies(const Src* src, Dst* dst, Intra intra, Inter inter) {
-  UMTS_CONVERT_OPTIONAL(src, dst, 1u, intra, intraFreqMeasurementSysInfo);
-  UMTS_CONVERT_OPTIONAL(src, dst, 2u, inter, interFreqMeasurementSysInfo);
-}
-
-template <class Src, class Dst, class Intra, class Inter>
-void both_cell_lists(const Src* src, Dst* dst, Intra intra, Inter inter) {
-  UMTS_CONVERT_OPTIONAL(src, dst, 1u, intra, newIntraFreqCellList);
-  UMTS_CONVERT_OPTIONAL(src, dst, 2u, inter, newInterFreqCellList);
-}
+using umts_meas::both_cell_lists;
+using umts_meas::both_frequencies;
 
 }  // namespace
 
