@@ -266,10 +266,12 @@ TEST(Sibdump, LogLevelReachesTheLibrary) {
 
 /* The committed samples are what mksamples writes. */
 TEST(Samples, AreUpToDate) {
-  const Outcome r = run(kMksamples, "'" + temp_dir() + "'");
+  const Outcome r = run(kMksamples, "'" + temp_dir() + "' '" + temp_dir() + "/bch_cycle.bch'");
   ASSERT_EQ(r.status, 0) << r.err;
-  for (const char* name : {"/fdd_cell.bch", "/fdd_cell_sibs.txt"})
+  for (const char* name : {"/fdd_cell.bch", "/fdd_cell_sibs.txt", "/tdd128_cell_sibs.txt"})
     EXPECT_EQ(read_file(temp_dir() + name), read_file(kSamples + name)) << name << ": run 'make samples'";
+  EXPECT_EQ(read_file(temp_dir() + "/bch_cycle.bch"), read_file(std::string(UMTS_SOURCE_DIR) + "/bench/bch_cycle.bch"))
+      << "bench/bch_cycle.bch: run 'make samples'";
 }
 
 }  // namespace
