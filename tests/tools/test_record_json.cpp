@@ -221,7 +221,8 @@ TEST(SibJson, WritesLikeSnprintf) {
   std::fill(buf.begin(), buf.end(), 'x');
   EXPECT_EQ(umts_sib_record_json(&set, umts_sib_mib, buf.data(), mib.size()), mib.size());
   EXPECT_EQ(std::string(buf.data()), mib.substr(0, mib.size() - 1));
-  for (size_t size : {size_t(1), size_t(2), size_t(17)}) {
+  /* Cut at every length (the nested objects' opening braces among the cuts). */
+  for (size_t size = 1; size <= mib.size(); size++) {
     std::vector<char> small(size + 1, 'x');
     EXPECT_EQ(umts_sib_record_json(&set, umts_sib_mib, small.data(), size), mib.size());
     EXPECT_EQ(std::string(small.data()), mib.substr(0, size - 1));
