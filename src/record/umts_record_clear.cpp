@@ -178,9 +178,58 @@ void clear(const Plan* plan, uint8_t* record, uint32_t size) {
   for (const Span& s : plan->spans) std::memset(record + s.offset, 0, s.size);
 }
 
+void copy(const Plan* plan, uint8_t* dst, const uint8_t* src, uint32_t size);
+
+/* The same walk, copying from `src` what its counts and tags show. */
+void copy_walk(const Walk& w, uint8_t* dst_base, const uint8_t* src_base) {
+  uint8_t* dst = dst_base + w.offset;
+  const uint8_t* src = src_base + w.offset;
+  switch (w.kind) {
+    case Walk::kList: {
+      uint64_t count = umts_record_load_unsigned(src_base + w.aux_offset, w.aux_size);
+      if (count > w.dim) count = w.dim;
+      if (count == 0 && w.aux_size < sizeof count && w.dim > (uint64_t{1} << (8 * w.aux_size)) - 1) count = w.dim;
+      if (w.elem == nullptr) std::memcpy(dst, src, count * w.elem_size);
+      else
+        for (uint64_t i = 0; i < count; i++) copy(w.elem, dst + i * w.elem_size, src + i * w.elem_size, 0);
+      break;
+    }
+    case Walk::kUnion: {
+      const uint64_t tag = umts_record_load_unsigned(src_base + w.aux_offset, w.aux_size);
+      for (uint32_t i = 0; i < w.members->field_count; i++) {
+        const umts_field_desc& m = w.members->fields[i];
+        if (m.cond < 0 || static_cast<uint64_t>(m.cond) != tag) continue;
+        if (w.member_plans[i] != nullptr) copy(w.member_plans[i], dst, src, 0);
+        else std::memcpy(dst, src, m.size);
+        break;
+      }
+      break;
+    }
+  }
+}
+
+void copy(const Plan* plan, uint8_t* dst, const uint8_t* src, uint32_t size) {
+  if (plan == nullptr) {
+    std::memcpy(dst, src, size);
+    return;
+  }
+  for (const Walk& w : plan->walks) copy_walk(w, dst, src);
+  for (const Span& s : plan->spans) std::memcpy(dst + s.offset, src + s.offset, s.size);
+}
+
+const Plans& plans() {
+  static const Plans all;
+  return all;
+}
+
 }  // namespace
 
 void umts_record_clear_written(const umts_record_desc* desc, void* record) {
-  static const Plans plans;
-  clear(plans.find(desc), static_cast<uint8_t*>(record), desc->size);
+  clear(plans().find(desc), static_cast<uint8_t*>(record), desc->size);
+}
+
+void umts_record_copy_written(const umts_record_desc* desc, void* dst, const void* src) {
+  const Plan* plan = plans().find(desc);
+  clear(plan, static_cast<uint8_t*>(dst), desc->size);
+  copy(plan, static_cast<uint8_t*>(dst), static_cast<const uint8_t*>(src), desc->size);
 }

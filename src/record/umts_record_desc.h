@@ -113,6 +113,13 @@ const umts_field_desc* umts_record_union_member(const umts_record_desc* desc, ui
    its tag, every other field. Costs what those parts hold, not the record's size. */
 void umts_record_clear_written(const umts_record_desc* desc, void* record);
 
+/* Makes the record at `dst` read as the one at `src`, at the cost of what the two hold: `dst`
+   is cleared by what was written into it (as umts_record_clear_written, with the same
+   condition), then `src` is copied in the parts that its counts and tags say are in use, parts
+   up to UMTS_RECORD_WRITE_WHOLE bytes whole. Holds when the writes into `src` since it was
+   zero stayed within its counts and tags, as the conversions' do. */
+void umts_record_copy_written(const umts_record_desc* desc, void* dst, const void* src);
+
 /* Appends the JSON object of the record at `record`. */
 inline void umts_json_append_record(std::string& out, const umts_record_desc* desc, const void* record) {
   const size_t at = out.size();

@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "umts_record_desc.h"
 #include "umts_rrc.h"
 #include "umts_sib_json.h"
 
@@ -35,10 +36,11 @@ CellRecords::~CellRecords() { std::free(records_); }
 
 void CellRecords::take(const umts_sib_set* set) {
   const uint32_t present = set->presence_bitmask;
-#define UMTS_TAKE(slot, member)                                                  \
-  if ((present >> (slot)) & 1u) {                                                \
-    std::memcpy(&records_->member, &set->member, sizeof records_->member);       \
-    conversions_[slot]++;                                                        \
+  /* Copied by what the conversion wrote, not whole: the SIB5 record alone is 28 MB. */
+#define UMTS_TAKE(slot, member)                                                        \
+  if ((present >> (slot)) & 1u) {                                                      \
+    umts_record_copy_written(umts_desc_of(&records_->member), &records_->member, &set->member); \
+    conversions_[slot]++;                                                              \
   }
   UMTS_TAKE(umts_sib_mib, mib)
   UMTS_TAKE(umts_sib_sib1, sib1)
@@ -63,7 +65,7 @@ bool CellRecords::configuration_changes(const umts_sib_set* set) const {
 }
 
 void CellRecords::reset() {
-  std::memset(records_, 0, sizeof *records_);
+  umts_record_clear_written(describe_umts_sib_set(), records_);
   seen_ = 0;
   std::fill(std::begin(conversions_), std::end(conversions_), 0ul);
   sib19_part_ = Collection();

@@ -78,6 +78,14 @@ std::vector<Encoding> sampleEncodings() {
   return out;
 }
 
+// The field of the set that holds block `id`.
+const umts_field_desc* blockField(umts_sib_id id) {
+  const umts_record_desc* d = describe_umts_sib_set();
+  for (uint32_t i = 0; i < d->field_count; i++)
+    if (d->fields[i].cond == static_cast<int32_t>(id)) return &d->fields[i];
+  return nullptr;
+}
+
 // The record of block `id` as the description-driven writer gives it.
 std::string describedJson(const umts_sib_set* set, umts_sib_id id) {
   const umts_record_desc* d = describe_umts_sib_set();
@@ -91,6 +99,7 @@ std::string describedJson(const umts_sib_set* set, umts_sib_id id) {
 class LibrarySetClearing : public FrameTest {
  protected:
   void TearDown() override {
+    std::free(copied);
     umts_sib_set_free(own);
     FrameTest::TearDown();
   }
@@ -101,6 +110,13 @@ class LibrarySetClearing : public FrameTest {
     umts_sib_record_json(result, id, b.data(), b.size());
     EXPECT_EQ(std::string(a.data()), std::string(b.data())) << what;
     EXPECT_EQ(std::string(a.data()), describedJson(own, id)) << what << ": the compiled JSON writer differs";
+    // A copy by what was written (as the summary keeps each cell's records) reads as the record.
+    const umts_field_desc* f = blockField(id);
+    ASSERT_NE(f, nullptr);
+    uint8_t* copy = reinterpret_cast<uint8_t*>(copied) + f->offset;
+    umts_record_copy_written(f->elem_desc, copy, reinterpret_cast<const uint8_t*>(own) + f->offset);
+    EXPECT_EQ(std::memcmp(copy, reinterpret_cast<const uint8_t*>(result) + f->offset, f->size), 0)
+        << what << ": the copy by what was written differs";
     EXPECT_TRUE(sameBytes()) << what << ": the records hold the same values but not the same bytes, from offset "
                              << firstDifference() << " of the set";
   }
@@ -123,6 +139,7 @@ class LibrarySetClearing : public FrameTest {
     expectSameRecord(e.id, what);
   }
   umts_sib_set* own = umts_sib_set_alloc();
+  umts_sib_set* copied = static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)));
 };
 
 TEST_F(LibrarySetClearing, RandomEncodingsInTurnReadAsInTheCallersSet) {
