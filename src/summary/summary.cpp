@@ -4,6 +4,9 @@
  */
 #include "summary.h"
 
+#include <sys/mman.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
@@ -24,15 +27,30 @@ const SummaryNode* SummaryNode::find(const std::string& key) const {
 
 /* ---- Records of a cell ------------------------------------------------------------------ */
 
-CellRecords::CellRecords(std::string label)
-    : label_(std::move(label)), records_(static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)))) {
+namespace {
+
+/* A zeroed set of its own pages, which stay untouched until copies write them: the SIB5
+   record alone is 28 MB, of which a cell fills a few kilobytes. */
+size_t set_pages() {
+  const size_t page = static_cast<size_t>(sysconf(_SC_PAGESIZE));
+  return (sizeof(umts_sib_set) + page - 1) / page * page;
+}
+
+umts_sib_set* zeroed_set() {
+  void* p = mmap(nullptr, set_pages(), PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+  return p == MAP_FAILED ? nullptr : static_cast<umts_sib_set*>(p);
+}
+
+}  // namespace
+
+CellRecords::CellRecords(std::string label) : label_(std::move(label)), records_(zeroed_set()) {
   if (records_ == nullptr) {
     std::fprintf(stderr, "sibdump: out of memory\n");
     std::exit(2);
   }
 }
 
-CellRecords::~CellRecords() { std::free(records_); }
+CellRecords::~CellRecords() { munmap(records_, set_pages()); }
 
 void CellRecords::take(const umts_sib_set* set) {
   const uint32_t present = set->presence_bitmask;
