@@ -1,7 +1,7 @@
 /*
  * Clearing a record by what was written into it, read from its description.
  *
- * The records reserve every list at its bound: the SIB5 record is 4.4 MB, of which a cell's
+ * The records reserve every list at its bound: the SIB5 record is 28 MB, of which a cell's
  * SIB5 fills a few kilobytes. Writing zeros over the whole record before each conversion
  * costs far more than the conversion. Walked by its description, a record is cleared in the
  * parts that its counts and tags say are in use: a list up to its count, a union in the
@@ -140,15 +140,21 @@ class Plans {
 
 void clear(const Plan* plan, uint8_t* record, uint32_t size);
 
+/* The entries of a list that its count says are in use, within its bound. A list whose bound
+   its count cannot hold (256 under 8 bits: tfci-Range, the common E-RNTI groups) reads 0 when
+   full: such a count of 0 takes the whole list. */
+uint64_t entries_in_use(const Walk& w, const uint8_t* base) {
+  uint64_t count = umts_record_load_unsigned(base + w.aux_offset, w.aux_size);
+  if (count > w.dim) count = w.dim;
+  if (count == 0 && w.aux_size < sizeof count && w.dim > (uint64_t{1} << (8 * w.aux_size)) - 1) count = w.dim;
+  return count;
+}
+
 void clear_walk(const Walk& w, uint8_t* base) {
   uint8_t* p = base + w.offset;
   switch (w.kind) {
     case Walk::kList: {
-      uint64_t count = umts_record_load_unsigned(base + w.aux_offset, w.aux_size);
-      if (count > w.dim) count = w.dim;
-      /* A list whose bound its count cannot hold (256 under 8 bits: tfci-Range, the common
-         E-RNTI groups) reads 0 when full: such a count of 0 clears the whole list. */
-      if (count == 0 && w.aux_size < sizeof count && w.dim > (uint64_t{1} << (8 * w.aux_size)) - 1) count = w.dim;
+      const uint64_t count = entries_in_use(w, base);
       if (w.elem == nullptr) std::memset(p, 0, count * w.elem_size);
       else
         for (uint64_t i = 0; i < count; i++) clear(w.elem, p + i * w.elem_size, 0);
@@ -186,9 +192,7 @@ void copy_walk(const Walk& w, uint8_t* dst_base, const uint8_t* src_base) {
   const uint8_t* src = src_base + w.offset;
   switch (w.kind) {
     case Walk::kList: {
-      uint64_t count = umts_record_load_unsigned(src_base + w.aux_offset, w.aux_size);
-      if (count > w.dim) count = w.dim;
-      if (count == 0 && w.aux_size < sizeof count && w.dim > (uint64_t{1} << (8 * w.aux_size)) - 1) count = w.dim;
+      const uint64_t count = entries_in_use(w, src_base);
       if (w.elem == nullptr) std::memcpy(dst, src, count * w.elem_size);
       else
         for (uint64_t i = 0; i < count; i++) copy(w.elem, dst + i * w.elem_size, src + i * w.elem_size, 0);
