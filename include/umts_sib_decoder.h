@@ -149,7 +149,7 @@ void umts_sib_print_flush(void);
 /* A zeroed umts_sib_set in whole pages of its own, or null when memory is short. The caller
    may equally allocate the set itself; the records read the same either way. Before a
    conversion fills a record, the record is cleared: in the caller's own memory by writing
-   zeros over all of it (4.4 MB for SIB5), in a set from here by zeroing only what the
+   zeros over all of it (28 MB for SIB5), in a set from here by zeroing only what the
    conversion before wrote (each list up to its count, each choice in its alternative), which
    costs what the cell sent, not the record's size. So write nothing into a set from here
    yourself (presence_bitmask aside): what a conversion did not write would not be cleared.

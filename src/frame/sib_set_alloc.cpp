@@ -7,7 +7,7 @@
  * memory from the caller's own. Only conversions write into it (the set is the library's
  * result; a host reads it), and each conversion writes within what its record's counts and
  * tags show. So a record there is cleared by walking its description and zeroing what the
- * last conversion left: the parts in use, kilobytes for a SIB5 record of 4.4 MB. Anywhere
+ * last conversion left: the parts in use, kilobytes for a SIB5 record of 28 MB. Anywhere
  * else the record is written with zeros whole.
  */
 #include <sys/mman.h>
