@@ -51,6 +51,7 @@ import argparse
 import csv
 import hashlib
 import html
+import importlib.util
 import io
 import json
 import os
@@ -193,13 +194,14 @@ def decode_file(path: str, sibdump: Optional[str] = None) -> dict:
         st = os.stat(path)
         result["size"], result["mtime"] = st.st_size, st.st_mtime
         program = find_sibdump(sibdump)
-        run = subprocess.run([program, "--summary=json", path], stdin=subprocess.DEVNULL,
-                             capture_output=True)
+        run = subprocess.Popen([program, "--summary=json", path], stdin=subprocess.DEVNULL,
+                               stdout=subprocess.PIPE, stderr=subprocess.PIPE)
     except OSError as err:  # no such file, no permission, no sibdump
         result["error"] = f"cannot read: {err.strerror}" if err.strerror else str(err)
         return result
-    result["first_time"], result["last_time"] = capture_times(path)
-    stderr = run.stderr.decode("utf-8", "replace").splitlines()
+    result["first_time"], result["last_time"] = capture_times(path)  # while sibdump decodes
+    stdout, stderr = run.communicate()
+    stderr = stderr.decode("utf-8", "replace").splitlines()
     messages = [line for line in stderr if line.startswith("sibdump: ") and not _COUNT_LINE.match(line)]
     for line in stderr:
         m = _TOTAL_CAPTURE.match(line)
@@ -208,7 +210,7 @@ def decode_file(path: str, sibdump: Optional[str] = None) -> dict:
         m = _TOTAL_TEXT.match(line)
         if m:
             result["blocks"] = int(m.group(1))
-    for line in run.stdout.decode("utf-8", "replace").splitlines():
+    for line in stdout.decode("utf-8", "replace").splitlines():
         try:
             summary = json.loads(line)
         except ValueError:
@@ -597,8 +599,9 @@ def run(paths: List[str], out: str = DEFAULT_OUT, scheduler: Optional[str] = Non
     from dask.distributed import as_completed
     out_dir = Path(out)
     results_dir = out_dir / "results"
-    if results_dir.exists() and not resume:
-        shutil.rmtree(results_dir)
+    for old in (results_dir, out_dir / "pages"):
+        if old.exists() and not resume:
+            shutil.rmtree(old)
     results_dir.mkdir(parents=True, exist_ok=True)
     files = find_files(paths)
     try:
@@ -676,17 +679,15 @@ def main(argv: Optional[List[str]] = None) -> int:
                     "neighbours.csv, errors.csv, index.html).")
     parser.add_argument("paths", nargs="+", metavar="PATH", help="a capture (pcap, pcapng, hex text) or a folder of them")
     parser.add_argument("--scheduler", metavar="ADDRESS", help="a running cluster's scheduler, e.g. tcp://127.0.0.1:8786")
-    parser.add_argument("--workers", type=int, default=2, metavar="N",
-                        help="worker processes of the local cluster (default 2; not with --scheduler)")
+    parser.add_argument("--workers", type=int, default=os.cpu_count() or 2, metavar="N",
+                        help="worker processes of the local cluster (default: one per processor; not with --scheduler)")
     parser.add_argument("--out", default=DEFAULT_OUT, metavar="DIR", help=f"output folder (default ./{DEFAULT_OUT})")
     parser.add_argument("--quiet", action="store_true", help="no progress bar on standard error")
     parser.add_argument("--resume", action="store_true", help="skip the files whose results are in DIR already")
     args = parser.parse_args(argv)
     if args.workers < 1:
         parser.error("--workers takes 1 or more")
-    try:
-        import dask.distributed  # noqa: F401 (only whether it is there)
-    except ImportError:
+    if importlib.util.find_spec("dask") is None or importlib.util.find_spec("distributed") is None:
         print("archive: Dask is not installed (Debian: apt-get install python3-dask python3-distributed)", file=sys.stderr)
         return 2
     cells, errors = run(args.paths, args.out, args.scheduler, args.workers, args.quiet, args.resume)
