@@ -497,7 +497,7 @@ document.querySelectorAll('th').forEach(function (th, column) {
     rows.forEach(function (r) { body.appendChild(r); });
   });
 });
-document.body.setAttribute('data-rows', String(document.querySelectorAll('tbody tr').length));
+document.body.setAttribute('data-rows', String(document.querySelectorAll('#cells tbody tr').length));
 """
 
 
@@ -513,7 +513,7 @@ def index_html(cells: List[dict], errors: List[Tuple[str, str]]) -> str:
         rows.append("<tr>" + "".join(tds) + "</tr>")
     bad = "".join(f"<tr><td>{e(f)}</td><td>{e(r)}</td></tr>" for f, r in sorted(errors))
     return ("<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\"><title>Cells of the archive</title>"
-            "<style>body{font-family:sans-serif}table{border-collapse:collapse}td,th{border:1px solid #bbb;"
+            "<style>body{font-family:sans-serif}table{border-collapse:collapse}td,th{border:1px solid #bbb;white-space:nowrap;"
             "padding:2px 6px;font-size:13px}th{cursor:pointer;background:#eee}</style></head><body>"
             f"<h1>Cells of the archive</h1><p>{len(cells)} cells; click a column's head to sort by it, a cell's "
             "key for the summary of its latest configuration.</p>"
