@@ -1,0 +1,60 @@
+"""The archive of captures on a local Dask cluster: files/s and blocks/s with 1 and 2 workers,
+and the cluster's cost per task against decoding the same files in one process.
+
+    python3 bench/archive_bench.py [--files 200] [--cycles 10] [--dir DIR]
+
+Writes DIR (default: a temporary folder) with FILES captures of 8 cells each (mkarchive.py,
+the project's capture writer; each cell's cycle CYCLES times), then times:
+  one process   decode_file() of every file in a loop, the archive's task without a cluster
+  1 worker      the archive's tasks on a local cluster of one worker process
+  2 workers     the same with two
+The cluster times run from the first task submitted to the last result received; starting the
+cluster is shown apart. Needs the build tree's sibdump and mkcaptures (or SIBDUMP, MKCAPTURES).
+"""
+import argparse
+import os
+import sys
+import tempfile
+import time
+from pathlib import Path
+
+REPO = Path(__file__).resolve().parents[1]
+sys.path.insert(0, str(REPO / "python"))
+sys.path.insert(0, str(REPO / "tools" / "sibdump"))
+import mkarchive  # noqa: E402
+os.environ.setdefault("SIBDUMP", str(mkarchive.SIBDUMP))
+from sibdecoder_umts import archive  # noqa: E402
+
+
+def main():
+    p = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    p.add_argument("--files", type=int, default=200)
+    p.add_argument("--cycles", type=int, default=10)
+    p.add_argument("--dir")
+    args = p.parse_args()
+    with tempfile.TemporaryDirectory() as tmp:
+        folder = Path(args.dir or tmp) / "captures"
+        if not folder.is_dir():
+            mkarchive.bench_folder(folder, args.files, args.cycles)
+        files = archive.find_files([str(folder)])
+        print(f"{os.cpu_count()} processors, load average {os.getloadavg()[0]:.1f} before the runs")
+        start = time.perf_counter()
+        blocks = sum(archive.decode_file(f)["blocks"] for f in files)
+        alone = time.perf_counter() - start
+        print(f"{len(files)} files of 8 cells, {blocks} blocks ({blocks // len(files)} per file)")
+        print(f"{'':12} {'seconds':>8} {'files/s':>8} {'blocks/s':>9} {'speed-up':>8}  cluster start")
+        print(f"{'one process':12} {alone:8.2f} {len(files) / alone:8.1f} {blocks / alone:9.0f} {'':8}")
+        seconds = {}
+        for workers in (1, 2):
+            stats = {}
+            archive.run([str(folder)], out=str(Path(tmp) / f"out{workers}"), workers=workers, quiet=True, stats=stats)
+            seconds[workers] = stats["tasks_seconds"]
+            print(f"{workers} worker{'s' if workers > 1 else ' '}    {seconds[workers]:8.2f} "
+                  f"{len(files) / seconds[workers]:8.1f} {stats['blocks'] / seconds[workers]:9.0f} "
+                  f"{seconds[1] / seconds[workers]:7.2f}x  {stats['cluster_start']:.2f} s")
+        print(f"cluster cost per task (1 worker against one process): {(seconds[1] - alone) / len(files) * 1000:.1f} ms")
+        print(f"load average {os.getloadavg()[0]:.1f} after the runs")
+
+
+if __name__ == "__main__":
+    main()
