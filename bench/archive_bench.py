@@ -9,10 +9,13 @@ the project's capture writer; each cell's cycle CYCLES times), then times:
   1 worker      the archive's tasks on a local cluster of one worker process
   2 workers     the same with two
 The cluster times run from the first task submitted to the last result received; starting the
-cluster is shown apart. Needs the build tree's sibdump and mkcaptures (or SIBDUMP, MKCAPTURES).
+cluster is shown apart. Processor time per file counts this process and its children (the
+sibdump runs, the cluster's worker processes), less that of a run of no file on a cluster of
+the same size; it holds however busy the machine is, where the times do not. Needs the build tree's sibdump and mkcaptures (or SIBDUMP, MKCAPTURES).
 """
 import argparse
 import os
+import resource
 import sys
 import tempfile
 import time
@@ -24,6 +27,13 @@ sys.path.insert(0, str(REPO / "tools" / "sibdump"))
 import mkarchive  # noqa: E402
 os.environ.setdefault("SIBDUMP", str(mkarchive.SIBDUMP))
 from sibdecoder_umts import archive  # noqa: E402
+
+
+def cpu_seconds():
+    """Processor time of this process and of its children that have ended (the cluster's
+    worker processes once it is closed, the sibdump runs)."""
+    return sum(r.ru_utime + r.ru_stime for r in (resource.getrusage(resource.RUSAGE_SELF),
+                                                  resource.getrusage(resource.RUSAGE_CHILDREN)))
 
 
 def main():
@@ -38,21 +48,31 @@ def main():
             mkarchive.bench_folder(folder, args.files, args.cycles)
         files = archive.find_files([str(folder)])
         print(f"{os.cpu_count()} processors, load average {os.getloadavg()[0]:.1f} before the runs")
-        start = time.perf_counter()
+        start, cpu = time.perf_counter(), cpu_seconds()
         blocks = sum(archive.decode_file(f)["blocks"] for f in files)
         alone = time.perf_counter() - start
+        cpu_alone = cpu_seconds() - cpu
         print(f"{len(files)} files of 8 cells, {blocks} blocks ({blocks // len(files)} per file)")
-        print(f"{'':12} {'seconds':>8} {'files/s':>8} {'blocks/s':>9} {'speed-up':>8}  cluster start")
-        print(f"{'one process':12} {alone:8.2f} {len(files) / alone:8.1f} {blocks / alone:9.0f} {'':8}")
-        seconds = {}
+        print(f"{'':12} {'seconds':>8} {'files/s':>8} {'blocks/s':>9} {'speed-up':>8} {'CPU ms/file':>11}  cluster start")
+        print(f"{'one process':12} {alone:8.2f} {len(files) / alone:8.1f} {blocks / alone:9.0f} {'':8} "
+              f"{cpu_alone / len(files) * 1000:11.1f}")
+        seconds, cpu_per_file = {}, {}
         for workers in (1, 2):
+            cpu = cpu_seconds()  # the cluster's start and end alone: a run of no file
+            (Path(tmp) / "empty").mkdir(exist_ok=True)
+            archive.run([str(Path(tmp) / "empty")], out=str(Path(tmp) / "out0"), workers=workers, quiet=True)
+            fixed = cpu_seconds() - cpu
             stats = {}
+            cpu = cpu_seconds()
             archive.run([str(folder)], out=str(Path(tmp) / f"out{workers}"), workers=workers, quiet=True, stats=stats)
             seconds[workers] = stats["tasks_seconds"]
+            cpu_per_file[workers] = (cpu_seconds() - cpu - fixed) / len(files)
             print(f"{workers} worker{'s' if workers > 1 else ' '}    {seconds[workers]:8.2f} "
                   f"{len(files) / seconds[workers]:8.1f} {stats['blocks'] / seconds[workers]:9.0f} "
-                  f"{seconds[1] / seconds[workers]:7.2f}x  {stats['cluster_start']:.2f} s")
-        print(f"cluster cost per task (1 worker against one process): {(seconds[1] - alone) / len(files) * 1000:.1f} ms")
+                  f"{seconds[1] / seconds[workers]:7.2f}x {cpu_per_file[workers] * 1000:11.1f}  "
+                  f"{stats['cluster_start']:.2f} s")
+        print(f"cluster cost per task, 1 worker against one process: {(seconds[1] - alone) / len(files) * 1000:.1f} ms "
+              f"of time, {(cpu_per_file[1] - cpu_alone / len(files)) * 1000:.1f} ms of processor")
         print(f"load average {os.getloadavg()[0]:.1f} after the runs")
 
 
