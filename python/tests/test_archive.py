@@ -111,6 +111,22 @@ def test_resume_skips_the_files_done(runs):
         assert (out / name).read_bytes() == (root / "two" / name).read_bytes(), name
 
 
+def test_a_lost_worker_has_its_task_run_again(runs):
+    """The first sibdump run kills its worker process (SIGKILL to its parent): the cluster
+    runs the task again on the worker that replaces it, and nothing is lost."""
+    root = runs[0]
+    killer = root / "sibdump_that_kills_its_worker"
+    killer.write_text(f"#!/bin/sh\nif mkdir '{root}/killed' 2>/dev/null; then kill -9 $PPID; exit 1; fi\n"
+                      f"exec '{mkarchive.SIBDUMP}' \"$@\"\n")
+    killer.chmod(0o755)
+    env = dict(os.environ, PYTHONPATH=str(PYTHON_DIR), SIBDUMP=str(killer))
+    subprocess.run([sys.executable, "-m", "sibdecoder_umts.archive", str(root / "captures"), "--workers", "2",
+                    "--out", str(root / "lost"), "--quiet"], env=env, check=True)
+    assert (root / "killed").is_dir()
+    for name in TABLES:
+        assert (root / "lost" / name).read_bytes() == (root / "two" / name).read_bytes(), name
+
+
 def test_index_in_a_browser_links_each_cell_to_its_page(runs):
     chromium = os.environ.get("UMTS_CHROMIUM", "/usr/bin/chromium")
     if not os.path.exists(chromium):
