@@ -336,7 +336,7 @@ def merge(results: Iterable[dict]) -> List[dict]:
                     "key": key_text(key), "plmn": key[0], "lac": key[1], "cell_identity": key[2], "uarfcn": key[3],
                     "files": [], "first_seen": None, "last_seen": None, "configurations": [], "changes": [],
                 }
-            if result["file"] not in cell["files"]:
+            if cell["files"][-1:] != [result["file"]]:  # the results come file by file
                 cell["files"].append(result["file"])
             for t in (result.get("first_time"), result.get("last_time")):
                 if t is not None:
@@ -367,28 +367,30 @@ def merge(results: Iterable[dict]) -> List[dict]:
 def _infer_codes(cells: List[dict]) -> None:
     """Each cell's own primary scrambling code, where the neighbour lists leave one choice
     (see the module's documentation)."""
-    for c in cells:
-        c["scrambling_code"] = None
-    announced: List[Tuple[int, int, int]] = []  # (announcing cell, uarfcn, code)
+    announcers: Dict[int, Dict[int, set]] = {}  # uarfcn -> code -> the cells announcing it
     own_lists: List[set] = []  # each cell's intra-frequency codes
     for i, c in enumerate(cells):
+        c["scrambling_code"] = None
         own_lists.append(set())
         for n in c["neighbours"]:
-            if n["kind"] in ("intra", "inter") and isinstance(n.get("uarfcn"), int) and isinstance(n.get("scrambling_code"), int):
-                announced.append((i, n["uarfcn"], n["scrambling_code"]))
+            f, code = n.get("uarfcn"), n.get("scrambling_code")
+            if n["kind"] in ("intra", "inter") and isinstance(f, int) and isinstance(code, int):
+                announcers.setdefault(f, {}).setdefault(code, set()).add(i)
                 if n["kind"] == "intra":
-                    own_lists[i].add(n["scrambling_code"])
+                    own_lists[i].add(code)
+    taken: Dict[int, set] = {}  # uarfcn -> the codes given to cells on it
     changed = True
     while changed:
         changed = False
         for i, c in enumerate(cells):
-            if c["scrambling_code"] is not None or c["uarfcn"] is None:
+            f = c["uarfcn"]
+            if c["scrambling_code"] is not None or f is None:
                 continue
-            own = own_lists[i]
-            taken = {d["scrambling_code"] for d in cells if d["uarfcn"] == c["uarfcn"] and d["scrambling_code"] is not None}
-            choices = {s for j, f, s in announced if j != i and f == c["uarfcn"]} - own - taken
+            choices = [code for code, by in announcers.get(f, {}).items()
+                       if by - {i} and code not in own_lists[i] and code not in taken.get(f, ())]
             if len(choices) == 1:
-                c["scrambling_code"] = choices.pop()
+                c["scrambling_code"] = choices[0]
+                taken.setdefault(f, set()).add(choices[0])
                 changed = True
 
 
