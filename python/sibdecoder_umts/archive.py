@@ -324,44 +324,71 @@ def _order(result: dict) -> Tuple:
     return (t is None, t or 0.0, result["file"])
 
 
-def merge(results: Iterable[dict]) -> List[dict]:
-    """One record per cell from the tasks' results (any order: the merge sorts them)."""
-    cells: Dict[Tuple, dict] = {}
-    for result in sorted(results, key=_order):
+class Merger:
+    """Cells across files, fed one task result at a time in any order: of each cell it keeps
+    the files, the time span, each configuration's first sighting, a short record of every
+    sighting (for the changes) and the latest summary only, so that an archive of many files
+    is merged in little memory."""
+
+    def __init__(self):
+        self._cells: Dict[Tuple, dict] = {}
+        self._tags: Dict[str, int] = {}  # configurations by their JSON, numbered
+
+    def add(self, result: dict) -> None:
+        order = _order(result)
         for index, summary in enumerate(result.get("summaries", [])):
             key = cell_key(summary)
-            cell = cells.get(key)
+            cell = self._cells.get(key)
             if cell is None:
-                cell = cells[key] = {
-                    "key": key_text(key), "plmn": key[0], "lac": key[1], "cell_identity": key[2], "uarfcn": key[3],
-                    "files": [], "first_seen": None, "last_seen": None, "configurations": [], "changes": [],
-                }
-            if cell["files"][-1:] != [result["file"]]:  # the results come file by file
-                cell["files"].append(result["file"])
-            for t in (result.get("first_time"), result.get("last_time")):
-                if t is not None:
-                    cell["first_seen"] = t if cell["first_seen"] is None else min(cell["first_seen"], t)
-                    cell["last_seen"] = t if cell["last_seen"] is None else max(cell["last_seen"], t)
-            tags = value_tags(summary)
-            known = next((c for c in cell["configurations"] if c["value_tags"] == tags), None)
-            if known is None:
-                known = {"value_tags": tags, "first_seen": result.get("first_time"), "file": result["file"]}
-                if cell["configurations"]:
-                    previous = cell["latest_tags"]
-                    cell["changes"].append({"time": result.get("first_time"), "file": result["file"],
-                                            "from": tags_text(previous), "to": tags_text(tags)})
-                cell["configurations"].append(known)
-            cell["latest_tags"] = tags
-            cell["latest"] = summary
-            cell["latest_file"] = result["file"]
-            cell["latest_index"] = index
-    out = sorted(cells.values(), key=lambda c: c["key"])
-    for c in out:
-        del c["latest_tags"]
-        c["neighbours"] = neighbours_of(c["latest"])
-    _infer_codes(out)
-    _link(out)
-    return out
+                cell = self._cells[key] = {"key": key, "files": set(), "times": [], "seen": [], "first": {},
+                                           "latest": None}
+            cell["files"].add((order, result["file"]))
+            cell["times"] += [t for t in (result.get("first_time"), result.get("last_time")) if t is not None]
+            cell["times"] = [min(cell["times"]), max(cell["times"])] if cell["times"] else []
+            tags = json.dumps(value_tags(summary))  # in the order of the schedule
+            number = self._tags.setdefault(tags, len(self._tags))
+            at = (order, index)
+            cell["seen"].append((at, number))
+            if number not in cell["first"] or at < cell["first"][number][0]:
+                cell["first"][number] = (at, result.get("first_time"), result["file"])
+            if cell["latest"] is None or at > cell["latest"][0]:
+                cell["latest"] = (at, summary, result["file"])
+
+    def cells(self) -> List[dict]:
+        """The merged records, sorted by key, with the neighbour links."""
+        tags_of = {n: json.loads(t) for t, n in self._tags.items()}
+        out = []
+        for key, m in self._cells.items():
+            (_, index), summary, latest_file = m["latest"]
+            seen = sorted(m["seen"])
+            firsts = sorted((first, number) for number, first in m["first"].items())
+            configurations, changes = [], []
+            for (at, first_time, file), number in firsts:
+                configurations.append({"value_tags": tags_of[number], "first_seen": first_time, "file": file})
+                before = [n for a, n in seen if a < at]
+                if before:
+                    changes.append({"time": first_time, "file": file, "from": tags_text(tags_of[before[-1]]),
+                                    "to": tags_text(tags_of[number])})
+            out.append({
+                "key": key_text(key), "plmn": key[0], "lac": key[1], "cell_identity": key[2], "uarfcn": key[3],
+                "files": [f for _, f in sorted(m["files"])],
+                "first_seen": m["times"][0] if m["times"] else None, "last_seen": m["times"][1] if m["times"] else None,
+                "configurations": configurations, "changes": changes,
+                "latest": summary, "latest_file": latest_file, "latest_index": index,
+                "neighbours": neighbours_of(summary),
+            })
+        out.sort(key=lambda c: c["key"])
+        _infer_codes(out)
+        _link(out)
+        return out
+
+
+def merge(results: Iterable[dict]) -> List[dict]:
+    """One record per cell from the tasks' results (any order)."""
+    merger = Merger()
+    for result in results:
+        merger.add(result)
+    return merger.cells()
 
 
 def _infer_codes(cells: List[dict]) -> None:
@@ -610,7 +637,16 @@ def run(paths: List[str], out: str = DEFAULT_OUT, scheduler: Optional[str] = Non
         sibdump = find_sibdump()
     except FileNotFoundError:
         sibdump = None  # each worker looks for it on its own
-    results: Dict[str, dict] = {}
+    merger = Merger()
+    errors: List[Tuple[str, str]] = []
+    progress = Progress(len(files), quiet)
+
+    def take(r: dict) -> None:  # each result is merged as it comes, and not kept
+        merger.add(r)
+        if r.get("error"):
+            errors.append((r["file"], r["error"]))
+        progress.add(r.get("blocks", 0))
+
     todo = []
     for path in files:
         kept = results_dir / f"{file_id(path)}.json"
@@ -619,15 +655,11 @@ def run(paths: List[str], out: str = DEFAULT_OUT, scheduler: Optional[str] = Non
                 r = json.loads(kept.read_text(encoding="utf-8"))
                 st = os.stat(path)
                 if r.get("file") == path and r.get("size") == st.st_size and r.get("mtime") == st.st_mtime:
-                    results[path] = r
+                    take(r)
                     continue
             except (OSError, ValueError):
                 pass
         todo.append(path)
-    errors: List[Tuple[str, str]] = []
-    progress = Progress(len(files), quiet)
-    for r in results.values():
-        progress.add(r.get("blocks", 0))
     _ship_by_value()
     started = time.perf_counter()
     client, cluster = _client(scheduler, workers)
@@ -648,14 +680,12 @@ def run(paths: List[str], out: str = DEFAULT_OUT, scheduler: Optional[str] = Non
             tmp = results_dir / f".{file_id(path)}.json.part"
             tmp.write_text(json.dumps(r), encoding="utf-8")
             tmp.replace(results_dir / f"{file_id(path)}.json")
-            results[path] = r
-            progress.add(r.get("blocks", 0))
+            take(r)
         progress.end()
         if stats is not None:
             stats["tasks_seconds"] = time.perf_counter() - started
             stats["blocks"] = progress.blocks
-        errors += [(r["file"], r["error"]) for r in results.values() if r.get("error")]
-        cells = merge(results.values())
+        cells = merger.cells()
         pages_dir = out_dir / "pages"
         pages_dir.mkdir(exist_ok=True)
         latest = sorted({c["latest_file"] for c in cells})
