@@ -36,6 +36,22 @@ def cpu_seconds():
                                                   resource.getrusage(resource.RUSAGE_CHILDREN)))
 
 
+def empty_task(x):
+    return x
+
+
+def dask_cost_per_task(count):
+    """Processor seconds of the client and the one worker per task that does nothing."""
+    import logging
+    from dask.distributed import Client, LocalCluster
+    with LocalCluster(n_workers=1, threads_per_worker=1, processes=True, dashboard_address=None,
+                      silence_logs=logging.ERROR) as cluster, Client(cluster) as client:
+        before, mine = client.run(cpu_seconds), cpu_seconds()
+        client.gather([client.submit(empty_task, i, pure=False) for i in range(count)])
+        after = client.run(cpu_seconds)
+        return (cpu_seconds() - mine + sum(after[w] - before[w] for w in after)) / count
+
+
 def main():
     p = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     p.add_argument("--files", type=int, default=200)
@@ -73,6 +89,8 @@ def main():
                   f"{stats['cluster_start']:.2f} s")
         print(f"cluster cost per task, 1 worker against one process: {(seconds[1] - alone) / len(files) * 1000:.1f} ms "
               f"of time, {(cpu_per_file[1] - cpu_alone / len(files)) * 1000:.1f} ms of processor")
+        print(f"Dask's own cost per task (tasks that do nothing, client and worker): "
+              f"{dask_cost_per_task(len(files)) * 1000:.1f} ms of processor")
         print(f"load average {os.getloadavg()[0]:.1f} after the runs")
 
 
