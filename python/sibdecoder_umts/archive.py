@@ -457,7 +457,7 @@ CELL_COLUMNS = [
     ("last_seen (UTC)", lambda c: _time_text(c["last_seen"])),
     ("files", lambda c: len(c["files"])),
     ("configurations", lambda c: len(c["configurations"])),
-    ("value_tags", lambda c: tags_text(c["configurations"][-1]["value_tags"]) if c["configurations"] else ""),
+    ("value_tags", lambda c: tags_text(value_tags(c["latest"]))),
     ("cell_barred", lambda c: _value(c["latest"].get("access", {}).get("cell_barred"))),
     ("q_rxlevmin (dBm)", lambda c: _value(c["latest"].get("selection", {}).get("q_rxlevmin"))),
     ("q_qualmin (dB)", lambda c: _value(c["latest"].get("selection", {}).get("q_qualmin"))),
