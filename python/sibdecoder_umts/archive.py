@@ -25,13 +25,17 @@ and parses one JSON line per cell and configuration.
   threads side by side, sharing nothing.
 - The module stays installable: standard library and Dask; sibdump is installed with the
   library (bin/ of the prefix) and found as below. The price is one process start per file,
-  which the benchmark (bench/archive_bench.py) measures as the per-task overhead.
+  some 30 ms of processor time (loading the library), where a reader in Python would pay
+  several microseconds per block through ctypes instead, for thousands of blocks a file
+  (bench/archive_bench.py measures a task and the cluster's cost beside it).
 
 sibdump is looked for in this order: the environment variable SIBDUMP; the build tree, when
 the module is used from the source tree (build/tools/sibdump/sibdump); the bin directory of
-the installation that this package belongs to; the PATH. A worker of a running cluster looks
-for it the same way on its own machine (its environment), and each file must be readable
-under the same path there.
+the installation that this package belongs to; the PATH. A worker takes the one the client
+found when that file exists where the worker runs, and looks for its own the same way
+otherwise (its environment); each capture must be readable under the same path there. The
+tasks carry this module's functions with them (cloudpickle by value), so the workers of a
+running cluster need Dask and sibdump, not this package.
 
 A capture's times are those of its frames (UTC); the summary has none per cell, so a cell's
 first and last time are those of the first and last frame of the files it was heard in, and a
@@ -41,9 +45,13 @@ hex text have no times: their cells show none, and they order after the captures
 A cell's own primary scrambling code is not broadcast on its BCH. To link announced
 neighbours to cells of the table, the archive infers it from the neighbour lists: a cell X on
 UARFCN f takes the code s when s is the only code announced on f by the other cells (their
-intra-frequency lists for cells on f, their inter-frequency lists otherwise) that X itself
-does not announce and that no other cell on f has taken; this repeats until nothing changes.
-cells.csv says "inferred" beside such a code, and a cell whose code stays open links nothing.
+intra-frequency lists for cells on f, their inter-frequency lists otherwise) that is not in
+X's own intra-frequency list and that no other cell on f has taken; this repeats until
+nothing changes. The column says "inferred"; a cell whose code stays open links nothing.
+
+The results are merged as they come (class Merger), keeping of each cell its files, time
+span, the first sighting of each configuration, a short record of each sighting and the
+latest summary, so that the client's memory grows with the cells, not with the files.
 """
 from __future__ import annotations
 
