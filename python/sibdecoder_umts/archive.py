@@ -51,7 +51,7 @@ nothing changes. The column says "inferred"; a cell whose code stays open links 
 
 The results are merged as they come (class Merger), keeping of each cell its files, time
 span, the first sighting of each configuration, a short record of each sighting and the
-latest summary, so that the client's memory grows with the cells, not with the files.
+latest summary: the client keeps a few numbers per sighting, not the summaries of every file.
 """
 from __future__ import annotations
 
