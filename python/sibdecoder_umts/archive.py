@@ -582,13 +582,17 @@ class Progress:
     def __init__(self, total: int, quiet: bool):
         self.total, self.quiet = total, quiet
         self.done = self.blocks = 0
+        self.kept = 0  # files done in an earlier run (--resume): not in the rates
         self.start = time.perf_counter()
         self.shown = 0.0
 
-    def add(self, blocks: int, force: bool = False) -> None:
+    def add(self, blocks: int, kept: bool = False) -> None:
         self.done += 1
-        self.blocks += blocks
-        self.show(force or self.done == self.total)
+        if kept:
+            self.kept += 1
+        else:
+            self.blocks += blocks
+        self.show(self.done == self.total)
 
     def show(self, force: bool = False) -> None:
         now = time.perf_counter()
@@ -599,7 +603,8 @@ class Progress:
         width = 30
         filled = width * self.done // self.total if self.total else width
         sys.stderr.write(f"\r[{'#' * filled}{'.' * (width - filled)}] {self.done}/{self.total} tasks, "
-                         f"{self.done / seconds:.1f} files/s, {self.blocks / seconds:.0f} blocks/s")
+                         f"{(self.done - self.kept) / seconds:.1f} files/s, {self.blocks / seconds:.0f} blocks/s"
+                         + (f" ({self.kept} done before)" if self.kept else ""))
         sys.stderr.flush()
 
     def end(self) -> None:
@@ -649,11 +654,11 @@ def run(paths: List[str], out: str = DEFAULT_OUT, scheduler: Optional[str] = Non
     errors: List[Tuple[str, str]] = []
     progress = Progress(len(files), quiet)
 
-    def take(r: dict) -> None:  # each result is merged as it comes, and not kept
+    def take(r: dict, kept: bool = False) -> None:  # each result is merged as it comes, and not kept
         merger.add(r)
         if r.get("error"):
             errors.append((r["file"], r["error"]))
-        progress.add(r.get("blocks", 0))
+        progress.add(r.get("blocks", 0), kept)
 
     todo = []
     for path in files:
@@ -663,7 +668,7 @@ def run(paths: List[str], out: str = DEFAULT_OUT, scheduler: Optional[str] = Non
                 r = json.loads(kept.read_text(encoding="utf-8"))
                 st = os.stat(path)
                 if r.get("file") == path and r.get("size") == st.st_size and r.get("mtime") == st.st_mtime:
-                    take(r)
+                    take(r, kept=True)
                     continue
             except (OSError, ValueError):
                 pass
