@@ -17,15 +17,17 @@ variable SIBDECODER_UMTS_LIBRARY; the build tree (<repository>/build) when the m
 from the source tree; the library directory of the installation that this package belongs to;
 the system's library search (ctypes.util.find_library, then the dynamic loader's own search).
 
-The library keeps the segments of each SIB in one process-wide global, so that every Decoder
-of a process (and any other user of the same library file) shares the collection of segments;
-a Decoder holds only its own result record. Calls into a library are serialised by a lock.
+Each Decoder owns a decoder instance of the library: the segments of the SIBs it collects,
+what its cell's MIB, SB1 and SB2 scheduled, its result record and its summary, shared with no
+other Decoder. Decoders are independent: one Decoder per cell, any number per process. ctypes
+releases the interpreter lock while the library works, so Decoders on different threads
+decode in parallel (a Decoder is to be used by one thread at a time); a Decoder made in a
+worker process (multiprocessing, concurrent.futures) shares nothing with its parent.
 
-The library prints each decoded value as ASN.1 text through its print stream; the module sends
-that text to os.devnull when it loads a library, as sibdump does (set_asn1_text() chooses
-another file, or None for standard output). Its few messages about bad transport blocks
-("No system info provided", ...) still go to the process's standard output; its log
-(set_log_level()) goes to standard error.
+The library can print each decoded value as ASN.1 text; a Decoder prints nothing unless
+set_asn1_text() has named a file (or None for standard output), as sibdump writes nothing
+without --asn1-text. The library's few messages about bad transport blocks ("No system info
+provided", ...) go with that text. Its log (set_log_level()) goes to standard error.
 """
 from __future__ import annotations
 
@@ -123,18 +125,29 @@ class Library:
             dll = ctypes.CDLL(os.fspath(path))
         except OSError as err:
             raise LibraryNotFoundError(f"cannot load libsibdecoder_umts from {os.fspath(path)}: {err}") from None
-        needed = ("umts_sib_decoder", "umts_sib_msg_decoder", "umts_sib_set_size", "umts_sib_name",
-                  "umts_sib_id_of_name", "umts_sib_record_json", "umts_sib_print_to", "umts_sib_set_alloc",
-                  "umts_sib_set_free")
+        needed = ("umts_sib_decoder_new", "umts_sib_decoder_free", "umts_sib_decoder_reset",
+                  "umts_sib_decoder_feed_block", "umts_sib_decoder_feed_sib", "umts_sib_decoder_print_to",
+                  "umts_sib_decoder_print_flush", "umts_sib_set_size", "umts_sib_name",
+                  "umts_sib_id_of_name", "umts_sib_record_json", "umts_sib_set_alloc", "umts_sib_set_free")
         missing = [name for name in needed if not hasattr(dll, name)]
         if missing:
             raise LibraryNotFoundError(
                 f"{os.fspath(path)} lacks {', '.join(missing)}: not a libsibdecoder_umts of this version")
-        u8p, setp, size_t = ctypes.c_char_p, ctypes.c_void_p, ctypes.c_size_t
-        dll.umts_sib_decoder.restype = ctypes.c_uint8
-        dll.umts_sib_decoder.argtypes = [u8p, setp, ctypes.c_uint32]
-        dll.umts_sib_msg_decoder.restype = ctypes.c_uint8
-        dll.umts_sib_msg_decoder.argtypes = [ctypes.c_int, u8p, setp, ctypes.c_uint32]
+        u8p, setp, size_t, decp = ctypes.c_char_p, ctypes.c_void_p, ctypes.c_size_t, ctypes.c_void_p
+        dll.umts_sib_decoder_new.restype = decp
+        dll.umts_sib_decoder_new.argtypes = []
+        dll.umts_sib_decoder_free.restype = None
+        dll.umts_sib_decoder_free.argtypes = [decp]
+        dll.umts_sib_decoder_reset.restype = None
+        dll.umts_sib_decoder_reset.argtypes = [decp]
+        dll.umts_sib_decoder_feed_block.restype = ctypes.c_uint8
+        dll.umts_sib_decoder_feed_block.argtypes = [decp, u8p, setp, ctypes.c_uint32]
+        dll.umts_sib_decoder_feed_sib.restype = ctypes.c_uint8
+        dll.umts_sib_decoder_feed_sib.argtypes = [decp, ctypes.c_int, u8p, setp, ctypes.c_uint32]
+        dll.umts_sib_decoder_print_to.restype = None
+        dll.umts_sib_decoder_print_to.argtypes = [decp, ctypes.c_void_p]
+        dll.umts_sib_decoder_print_flush.restype = None
+        dll.umts_sib_decoder_print_flush.argtypes = [decp]
         dll.umts_sib_set_size.restype = size_t
         dll.umts_sib_set_size.argtypes = []
         dll.umts_sib_name.restype = ctypes.c_char_p
@@ -143,14 +156,12 @@ class Library:
         dll.umts_sib_id_of_name.argtypes = [ctypes.c_char_p, size_t]
         dll.umts_sib_record_json.restype = size_t
         dll.umts_sib_record_json.argtypes = [setp, ctypes.c_int, ctypes.c_char_p, size_t]
-        dll.umts_sib_print_to.restype = None
-        dll.umts_sib_print_to.argtypes = [ctypes.c_void_p]
         dll.umts_sib_set_alloc.restype = setp
         dll.umts_sib_set_alloc.argtypes = []
         dll.umts_sib_set_free.restype = None
         dll.umts_sib_set_free.argtypes = [setp]
         self._dll = dll
-        self.path = _file_of(dll.umts_sib_decoder, os.fspath(path))
+        self.path = _file_of(dll.umts_sib_decoder_new, os.fspath(path))
         self.set_size = int(dll.umts_sib_set_size())
         names = []
         while True:
@@ -159,17 +170,23 @@ class Library:
                 break
             names.append(name.decode("ascii"))
         self.names: Tuple[str, ...] = tuple(names)
-        self.lock = threading.RLock()
         self._libc = _libc()
         self._print_file: Optional[int] = None
+        #: The stream that Decoders print their text on (None: nowhere).
+        self._print_target: Optional[int] = None
+        self._decoders: "weakref.WeakSet[Decoder]" = weakref.WeakSet()
+        self._summary_lock = threading.Lock()
         self._summary_dll: Optional[ctypes.CDLL] = None
-        self.set_asn1_text(os.devnull)
 
     def __repr__(self) -> str:
         return f"<sibdecoder_umts.Library {self.path}>"
 
     def summary_dll(self) -> ctypes.CDLL:
         """libsibdecoder_umts_summary, beside this library, typed for ctypes (loaded once)."""
+        with self._summary_lock:
+            return self._load_summary_dll()
+
+    def _load_summary_dll(self) -> ctypes.CDLL:
         if self._summary_dll is None:
             here = Path(self.path).parent
             candidates = [here / _SUMMARY_FILE_NAME] + sorted(here.glob(_SUMMARY_FILE_NAME + ".*"))
@@ -209,9 +226,10 @@ class Library:
         raise TypeError(f"a SIB is a name or a number, not {type(sib).__name__}")
 
     def set_asn1_text(self, path: Optional[PathLike]) -> None:
-        """Where the library's ASN.1 text goes: a file (truncated), os.devnull (the text is
-        switched off and the library formats none: the module's choice at load time), or None
-        for the process's standard output."""
+        """Where the Decoders of this library write their ASN.1 text and messages, those made
+        before as well as after: a file (truncated), os.devnull (no text: the module's choice at
+        load time; the library then formats none), or None for the process's standard output.
+        Call it while no Decoder is decoding."""
         stream = None  # a stream of the module's own, closed when another is chosen
         if path is None:
             target = ctypes.c_void_p.in_dll(self._libc, "stdout").value
@@ -223,9 +241,10 @@ class Library:
                 err = ctypes.get_errno()
                 raise OSError(err, f"cannot open for the ASN.1 text: {os.strerror(err)}", os.fspath(path))
             target = stream
-        with self.lock:
-            self._dll.umts_sib_print_to(target)  # writes out what was gathered for the old stream
-            old, self._print_file = self._print_file, stream
+        for decoder in list(self._decoders):
+            decoder._print_to(target)  # writes out what was gathered for the old stream
+        self._print_target = target
+        old, self._print_file = self._print_file, stream
         if old:
             self._libc.fclose(old)
 
@@ -354,21 +373,32 @@ def _octets(data, limit: int, what: str) -> bytes:
 
 
 class Decoder:
-    """One result record (umts_sib_set) of a library, filled by transport blocks or whole SIBs.
+    """One stream of system information (one cell): a decoder instance of a library, which
+    collects the segments of the SIBs, and a result record (umts_sib_set) that transport
+    blocks or whole SIBs fill.
 
-    The record is large (the fixed arrays of SIB5 above all): make one Decoder and
+    The record is large (the fixed arrays of SIB5 above all): make one Decoder per cell and
     keep it. It is a set of umts_sib_set_alloc, which the library clears by what each
-    conversion wrote, and is released with the Decoder. Segments are collected in the
-    library, shared by every Decoder of the process.
+    conversion wrote, and is released with the Decoder. Decoders share nothing: different
+    Decoders may decode on different threads at once; one Decoder is to be used by one
+    thread at a time.
     """
 
     def __init__(self, library: Optional[Union[PathLike, Library]] = None):
         self.library = load(library)
-        address = self.library._dll.umts_sib_set_alloc()
+        dll = self.library._dll
+        instance = dll.umts_sib_decoder_new()
+        if not instance:
+            raise MemoryError("umts_sib_decoder_new: no memory for a decoder")
+        self._instance = instance
+        weakref.finalize(self, dll.umts_sib_decoder_free, instance)
+        address = dll.umts_sib_set_alloc()
         if not address:
             raise MemoryError("umts_sib_set_alloc: no memory for a result record")
         self._set_address = address
-        weakref.finalize(self, self.library._dll.umts_sib_set_free, address)
+        weakref.finalize(self, dll.umts_sib_set_free, address)
+        self._print_to(self.library._print_target)
+        self.library._decoders.add(self)
         self._presence = ctypes.c_uint16.from_address(address)
         self._json = ctypes.create_string_buffer(_JSON_START)
         #: What the last call of an entry returned (1 success, 0 failure).
@@ -398,14 +428,13 @@ class Decoder:
         """
         data = _octets(block, MAX_BLOCK_OCTETS, "a transport block")
         lib = self.library
-        with lib.lock:
-            self._presence.value = 0  # this entry adds its blocks to the word; the call's only
-            status = lib._dll.umts_sib_decoder(data, self._set_address, len(data))
-            self.last_status = status
-            records = self.records()
-            self.received.update(records)
-            if self._summary:
-                lib.summary_dll().umts_summary_take(self._summary, b"", b"", self._set_address, data, len(data))
+        self._presence.value = 0  # this entry adds its blocks to the word; the call's only
+        status = lib._dll.umts_sib_decoder_feed_block(self._instance, data, self._set_address, len(data))
+        self.last_status = status
+        records = self.records()
+        self.received.update(records)
+        if self._summary:
+            lib.summary_dll().umts_summary_take(self._summary, b"", b"", self._set_address, data, len(data))
         if status != 1 and strict:
             raise SibDecodeError(
                 f"umts_sib_decoder returned {status} for a transport block of {len(data)} octets "
@@ -422,13 +451,12 @@ class Decoder:
         sib_id = lib.sib_id(sib)
         name = lib.names[sib_id]
         octets = _octets(data, MAX_SIB_OCTETS, f"the {name} SIB")
-        with lib.lock:
-            status = lib._dll.umts_sib_msg_decoder(sib_id, octets, self._set_address, len(octets))
-            self.last_status = status
-            records = self.records()
-            self.received.update(records)
-            if self._summary:
-                lib.summary_dll().umts_summary_take(self._summary, b"", b"", self._set_address, None, 0)
+        status = lib._dll.umts_sib_decoder_feed_sib(self._instance, sib_id, octets, self._set_address, len(octets))
+        self.last_status = status
+        records = self.records()
+        self.received.update(records)
+        if self._summary:
+            lib.summary_dll().umts_summary_take(self._summary, b"", b"", self._set_address, None, 0)
         if status != 1 or name not in records:
             raise SibDecodeError(
                 f"umts_sib_msg_decoder returned {status} for {name} ({len(octets)} octets): it "
@@ -449,14 +477,13 @@ class Decoder:
         """Every summary of the cell: each configuration that a new MIB value tag ended (with
         "ended_by"), then the cell as it stands."""
         dll = self.library.summary_dll()  # raises LibraryNotFoundError without it
-        with self.library.lock:
-            text = dll.umts_summary_text(self._summary, b"json")
-            if not text:
-                raise MemoryError("umts_summary_text: no memory")
-            try:
-                lines = ctypes.string_at(text).decode("utf-8").splitlines()
-            finally:
-                dll.umts_summary_text_free(text)
+        text = dll.umts_summary_text(self._summary, b"json")
+        if not text:
+            raise MemoryError("umts_summary_text: no memory")
+        try:
+            lines = ctypes.string_at(text).decode("utf-8").splitlines()
+        finally:
+            dll.umts_summary_text_free(text)
         out = [json.loads(line) for line in lines]
         for s in out:
             s["cell"] = label
@@ -472,12 +499,23 @@ class Decoder:
         converted it (a record stays until its block is converted again)."""
         sib_id = self.library.sib_id(sib)
         write = self.library._dll.umts_sib_record_json
-        with self.library.lock:
+        need = write(self._set_address, sib_id, self._json, len(self._json))
+        if need >= len(self._json):
+            self._json = ctypes.create_string_buffer(need + 1)
             need = write(self._set_address, sib_id, self._json, len(self._json))
-            if need >= len(self._json):
-                self._json = ctypes.create_string_buffer(need + 1)
-                need = write(self._set_address, sib_id, self._json, len(self._json))
-            return json.loads(ctypes.string_at(self._json, need))
+        return json.loads(ctypes.string_at(self._json, need))
+
+    def reset(self) -> None:
+        """Drops the segments in collection and what the cell's scheduling blocks said (after
+        a retune, say); the records received stay."""
+        self.library._dll.umts_sib_decoder_reset(self._instance)
+
+    def flush_asn1_text(self) -> None:
+        """Hands the ASN.1 text gathered by this Decoder to its file and flushes the file."""
+        self.library._dll.umts_sib_decoder_print_flush(self._instance)
+
+    def _print_to(self, target: Optional[int]) -> None:
+        self.library._dll.umts_sib_decoder_print_to(self._instance, target)
 
 
 _shared: Optional[Decoder] = None
