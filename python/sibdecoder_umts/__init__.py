@@ -6,10 +6,12 @@ names and values of the JSON that sibdump writes.
 
     import sibdecoder_umts as sd
 
-    dec = sd.Decoder()
+    dec = sd.Decoder()                        # one per cell
     for block in transport_blocks:            # BCH transport blocks, bytes (31 octets each)
         for name, record in dec.feed_block(block).items():
             print(name, record)               # e.g. "sib3" {"presence_bitmask": 1, ...}
+        if dec.last_status == 0:              # the block's reason, e.g. at the start of a
+            print(dec.last_error)             # stream, a segment of a SIB never begun
     sib3 = dec.decode_sib("sib3", sib3_bytes) # one whole SIB: its record
 
 The library is looked for, in this order: the path given to Decoder()/load(); the environment
@@ -403,6 +405,10 @@ class Decoder:
         self._json = ctypes.create_string_buffer(_JSON_START)
         #: What the last call of an entry returned (1 success, 0 failure).
         self.last_status: Optional[int] = None
+        #: Why the last call returned 0 (None after a success).
+        self.last_error: Optional[str] = None
+        #: Calls that returned 0 so far.
+        self.failures = 0
         #: The last record of each block that a call of this Decoder converted.
         self.received: Dict[str, Record] = {}
         # The summary's collection, fed by every call (the records it converted, and the
@@ -418,31 +424,40 @@ class Decoder:
             raise MemoryError("umts_summary_new: no memory")
         weakref.finalize(self, summaries.umts_summary_free, self._summary)
 
-    def feed_block(self, block, *, strict: bool = True) -> Dict[str, Record]:
-        """Hands one BCH transport block to umts_sib_decoder; returns the blocks that this call
-        converted, name -> record, in slot order.
+    def feed_block(self, block, *, strict: bool = False) -> Dict[str, Record]:
+        """Hands one BCH transport block to the Decoder's instance (as umts_sib_decoder);
+        returns the blocks that this call converted, name -> record, in slot order.
 
         A status of 0 (a block that cannot be decoded, a segment that does not continue the
-        SIB being collected, a conversion that failed) raises SibDecodeError, which carries
-        the blocks converted all the same; with strict=False they are returned instead.
+        SIB being collected, as at the start of any capture, a conversion that failed) is
+        routine on a real stream: the records that the call converted are returned all the
+        same, last_status is 0 and last_error says why. With strict=True it raises
+        SibDecodeError instead, which carries those records.
         """
         data = _octets(block, MAX_BLOCK_OCTETS, "a transport block")
         lib = self.library
         self._presence.value = 0  # this entry adds its blocks to the word; the call's only
         status = lib._dll.umts_sib_decoder_feed_block(self._instance, data, self._set_address, len(data))
-        self.last_status = status
         records = self.records()
         self.received.update(records)
         if self._summary:
             lib.summary_dll().umts_summary_take(self._summary, b"", b"", self._set_address, data, len(data))
-        if status != 1 and strict:
-            raise SibDecodeError(
-                f"umts_sib_decoder returned {status} for a transport block of {len(data)} octets "
-                f"({data[:8].hex()}{'...' if len(data) > 8 else ''}): it cannot be decoded, or its "
-                f"segment does not continue the SIB being collected, or a SIB that it completed "
-                f"failed to convert (converted all the same: {', '.join(records) or 'none'})",
-                status=status, entry="umts_sib_decoder", records=records)
+        message = None
+        if status != 1:
+            message = (f"umts_sib_decoder returned {status} for a transport block of {len(data)} octets "
+                       f"({data[:8].hex()}{'...' if len(data) > 8 else ''}): it cannot be decoded, or its "
+                       f"segment does not continue the SIB being collected, or a SIB that it completed "
+                       f"failed to convert (converted all the same: {', '.join(records) or 'none'})")
+        self._note(status, message)
+        if message is not None and strict:
+            raise SibDecodeError(message, status=status, entry="umts_sib_decoder", records=records)
         return records
+
+    def _note(self, status: int, message: Optional[str]) -> None:
+        self.last_status = status
+        self.last_error = message
+        if status != 1:
+            self.failures += 1
 
     def decode_sib(self, sib: Union[str, int], data) -> Record:
         """Hands one whole SIB (by name, e.g. "sib3", or slot number) to umts_sib_msg_decoder;
@@ -452,17 +467,17 @@ class Decoder:
         name = lib.names[sib_id]
         octets = _octets(data, MAX_SIB_OCTETS, f"the {name} SIB")
         status = lib._dll.umts_sib_decoder_feed_sib(self._instance, sib_id, octets, self._set_address, len(octets))
-        self.last_status = status
         records = self.records()
         self.received.update(records)
         if self._summary:
             lib.summary_dll().umts_summary_take(self._summary, b"", b"", self._set_address, None, 0)
         if status != 1 or name not in records:
-            raise SibDecodeError(
-                f"umts_sib_msg_decoder returned {status} for {name} ({len(octets)} octets): it "
-                f"cannot be decoded as {name}, or a conversion failed (converted all the same: "
-                f"{', '.join(records) or 'none'})",
-                status=status, entry="umts_sib_msg_decoder", block=name, records=records)
+            message = (f"umts_sib_msg_decoder returned {status} for {name} ({len(octets)} octets): it "
+                       f"cannot be decoded as {name}, or a conversion failed (converted all the same: "
+                       f"{', '.join(records) or 'none'})")
+            self._note(status, message)
+            raise SibDecodeError(message, status=status, entry="umts_sib_msg_decoder", block=name, records=records)
+        self._note(status, None)
         return records[name]
 
     def summary(self, label: Optional[str] = None) -> Record:
@@ -529,10 +544,11 @@ def decode_sib(sib: Union[str, int], data) -> Record:
     return _shared.decode_sib(sib, data)
 
 
-def decode_blocks(blocks: Iterable, *, strict: bool = True,
+def decode_blocks(blocks: Iterable, *, strict: bool = False,
                   library: Optional[Union[PathLike, Library]] = None) -> Iterator[Tuple[int, str, Record]]:
     """Transport blocks in order through one Decoder: (index of the block, name, record) for
-    every block converted. With strict=False a failure status skips to the next block."""
+    every block converted; a block that returns a failure status gives what it converted. With
+    strict=True a failure status raises SibDecodeError."""
     decoder = Decoder(library)
     for index, block in enumerate(blocks):
         for name, record in decoder.feed_block(block, strict=strict).items():
