@@ -353,6 +353,9 @@ void convert_sysinfotype5_v8d0ext_ies(const SysInfoType5_v8d0ext_IEs* src, umts_
    whether the decode succeeded or not. Returns the decoder's status (0 on success), or 0 with
    nothing done when `decoded` is null. Called by nothing in the library. */
 int umts_convert_sib16(rtxContext* context, void* decoded, umts_sib16_info* out);
+/* The same, its messages going with the text of `decoder` (umts_sib_decoder_print_to) rather
+   than to standard output; a null decoder returns -1 and does nothing. */
+int umts_sib_decoder_convert_sib16(umts_sib_decoder_t* decoder, rtxContext* context, void* decoded, umts_sib16_info* out);
 /* The furthest offset in umts_sib16_info that the longest open lists write. */
 size_t umts_sib16_furthest_write(void);
 void decode_pre_def_radio_configuration(const PreDefRadioConfiguration* src, umts_sib16_pre_def_radio_configuration* dst);

@@ -7,10 +7,15 @@
  * and reads the blocks converted by the call in its own umts_sib_set: bit n of
  * presence_bitmask says that sub-record n was filled (the numbering of umts_sib_id).
  *
- * Calls are to come from one thread at a time: the collected segments live in one global.
+ * Several streams (cells, carriers, captures) are decoded apart through decoder instances
+ * (umts_sib_decoder_t below): each holds all the state of one stream, and instances on
+ * different threads need no lock. The entries without an instance work on the default
+ * instance, whose state is the global g_umts_ctxt: calls on it are to come from one thread
+ * at a time.
  *
  * Text: the library prints the ASN.1 value of every block that it decodes, and a few
  * messages, on standard output by default (umts_sib_print_to chooses another stream, or none).
+ * An instance prints nothing until it is given a stream of its own.
  */
 #ifndef UMTS_SIB_DECODER_H
 #define UMTS_SIB_DECODER_H
@@ -127,6 +132,49 @@ uint8_t umts_sib_decoder(const uint8_t* data, umts_sib_set* result, uint32_t len
 /* One complete SIB of `length` bytes (1 to 2048) for slot `sib_id`. Clears
    result->presence_bitmask first; returns 1 when every conversion that ran succeeded. */
 uint8_t umts_sib_msg_decoder(umts_sib_id sib_id, const uint8_t* data, umts_sib_set* result, uint32_t length);
+
+/* ---- Decoder instances ---------------------------------------------------------------- */
+
+/* The state of one broadcast stream: the SIBs in collection, what the stream's last MIB, SB1
+   and SB2 scheduled, and its print stream and buffer. Instances are independent: the calls
+   of one read and write nothing of another's, so different instances may be used on
+   different threads at once without a lock; one instance is to be used by one thread at a
+   time. Memory: about 1 KB, plus 1000 bytes per SIB in collection (at most 12), plus a print
+   buffer of 16 KB once printing is switched on: under 30 KB in all. */
+typedef struct umts_sib_decoder_instance umts_sib_decoder_t;
+
+/* A new instance with nothing in collection and printing off; null when memory is short. */
+umts_sib_decoder_t* umts_sib_decoder_new(void);
+/* Releases an instance, its segments in collection and its print buffer (what was gathered
+   is handed to its stream first); null and the default instance are ignored. */
+void umts_sib_decoder_free(umts_sib_decoder_t* decoder);
+/* Drops the segments in collection, the waiting requests and the schedules kept from the
+   stream's MIB, SB1 and SB2: the instance reads the next block as a new stream would (after
+   a retune, say). The print stream stays. */
+void umts_sib_decoder_reset(umts_sib_decoder_t* decoder);
+/* The instance behind the entries without an instance: its state is g_umts_ctxt, its text
+   the process's print stream (umts_sib_print_to). Never freed. */
+umts_sib_decoder_t* umts_sib_decoder_default(void);
+/* The state of an instance, for reading (the slots of the SIBs in collection). */
+const umts_decoder_ctxt* umts_sib_decoder_state(const umts_sib_decoder_t* decoder);
+
+/* umts_sib_decoder and umts_sib_msg_decoder on an instance: the same statuses, records and
+   messages. A null decoder returns 0 and does nothing. */
+uint8_t umts_sib_decoder_feed_block(umts_sib_decoder_t* decoder, const uint8_t* data, umts_sib_set* result,
+                                    uint32_t length);
+uint8_t umts_sib_decoder_feed_sib(umts_sib_decoder_t* decoder, umts_sib_id sib_id, const uint8_t* data,
+                                  umts_sib_set* result, uint32_t length);
+/* (umts_sib_decoder_convert_sib16, in umts_sib_convert.h, converts a SIB16 on an instance.) */
+
+/* Where the instance's ASN.1 text and messages go: `stream`, or nowhere with a null stream
+   (the default of a new instance; no text is formatted then). The text is gathered in the
+   instance's buffer and handed to the stream when the buffer is full, on
+   umts_sib_decoder_print_flush, when another stream is chosen and when the instance is freed;
+   on standard output also after each decoded value. Give each thread's instance its own
+   stream (a file, a pipe, open_memstream). */
+void umts_sib_decoder_print_to(umts_sib_decoder_t* decoder, FILE* stream);
+/* Hands the instance's gathered text to its stream and flushes the stream. */
+void umts_sib_decoder_print_flush(umts_sib_decoder_t* decoder);
 
 /* ---- Printed text --------------------------------------------------------------------- */
 

@@ -6,10 +6,12 @@ names and values of the JSON that sibdump writes.
 
     import sibdecoder_umts as sd
 
-    dec = sd.Decoder()
+    dec = sd.Decoder()                        # one per cell
     for block in transport_blocks:            # BCH transport blocks, bytes (31 octets each)
         for name, record in dec.feed_block(block).items():
             print(name, record)               # e.g. "sib3" {"presence_bitmask": 1, ...}
+        if dec.last_status == 0:              # the block's reason, e.g. at the start of a
+            print(dec.last_error)             # stream, a segment of a SIB never begun
     sib3 = dec.decode_sib("sib3", sib3_bytes) # one whole SIB: its record
 
 The library is looked for, in this order: the path given to Decoder()/load(); the environment
@@ -17,15 +19,17 @@ variable SIBDECODER_UMTS_LIBRARY; the build tree (<repository>/build) when the m
 from the source tree; the library directory of the installation that this package belongs to;
 the system's library search (ctypes.util.find_library, then the dynamic loader's own search).
 
-The library keeps the segments of each SIB in one process-wide global, so that every Decoder
-of a process (and any other user of the same library file) shares the collection of segments;
-a Decoder holds only its own result record. Calls into a library are serialised by a lock.
+Each Decoder owns a decoder instance of the library: the segments of the SIBs it collects,
+what its cell's MIB, SB1 and SB2 scheduled, its result record and its summary, shared with no
+other Decoder. Decoders are independent: one Decoder per cell, any number per process. ctypes
+releases the interpreter lock while the library works, so Decoders on different threads
+decode in parallel (a Decoder is to be used by one thread at a time); a Decoder made in a
+worker process (multiprocessing, concurrent.futures) shares nothing with its parent.
 
-The library prints each decoded value as ASN.1 text through its print stream; the module sends
-that text to os.devnull when it loads a library, as sibdump does (set_asn1_text() chooses
-another file, or None for standard output). Its few messages about bad transport blocks
-("No system info provided", ...) still go to the process's standard output; its log
-(set_log_level()) goes to standard error.
+The library can print each decoded value as ASN.1 text; a Decoder prints nothing unless
+set_asn1_text() has named a file (or None for standard output), as sibdump writes nothing
+without --asn1-text. The library's few messages about bad transport blocks ("No system info
+provided", ...) go with that text. Its log (set_log_level()) goes to standard error.
 """
 from __future__ import annotations
 
@@ -123,18 +127,29 @@ class Library:
             dll = ctypes.CDLL(os.fspath(path))
         except OSError as err:
             raise LibraryNotFoundError(f"cannot load libsibdecoder_umts from {os.fspath(path)}: {err}") from None
-        needed = ("umts_sib_decoder", "umts_sib_msg_decoder", "umts_sib_set_size", "umts_sib_name",
-                  "umts_sib_id_of_name", "umts_sib_record_json", "umts_sib_print_to", "umts_sib_set_alloc",
-                  "umts_sib_set_free")
+        needed = ("umts_sib_decoder_new", "umts_sib_decoder_free", "umts_sib_decoder_reset",
+                  "umts_sib_decoder_feed_block", "umts_sib_decoder_feed_sib", "umts_sib_decoder_print_to",
+                  "umts_sib_decoder_print_flush", "umts_sib_set_size", "umts_sib_name",
+                  "umts_sib_id_of_name", "umts_sib_record_json", "umts_sib_set_alloc", "umts_sib_set_free")
         missing = [name for name in needed if not hasattr(dll, name)]
         if missing:
             raise LibraryNotFoundError(
                 f"{os.fspath(path)} lacks {', '.join(missing)}: not a libsibdecoder_umts of this version")
-        u8p, setp, size_t = ctypes.c_char_p, ctypes.c_void_p, ctypes.c_size_t
-        dll.umts_sib_decoder.restype = ctypes.c_uint8
-        dll.umts_sib_decoder.argtypes = [u8p, setp, ctypes.c_uint32]
-        dll.umts_sib_msg_decoder.restype = ctypes.c_uint8
-        dll.umts_sib_msg_decoder.argtypes = [ctypes.c_int, u8p, setp, ctypes.c_uint32]
+        u8p, setp, size_t, decp = ctypes.c_char_p, ctypes.c_void_p, ctypes.c_size_t, ctypes.c_void_p
+        dll.umts_sib_decoder_new.restype = decp
+        dll.umts_sib_decoder_new.argtypes = []
+        dll.umts_sib_decoder_free.restype = None
+        dll.umts_sib_decoder_free.argtypes = [decp]
+        dll.umts_sib_decoder_reset.restype = None
+        dll.umts_sib_decoder_reset.argtypes = [decp]
+        dll.umts_sib_decoder_feed_block.restype = ctypes.c_uint8
+        dll.umts_sib_decoder_feed_block.argtypes = [decp, u8p, setp, ctypes.c_uint32]
+        dll.umts_sib_decoder_feed_sib.restype = ctypes.c_uint8
+        dll.umts_sib_decoder_feed_sib.argtypes = [decp, ctypes.c_int, u8p, setp, ctypes.c_uint32]
+        dll.umts_sib_decoder_print_to.restype = None
+        dll.umts_sib_decoder_print_to.argtypes = [decp, ctypes.c_void_p]
+        dll.umts_sib_decoder_print_flush.restype = None
+        dll.umts_sib_decoder_print_flush.argtypes = [decp]
         dll.umts_sib_set_size.restype = size_t
         dll.umts_sib_set_size.argtypes = []
         dll.umts_sib_name.restype = ctypes.c_char_p
@@ -143,14 +158,12 @@ class Library:
         dll.umts_sib_id_of_name.argtypes = [ctypes.c_char_p, size_t]
         dll.umts_sib_record_json.restype = size_t
         dll.umts_sib_record_json.argtypes = [setp, ctypes.c_int, ctypes.c_char_p, size_t]
-        dll.umts_sib_print_to.restype = None
-        dll.umts_sib_print_to.argtypes = [ctypes.c_void_p]
         dll.umts_sib_set_alloc.restype = setp
         dll.umts_sib_set_alloc.argtypes = []
         dll.umts_sib_set_free.restype = None
         dll.umts_sib_set_free.argtypes = [setp]
         self._dll = dll
-        self.path = _file_of(dll.umts_sib_decoder, os.fspath(path))
+        self.path = _file_of(dll.umts_sib_decoder_new, os.fspath(path))
         self.set_size = int(dll.umts_sib_set_size())
         names = []
         while True:
@@ -159,17 +172,23 @@ class Library:
                 break
             names.append(name.decode("ascii"))
         self.names: Tuple[str, ...] = tuple(names)
-        self.lock = threading.RLock()
         self._libc = _libc()
         self._print_file: Optional[int] = None
+        #: The stream that Decoders print their text on (None: nowhere).
+        self._print_target: Optional[int] = None
+        self._decoders: "weakref.WeakSet[Decoder]" = weakref.WeakSet()
+        self._summary_lock = threading.Lock()
         self._summary_dll: Optional[ctypes.CDLL] = None
-        self.set_asn1_text(os.devnull)
 
     def __repr__(self) -> str:
         return f"<sibdecoder_umts.Library {self.path}>"
 
     def summary_dll(self) -> ctypes.CDLL:
         """libsibdecoder_umts_summary, beside this library, typed for ctypes (loaded once)."""
+        with self._summary_lock:
+            return self._load_summary_dll()
+
+    def _load_summary_dll(self) -> ctypes.CDLL:
         if self._summary_dll is None:
             here = Path(self.path).parent
             candidates = [here / _SUMMARY_FILE_NAME] + sorted(here.glob(_SUMMARY_FILE_NAME + ".*"))
@@ -209,9 +228,10 @@ class Library:
         raise TypeError(f"a SIB is a name or a number, not {type(sib).__name__}")
 
     def set_asn1_text(self, path: Optional[PathLike]) -> None:
-        """Where the library's ASN.1 text goes: a file (truncated), os.devnull (the text is
-        switched off and the library formats none: the module's choice at load time), or None
-        for the process's standard output."""
+        """Where the Decoders of this library write their ASN.1 text and messages, those made
+        before as well as after: a file (truncated), os.devnull (no text: the module's choice at
+        load time; the library then formats none), or None for the process's standard output.
+        Call it while no Decoder is decoding."""
         stream = None  # a stream of the module's own, closed when another is chosen
         if path is None:
             target = ctypes.c_void_p.in_dll(self._libc, "stdout").value
@@ -223,9 +243,10 @@ class Library:
                 err = ctypes.get_errno()
                 raise OSError(err, f"cannot open for the ASN.1 text: {os.strerror(err)}", os.fspath(path))
             target = stream
-        with self.lock:
-            self._dll.umts_sib_print_to(target)  # writes out what was gathered for the old stream
-            old, self._print_file = self._print_file, stream
+        for decoder in list(self._decoders):
+            decoder._print_to(target)  # writes out what was gathered for the old stream
+        self._print_target = target
+        old, self._print_file = self._print_file, stream
         if old:
             self._libc.fclose(old)
 
@@ -354,25 +375,40 @@ def _octets(data, limit: int, what: str) -> bytes:
 
 
 class Decoder:
-    """One result record (umts_sib_set) of a library, filled by transport blocks or whole SIBs.
+    """One stream of system information (one cell): a decoder instance of a library, which
+    collects the segments of the SIBs, and a result record (umts_sib_set) that transport
+    blocks or whole SIBs fill.
 
-    The record is large (the fixed arrays of SIB5 above all): make one Decoder and
+    The record is large (the fixed arrays of SIB5 above all): make one Decoder per cell and
     keep it. It is a set of umts_sib_set_alloc, which the library clears by what each
-    conversion wrote, and is released with the Decoder. Segments are collected in the
-    library, shared by every Decoder of the process.
+    conversion wrote, and is released with the Decoder. Decoders share nothing: different
+    Decoders may decode on different threads at once; one Decoder is to be used by one
+    thread at a time.
     """
 
     def __init__(self, library: Optional[Union[PathLike, Library]] = None):
         self.library = load(library)
-        address = self.library._dll.umts_sib_set_alloc()
+        dll = self.library._dll
+        instance = dll.umts_sib_decoder_new()
+        if not instance:
+            raise MemoryError("umts_sib_decoder_new: no memory for a decoder")
+        self._instance = instance
+        weakref.finalize(self, dll.umts_sib_decoder_free, instance)
+        address = dll.umts_sib_set_alloc()
         if not address:
             raise MemoryError("umts_sib_set_alloc: no memory for a result record")
         self._set_address = address
-        weakref.finalize(self, self.library._dll.umts_sib_set_free, address)
+        weakref.finalize(self, dll.umts_sib_set_free, address)
+        self._print_to(self.library._print_target)
+        self.library._decoders.add(self)
         self._presence = ctypes.c_uint16.from_address(address)
         self._json = ctypes.create_string_buffer(_JSON_START)
         #: What the last call of an entry returned (1 success, 0 failure).
         self.last_status: Optional[int] = None
+        #: Why the last call returned 0 (None after a success).
+        self.last_error: Optional[str] = None
+        #: Calls that returned 0 so far.
+        self.failures = 0
         #: The last record of each block that a call of this Decoder converted.
         self.received: Dict[str, Record] = {}
         # The summary's collection, fed by every call (the records it converted, and the
@@ -388,32 +424,40 @@ class Decoder:
             raise MemoryError("umts_summary_new: no memory")
         weakref.finalize(self, summaries.umts_summary_free, self._summary)
 
-    def feed_block(self, block, *, strict: bool = True) -> Dict[str, Record]:
-        """Hands one BCH transport block to umts_sib_decoder; returns the blocks that this call
-        converted, name -> record, in slot order.
+    def feed_block(self, block, *, strict: bool = False) -> Dict[str, Record]:
+        """Hands one BCH transport block to the Decoder's instance (as umts_sib_decoder);
+        returns the blocks that this call converted, name -> record, in slot order.
 
         A status of 0 (a block that cannot be decoded, a segment that does not continue the
-        SIB being collected, a conversion that failed) raises SibDecodeError, which carries
-        the blocks converted all the same; with strict=False they are returned instead.
+        SIB being collected, as at the start of any capture, a conversion that failed) is
+        routine on a real stream: the records that the call converted are returned all the
+        same, last_status is 0 and last_error says why. With strict=True it raises
+        SibDecodeError instead, which carries those records.
         """
         data = _octets(block, MAX_BLOCK_OCTETS, "a transport block")
         lib = self.library
-        with lib.lock:
-            self._presence.value = 0  # this entry adds its blocks to the word; the call's only
-            status = lib._dll.umts_sib_decoder(data, self._set_address, len(data))
-            self.last_status = status
-            records = self.records()
-            self.received.update(records)
-            if self._summary:
-                lib.summary_dll().umts_summary_take(self._summary, b"", b"", self._set_address, data, len(data))
-        if status != 1 and strict:
-            raise SibDecodeError(
-                f"umts_sib_decoder returned {status} for a transport block of {len(data)} octets "
-                f"({data[:8].hex()}{'...' if len(data) > 8 else ''}): it cannot be decoded, or its "
-                f"segment does not continue the SIB being collected, or a SIB that it completed "
-                f"failed to convert (converted all the same: {', '.join(records) or 'none'})",
-                status=status, entry="umts_sib_decoder", records=records)
+        self._presence.value = 0  # this entry adds its blocks to the word; the call's only
+        status = lib._dll.umts_sib_decoder_feed_block(self._instance, data, self._set_address, len(data))
+        records = self.records()
+        self.received.update(records)
+        if self._summary:
+            lib.summary_dll().umts_summary_take(self._summary, b"", b"", self._set_address, data, len(data))
+        message = None
+        if status != 1:
+            message = (f"umts_sib_decoder returned {status} for a transport block of {len(data)} octets "
+                       f"({data[:8].hex()}{'...' if len(data) > 8 else ''}): it cannot be decoded, or its "
+                       f"segment does not continue the SIB being collected, or a SIB that it completed "
+                       f"failed to convert (converted all the same: {', '.join(records) or 'none'})")
+        self._note(status, message)
+        if message is not None and strict:
+            raise SibDecodeError(message, status=status, entry="umts_sib_decoder", records=records)
         return records
+
+    def _note(self, status: int, message: Optional[str]) -> None:
+        self.last_status = status
+        self.last_error = message
+        if status != 1:
+            self.failures += 1
 
     def decode_sib(self, sib: Union[str, int], data) -> Record:
         """Hands one whole SIB (by name, e.g. "sib3", or slot number) to umts_sib_msg_decoder;
@@ -422,19 +466,18 @@ class Decoder:
         sib_id = lib.sib_id(sib)
         name = lib.names[sib_id]
         octets = _octets(data, MAX_SIB_OCTETS, f"the {name} SIB")
-        with lib.lock:
-            status = lib._dll.umts_sib_msg_decoder(sib_id, octets, self._set_address, len(octets))
-            self.last_status = status
-            records = self.records()
-            self.received.update(records)
-            if self._summary:
-                lib.summary_dll().umts_summary_take(self._summary, b"", b"", self._set_address, None, 0)
+        status = lib._dll.umts_sib_decoder_feed_sib(self._instance, sib_id, octets, self._set_address, len(octets))
+        records = self.records()
+        self.received.update(records)
+        if self._summary:
+            lib.summary_dll().umts_summary_take(self._summary, b"", b"", self._set_address, None, 0)
         if status != 1 or name not in records:
-            raise SibDecodeError(
-                f"umts_sib_msg_decoder returned {status} for {name} ({len(octets)} octets): it "
-                f"cannot be decoded as {name}, or a conversion failed (converted all the same: "
-                f"{', '.join(records) or 'none'})",
-                status=status, entry="umts_sib_msg_decoder", block=name, records=records)
+            message = (f"umts_sib_msg_decoder returned {status} for {name} ({len(octets)} octets): it "
+                       f"cannot be decoded as {name}, or a conversion failed (converted all the same: "
+                       f"{', '.join(records) or 'none'})")
+            self._note(status, message)
+            raise SibDecodeError(message, status=status, entry="umts_sib_msg_decoder", block=name, records=records)
+        self._note(status, None)
         return records[name]
 
     def summary(self, label: Optional[str] = None) -> Record:
@@ -449,14 +492,13 @@ class Decoder:
         """Every summary of the cell: each configuration that a new MIB value tag ended (with
         "ended_by"), then the cell as it stands."""
         dll = self.library.summary_dll()  # raises LibraryNotFoundError without it
-        with self.library.lock:
-            text = dll.umts_summary_text(self._summary, b"json")
-            if not text:
-                raise MemoryError("umts_summary_text: no memory")
-            try:
-                lines = ctypes.string_at(text).decode("utf-8").splitlines()
-            finally:
-                dll.umts_summary_text_free(text)
+        text = dll.umts_summary_text(self._summary, b"json")
+        if not text:
+            raise MemoryError("umts_summary_text: no memory")
+        try:
+            lines = ctypes.string_at(text).decode("utf-8").splitlines()
+        finally:
+            dll.umts_summary_text_free(text)
         out = [json.loads(line) for line in lines]
         for s in out:
             s["cell"] = label
@@ -472,12 +514,23 @@ class Decoder:
         converted it (a record stays until its block is converted again)."""
         sib_id = self.library.sib_id(sib)
         write = self.library._dll.umts_sib_record_json
-        with self.library.lock:
+        need = write(self._set_address, sib_id, self._json, len(self._json))
+        if need >= len(self._json):
+            self._json = ctypes.create_string_buffer(need + 1)
             need = write(self._set_address, sib_id, self._json, len(self._json))
-            if need >= len(self._json):
-                self._json = ctypes.create_string_buffer(need + 1)
-                need = write(self._set_address, sib_id, self._json, len(self._json))
-            return json.loads(ctypes.string_at(self._json, need))
+        return json.loads(ctypes.string_at(self._json, need))
+
+    def reset(self) -> None:
+        """Drops the segments in collection and what the cell's scheduling blocks said (after
+        a retune, say); the records received stay."""
+        self.library._dll.umts_sib_decoder_reset(self._instance)
+
+    def flush_asn1_text(self) -> None:
+        """Hands the ASN.1 text gathered by this Decoder to its file and flushes the file."""
+        self.library._dll.umts_sib_decoder_print_flush(self._instance)
+
+    def _print_to(self, target: Optional[int]) -> None:
+        self.library._dll.umts_sib_decoder_print_to(self._instance, target)
 
 
 _shared: Optional[Decoder] = None
@@ -491,10 +544,11 @@ def decode_sib(sib: Union[str, int], data) -> Record:
     return _shared.decode_sib(sib, data)
 
 
-def decode_blocks(blocks: Iterable, *, strict: bool = True,
+def decode_blocks(blocks: Iterable, *, strict: bool = False,
                   library: Optional[Union[PathLike, Library]] = None) -> Iterator[Tuple[int, str, Record]]:
     """Transport blocks in order through one Decoder: (index of the block, name, record) for
-    every block converted. With strict=False a failure status skips to the next block."""
+    every block converted; a block that returns a failure status gives what it converted. With
+    strict=True a failure status raises SibDecodeError."""
     decoder = Decoder(library)
     for index, block in enumerate(blocks):
         for name, record in decoder.feed_block(block, strict=strict).items():

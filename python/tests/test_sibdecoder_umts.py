@@ -95,21 +95,57 @@ def test_bad_arguments_raise(decoder, call, error, words):
         call(decoder)
 
 
-def test_undecodable_input_raises_and_loses_nothing(decoder):
+def test_undecodable_input_is_reported_and_loses_nothing(decoder):
     number, text = next(sample_lines("fdd_cell.bch"))  # the MIB's block
     assert decoder.feed_block(memoryview(bytes.fromhex(text)))["mib"]["mib_ValueTag"] == 3
-    # 8 bits cannot hold a BCCH-BCH-Message (SFN' alone has 11).
+    assert (decoder.last_status, decoder.last_error) == (1, None)
+    # 8 bits cannot hold a BCCH-BCH-Message (SFN' alone has 11): a stream goes on.
+    failures = decoder.failures
+    assert decoder.feed_block(b"\x00") == {} and decoder.last_status == 0
+    assert "umts_sib_decoder returned 0" in decoder.last_error and decoder.failures == failures + 1
     with pytest.raises(sd.SibDecodeError, match="umts_sib_decoder returned 0") as raised:
-        decoder.feed_block(b"\x00")
+        decoder.feed_block(b"\x00", strict=True)
     assert (raised.value.status, raised.value.entry, raised.value.records) == (0, "umts_sib_decoder", {})
-    assert decoder.feed_block(b"\x00", strict=False) == {} and decoder.last_status == 0
     with pytest.raises(sd.SibDecodeError, match="for sib12") as raised:
         decoder.decode_sib("sib12", b"\xff")
-    assert raised.value.block == "sib12"
+    assert raised.value.block == "sib12" and decoder.last_status == 0
     assert decoder.record("mib")["mib_ValueTag"] == 3  # the earlier record stays
     with pytest.raises(sd.SibDecodeError):
-        list(sd.decode_blocks([bytes.fromhex(text), b"\x00"]))
-    assert [(i, n) for i, n, _ in sd.decode_blocks([b"\x00", bytes.fromhex(text)], strict=False)] == [(1, "mib")]
+        list(sd.decode_blocks([bytes.fromhex(text), b"\x00"], strict=True))
+    assert [(i, n) for i, n, _ in sd.decode_blocks([b"\x00", bytes.fromhex(text)])] == [(1, "mib")]
+
+
+def late_stream():
+    """The sample cycle heard from its sixth block on: it starts with parts of SIBs never begun."""
+    blocks = [bytes.fromhex(t) for _, t in sample_lines("fdd_cell.bch")]
+    return blocks[5:] + blocks
+
+
+def test_the_docstring_example_runs_on_a_stream_that_starts_mid_sib(capsys):
+    lines = sd.__doc__.split("    import sibdecoder_umts", 1)[1].splitlines()
+    example = ["import sibdecoder_umts" + lines[0]]
+    for line in lines[1:]:
+        if line.strip() and not line.startswith("    "):
+            break
+        example.append(line[4:])
+    code = "\n".join(example)
+    sib3 = next(t for t in (REPO / "samples/fdd_cell_sibs.txt").read_text().split("\n") if t.startswith("sib3 "))
+    exec(code, {"transport_blocks": late_stream(), "sib3_bytes": bytes.fromhex(sib3.split()[1])})
+    out = capsys.readouterr().out
+    assert "umts_sib_decoder returned 0" in out and "sib3 {" in out and "mib {" in out
+
+
+def test_the_readme_example_runs_on_a_stream_that_starts_mid_sib(tmp_path):
+    readme = (REPO / "README.md").read_text()
+    block = next(b for b in readme.split("```sh\n")[1:] if "import sibdecoder_umts" in b)
+    code = block.split("<<'EOF'\n", 1)[1].split("\nEOF\n", 1)[0]
+    late = tmp_path / "late.bch"
+    late.write_text("".join(b.hex() + "\n" for b in late_stream()))
+    code = code.replace("samples/fdd_cell.bch", str(late))
+    env = dict(os.environ, PYTHONPATH=str(PYTHON_DIR))
+    out = subprocess.run([sys.executable, "-c", code], cwd=REPO, env=env, capture_output=True, text=True)
+    assert out.returncode == 0, out.stderr
+    assert "sib3" in out.stdout and "mib" in out.stdout
 
 
 def test_explicit_library_paths():

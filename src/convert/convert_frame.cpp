@@ -8,6 +8,7 @@
 
 #include "umts_rrc_rt.h"
 #include "umts_sib_log.h"
+#include "../frame/decoder_state.h"
 
 /* The frame's texts are plain constants without conversions; they go to the log service as
    its format, exactly as written. */
@@ -21,8 +22,8 @@ void umts_frame_say(const umts_frame_message* message) {
   switch (message->channel) {
     case UMTS_FRAME_LOG_ERROR: UMTS_LOG_ERROR(message->text); break;
     case UMTS_FRAME_LOG_TRACE: UMTS_LOG_TRACE(message->text); break;
-    case UMTS_FRAME_PUTS: std::puts(message->text); break;
-    case UMTS_FRAME_PRINTF: std::fputs(message->text, stdout); break;
+    case UMTS_FRAME_PUTS: umts_say(message->text); break;
+    case UMTS_FRAME_PRINTF: umts_say_part(message->text); break;
     case UMTS_FRAME_QUIET: break;
   }
 }
@@ -43,7 +44,7 @@ uint8_t umts_frame_open(rtxContext* ctx, const umts_frame_desc* desc) {
   umts_frame_say(&desc->initialised);
   /* The fixed length, whatever the slot holds: every slot buffer is at least this long. A
      null buffer is refused here and leaves the context without bytes to decode. */
-  pu_setBuffer(ctx, g_umts_ctxt.slots[desc->slot].buffer, UMTS_SIB_DECODE_LENGTH, 0);
+  pu_setBuffer(ctx, umts_ctxt().slots[desc->slot].buffer, UMTS_SIB_DECODE_LENGTH, 0);
   return 1;
 }
 

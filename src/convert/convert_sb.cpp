@@ -12,6 +12,7 @@
 
 #include "convert_frame.h"
 #include "umts_sib_convert.h"
+#include "../frame/decoder_state.h"
 
 namespace {
 
@@ -132,9 +133,9 @@ void fill_sib_type(const SIB_TypeAndTag* src, umts_sib_type* dst) {
     case 29:
     case 30:
     case 31:
-    case 32: std::puts(kNoValue); break;
+    case 32: umts_say(kNoValue); break;
     case 10: /* dummy3: no value, and nothing said */ break;
-    default: std::puts("\nfill_sib_type: No such option available"); break;
+    default: umts_say("\nfill_sib_type: No such option available"); break;
   }
 }
 

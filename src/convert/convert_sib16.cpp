@@ -19,6 +19,7 @@
 #include "convert_frame.h"
 #include "convert_list.h"
 #include "umts_sib_convert.h"
+#include "../frame/decoder_state.h"
 
 namespace {
 
@@ -185,7 +186,7 @@ void decode_rlc_info_choice(const RLC_InfoChoice* src, umts_sib16_rlc_info_choic
   } else if (src->t == 2) {
     dst->u.same_as_RB = src->u.same_as_RB;
   } else {
-    puts("\ndecode_rlc_info_choice:No such option available");
+    umts_say("\ndecode_rlc_info_choice:No such option available");
   }
 }
 
@@ -209,7 +210,7 @@ void decode_ul_rlc_mode(const UL_RLC_Mode* src, umts_sib16_ul_rlc_mode* dst) {
   } else if (src->t == 3) {
     if (src->u.ul_TM_RLC_Mode != nullptr) decode_ul_tm_rlc_mode(src->u.ul_TM_RLC_Mode, &dst->u.ul_TM_RLC_Mode);
   } else {
-    puts("\ndecode_ul_rlc_mode:No such option available");
+    umts_say("\ndecode_ul_rlc_mode:No such option available");
   }
 }
 
@@ -251,7 +252,7 @@ void decode_transmission_rlc_discard(const TransmissionRLC_Discard* src, umts_si
         decode_max_dat_retransmissions(src->u.maxDAT_Retransmissions, &dst->u.maxDAT_Retransmissions);
       break;
     case 4: dst->u.noDiscard = src->u.noDiscard; break;
-    default: puts("\ndecode_transmission_rlc_discard:No such option available");
+    default: umts_say("\ndecode_transmission_rlc_discard:No such option available");
   }
 }
 
@@ -289,7 +290,7 @@ void decode_dl_rlc_mode(const DL_RLC_Mode* src, umts_sib16_dl_rlc_mode* dst) {
   } else if (src->t == 2) {
     if (src->u.dl_TM_RLC_Mode != nullptr) decode_dl_tm_rlc_mode(src->u.dl_TM_RLC_Mode, &dst->u.segmentationIndication);
   } else {
-    puts("\ndecode_dl_rlc_mode:No such option available");
+    umts_say("\ndecode_dl_rlc_mode:No such option available");
   }
 }
 
@@ -334,7 +335,7 @@ void decode_ul_logical_channel_mappings_s(const UL_LogicalChannelMappings* src, 
   } else if (src->t == 2) {
     if (src->u.twoLogicalChannels != nullptr) fill_ul_logical_channel_mapping_list(src->u.twoLogicalChannels, &dst->u.twoLogicalChannels);
   } else {
-    puts("\ndecode_ul_logical_channel_mappings_s:No such option available");
+    umts_say("\ndecode_ul_logical_channel_mappings_s:No such option available");
   }
 }
 
@@ -365,8 +366,8 @@ void decode_ul_transport_channel_type(const UL_TransportChannelType* src, umts_s
   dst->choice_tag = src->t;
   if (src->t == 1) dst->u.dch = src->u.dch;
   else if (src->t == 4) dst->u.usch = src->u.usch;
-  else if (src->t == 2 || src->t == 3) puts("decode_ul_transport_channel_type: Not used");
-  else puts("\ndecode_ul_transport_channel_type:No such option available");
+  else if (src->t == 2 || src->t == 3) umts_say("decode_ul_transport_channel_type: Not used");
+  else umts_say("\ndecode_ul_transport_channel_type:No such option available");
 }
 
 void fill_ul_logical_channel_mapping_rlc_size_list(const UL_LogicalChannelMapping_rlc_SizeList* src, umts_sib16_rlc_size_list* dst) {
@@ -374,9 +375,9 @@ void fill_ul_logical_channel_mapping_rlc_size_list(const UL_LogicalChannelMappin
   if (src->t == 3) {
     if (src->u.explicitList != nullptr) fill_rlc_size_explicit_list(src->u.explicitList, dst);
   } else if (src->t == 1 || src->t == 2) {
-    puts("\nfill_ul_logical_channel_mapping_rlc_size_list: Option not used");
+    umts_say("\nfill_ul_logical_channel_mapping_rlc_size_list: Option not used");
   } else {
-    puts("\nfill_ul_logical_channel_mapping_rlc_size_list:No such option available");
+    umts_say("\nfill_ul_logical_channel_mapping_rlc_size_list:No such option available");
   }
 }
 
@@ -416,9 +417,9 @@ void decode_dl_transport_channel_type(const DL_TransportChannelType* src, umts_s
       dst->u.dch_and_dsch.dsch_transport_ch_id = src->u.dch_and_dsch->dsch_transport_ch_id;
     }
   } else if (src->t == 2) {
-    puts("\ndecode_dl_transport_channel_type: Option not used");
+    umts_say("\ndecode_dl_transport_channel_type: Option not used");
   } else {
-    puts("\ndecode_dl_transport_channel_type:No such option available");
+    umts_say("\ndecode_dl_transport_channel_type:No such option available");
   }
 }
 
@@ -440,7 +441,7 @@ void decode_pdcp_info(const PDCP_Info* src, umts_sib16_pdcp_info* dst) {
 void decode_lossless_srns_reloc_support(const LosslessSRNS_RelocSupport* src, umts_sib16_lossless_srns_reloc_support* dst) {
   dst->choice_tag = src->t;
   if (src->t == 1) dst->u.supported = src->u.supported;
-  else puts("decode_lossless_srns_reloc_support:no such option available");
+  else umts_say("decode_lossless_srns_reloc_support:no such option available");
 }
 
 void decode_header_compression_info_list(const HeaderCompressionInfoList* src, umts_sib16_open_list* dst) {
@@ -458,7 +459,7 @@ void decode_algorithm_specific_info(const AlgorithmSpecificInfo* src, umts_sib16
   if (src->t == 1) {
     if (src->u.rfc2507_Info != nullptr) decode_rfc2507_info(src->u.rfc2507_Info, &dst->u.rfc2507_Info);
   } else {
-    puts("decode_algorithm_specific_info:No such option available");
+    umts_say("decode_algorithm_specific_info:No such option available");
   }
 }
 

@@ -10,6 +10,7 @@
 
 #include "convert_frame.h"
 #include "umts_sib_convert.h"
+#include "../frame/decoder_state.h"
 
 namespace {
 
@@ -164,7 +165,7 @@ void fill_cleared_v6b0_nce(const SysInfoType18_v6b0NonCriticalExtensions* value,
 uint8_t fill_sysinfotype18_v3a0_nce(const SysInfoType18_v6b0NonCriticalExtensions* value,
                                     umts_sysinfotype18_v6b0_nce* record) {
   if (value == nullptr) {
-    puts("fill_sysinfotype18_v3a0_nce: null value received for p_v6b0NonCriticalExtensions");
+    umts_say("fill_sysinfotype18_v3a0_nce: null value received for p_v6b0NonCriticalExtensions");
     return 0;
   }
   umts_clear_record(record);

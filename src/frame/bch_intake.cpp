@@ -1,8 +1,10 @@
 /*
  * BCH entry and segment collection: each transport block's segments are filed in the slots
- * of their SIBs in g_umts_ctxt, and the SIBs completed by the block are converted.
+ * of their SIBs in the state of the instance being decoded (g_umts_ctxt for the global
+ * entry), and the SIBs completed by the block are converted.
  *
- * Diagnostics of this unit go to standard output with puts or printf, unguarded.
+ * Diagnostics of this unit are messages of the current print state (see decoder_state.h):
+ * on standard output with puts or printf, unguarded, for the process's own state.
  *
  * Slot invariant: write_cursor is null or points into `buffer`, which then came from a first
  * segment and holds UMTS_SIB_DECODE_LENGTH bytes; write_bit is below 8. A complete SIB that
@@ -28,6 +30,7 @@
 #include "umts_rrc_rt_print.h"
 #include "umts_sib_decoder.h"
 #include "umts_sib_frame.h"
+#include "decoder_state.h"
 
 namespace {
 
@@ -73,7 +76,7 @@ void take_complete(umts_sib_slot* slot, uint8_t* bytes) {
    not kept (filing every one as SIB11bis would decode, say, a SIB19 as a SIB11bis). */
 umts_sib_id slot_of(uint32_t sib_type, uint32_t segment) {
   const umts_sib_id id = get_sib_type(sib_type);
-  if (id == umts_sib_sib11bis && umts_sib11bis_scheduled_at(g_umts_ctxt.sfn_prime, segment) == 0) return umts_sib_count;
+  if (id == umts_sib_sib11bis && umts_sib11bis_scheduled_at(umts_ctxt().sfn_prime, segment) == 0) return umts_sib_count;
   return id;
 }
 
@@ -116,10 +119,10 @@ SegmentResult file_segment(uint32_t sib_type, uint8_t index, uint32_t numbits, c
                            uint32_t capacity, bool subsequent, const char* invalid_text) {
   const umts_sib_id id = slot_of(sib_type, index);
   if (id == umts_sib_count) {
-    std::puts(invalid_text);
+    umts_say(invalid_text);
     return kSegmentRefused;
   }
-  umts_sib_slot* slot = &g_umts_ctxt.slots[id];
+  umts_sib_slot* slot = &umts_ctxt().slots[id];
   if (static_cast<int>(index) != static_cast<int>(slot->total_segments) - static_cast<int>(slot->remaining_segments)) {
     empty_slot(slot);
     return kSegmentRefused;
@@ -139,10 +142,10 @@ uint8_t file_first_segment(uint32_t sib_type, uint8_t seg_count, uint32_t numbit
                            uint32_t capacity, const char* invalid_text, const char* alloc_text) {
   const umts_sib_id id = slot_of(sib_type, 0);
   if (id == umts_sib_count) {
-    std::puts(invalid_text);
+    umts_say(invalid_text);
     return 0;
   }
-  umts_sib_slot* slot = &g_umts_ctxt.slots[id];
+  umts_sib_slot* slot = &umts_ctxt().slots[id];
   slot->total_segments = seg_count;
   slot->remaining_segments = static_cast<uint8_t>(seg_count - 1u);
   uint8_t* bytes = new_slot_buffer();
@@ -150,7 +153,7 @@ uint8_t file_first_segment(uint32_t sib_type, uint8_t seg_count, uint32_t numbit
   slot->write_bit = 0;
   if (bytes == nullptr) {
     if (alloc_text != nullptr) {
-      std::puts(alloc_text);
+      umts_say(alloc_text);
     } else {
       /* The long first segment stores the null pointer as its buffer too; nothing is
          written through it. */
@@ -185,15 +188,15 @@ ListOutcome file_complete_list(const CompleteSIB_List* list, const char* invalid
     outcome.last_filed = false;
     const umts_sib_id id = slot_of(entry->sib_Type, 0);
     if (id == umts_sib_count) {
-      std::puts(invalid_text);
+      umts_say(invalid_text);
       outcome.all_filed = false;
       continue;
     }
-    umts_sib_slot* slot = &g_umts_ctxt.slots[id];
+    umts_sib_slot* slot = &umts_ctxt().slots[id];
     uint8_t* bytes = new_slot_buffer();
     take_complete(slot, bytes);
     if (bytes == nullptr) {
-      std::puts(alloc_text);
+      umts_say(alloc_text);
       outcome.all_filed = false;
       outcome.out_of_memory = true;
       continue;
@@ -316,13 +319,13 @@ uint8_t check_decode_complete_SIB(const CompleteSIB* sib) {
   if (sib == nullptr) return 0;
   const umts_sib_id id = slot_of(sib->sib_Type, 0);
   if (id == umts_sib_count) {
-    std::puts("check_decode_complete_SIB:invalid sib type");
+    umts_say("check_decode_complete_SIB:invalid sib type");
     return 0;
   }
   uint8_t* bytes = new_slot_buffer();
-  take_complete(&g_umts_ctxt.slots[id], bytes);
+  take_complete(&umts_ctxt().slots[id], bytes);
   if (bytes == nullptr) {
-    std::puts("check_decode_complete_SIB: Memory Allocation Failure");
+    umts_say("check_decode_complete_SIB: Memory Allocation Failure");
     return 0;
   }
   std::memcpy(bytes, sib->sib_Data_fixed.data, octets_within(sib->sib_Data_fixed.numbits, sizeof sib->sib_Data_fixed.data));
@@ -334,13 +337,13 @@ uint8_t umts_check_and_decode_sibs(rtxContext* context, const BCCH_BCH_Message* 
   (void)context;
   if (message == nullptr) return 0;
   /* The frames of the block tell which extension SIB its extensionType parts carry. */
-  g_umts_ctxt.sfn_prime = static_cast<uint16_t>(message->message.sfn_Prime & 0x7FFu);
+  umts_ctxt().sfn_prime = static_cast<uint16_t>(message->message.sfn_Prime & 0x7FFu);
   const SystemInformation_BCH_payload* payload = &message->message.payload;
   uint8_t status = 0;
   bool completes = true; /* whether the alternative can complete a SIB */
   switch (payload->t) {
     case 1:
-      std::puts("No system info provided");
+      umts_say("No system info provided");
       completes = false;
       break;
     case 2:
@@ -363,7 +366,7 @@ uint8_t umts_check_and_decode_sibs(rtxContext* context, const BCCH_BCH_Message* 
       completes = false;
       break;
     default:
-      std::fputs("umts_check_and_decode_sibs:Invalid Option recived as asn_decoded_sibs->message.payload.t", stdout);
+      umts_say_part("umts_check_and_decode_sibs:Invalid Option recived as asn_decoded_sibs->message.payload.t");
       completes = false;
       break;
   }
@@ -372,15 +375,15 @@ uint8_t umts_check_and_decode_sibs(rtxContext* context, const BCCH_BCH_Message* 
      same; each pass clears at least one request, so this ends. Without a record the segments
      are filed all the same, and completed SIBs wait in their slots for a call with one. */
   if (result != nullptr) {
-    while (g_umts_ctxt.request_bitmask != 0) decode_system_info_msg(result);
+    while (umts_ctxt().request_bitmask != 0) decode_system_info_msg(result);
   }
   return status;
 }
 
-uint8_t umts_sib_decoder(const uint8_t* data, umts_sib_set* result, uint32_t length) {
+uint8_t umts_decode_transport_block(const uint8_t* data, umts_sib_set* result, uint32_t length) {
   rtxContext ctx;
   if (rtInitContextUsingKey(&ctx, nullptr, 0) != 0) {
-    std::puts("ASN context initialisation failed ");
+    umts_say("ASN context initialisation failed ");
     return 0;
   }
   /* A null `data` leaves the buffer empty and the decoding fails at its first bit. */
@@ -389,7 +392,9 @@ uint8_t umts_sib_decoder(const uint8_t* data, umts_sib_set* result, uint32_t len
   std::memset(&message, 0, sizeof message);
   const int stat = asn1PD_UMTS_BCCH_BCH_Message(&ctx, &message);
   if (stat != 0) {
-    std::printf("Can't decode BCH: %d", stat);
+    char text[40];
+    std::snprintf(text, sizeof text, "Can't decode BCH: %d", stat);
+    umts_say_part(text);
     rtFreeContext(&ctx);
     return 0;
   }

@@ -11,6 +11,7 @@
 #include "umts_sib_decoder.h"
 #include "umts_sib_frame.h"
 #include "umts_sib_log.h"
+#include "decoder_state.h"
 
 umts_decoder_ctxt g_umts_ctxt;
 
@@ -108,46 +109,46 @@ uint32_t sib_id_value(const umts_sib_id& sib_id) {
 
 umts_sib_id get_sib_type(uint32_t sib_type) {
   umts_sib_id id = sib_type < 32u ? static_cast<umts_sib_id>(kSlotOfSibType[sib_type]) : umts_sib_count;
-  if (id == umts_sib_count) std::puts("get_sib_type:No such option available ");
+  if (id == umts_sib_count) umts_say("get_sib_type:No such option available ");
   return id;
 }
 
 void umts_sib_decoder_set_gb_ctxt_bitmask(umts_sib_id sib_id) {
   const uint32_t id = sib_id_value(sib_id);
   if (id < umts_sib_count) {
-    g_umts_ctxt.request_bitmask |= 1u << id;
+    umts_ctxt().request_bitmask |= 1u << id;
   } else {
     UMTS_LOG_ERROR("umts_sib_decoder_set_gb_ctxt_bitmask:no such option available");
   }
-  UMTS_LOG_TRACE("ASN context filled bitmask=%ld", static_cast<long>(g_umts_ctxt.request_bitmask));
+  UMTS_LOG_TRACE("ASN context filled bitmask=%ld", static_cast<long>(umts_ctxt().request_bitmask));
 }
 
 uint8_t decode_system_info_msg(umts_sib_set* result) {
   /* Without a record the conversions have nowhere to go: the waiting SIBs stay in their
      slots, requested, for a call that brings one. With nothing waiting this is a success. */
-  if (result == nullptr) return g_umts_ctxt.request_bitmask == 0 ? 1 : 0;
+  if (result == nullptr) return umts_ctxt().request_bitmask == 0 ? 1 : 0;
   /* The conversions read their slots only, so the mask read here stays valid for the pass. */
-  const uint32_t requests = g_umts_ctxt.request_bitmask;
+  const uint32_t requests = umts_ctxt().request_bitmask;
   for (unsigned id = 0; id < umts_sib_count; id++) {
     const uint32_t bit = 1u << id;
     if ((requests & bit) == 0) continue;
     const uint8_t converted = convert_slot(id, result);
-    umts_sib_slot* slot = &g_umts_ctxt.slots[id];
+    umts_sib_slot* slot = &umts_ctxt().slots[id];
     std::free(slot->buffer);
     std::memset(slot, 0, sizeof *slot);
     if (converted == 0) {
       log_conversion_failure(id);
-      g_umts_ctxt.request_bitmask ^= bit;
+      umts_ctxt().request_bitmask ^= bit;
       return 0;
     }
     result->presence_bitmask = static_cast<uint16_t>(result->presence_bitmask | bit);
     note_schedule(id, result);
   }
-  g_umts_ctxt.request_bitmask = 0;
+  umts_ctxt().request_bitmask = 0;
   return 1;
 }
 
-uint8_t umts_sib_msg_decoder(umts_sib_id sib_id, const uint8_t* data, umts_sib_set* result, uint32_t length) {
+uint8_t umts_decode_whole_sib(umts_sib_id sib_id, const uint8_t* data, umts_sib_set* result, uint32_t length) {
   if (data == nullptr || result == nullptr || length - 1u >= 0x800u) {
     UMTS_LOG_ERROR("Invalid param!");
     return 0;
@@ -172,7 +173,7 @@ uint8_t umts_sib_msg_decoder(umts_sib_id sib_id, const uint8_t* data, umts_sib_s
      long as the conversions' decode window, zero beyond the SIB. A write cursor still
      pointing into the old buffer is detached: later segments of a collection that was under
      way keep counting but write nothing, so these bytes stay as they were given. */
-  umts_sib_slot* slot = &g_umts_ctxt.slots[id];
+  umts_sib_slot* slot = &umts_ctxt().slots[id];
   const size_t size = length > UMTS_SIB_DECODE_LENGTH ? length : UMTS_SIB_DECODE_LENGTH;
   uint8_t* bytes = static_cast<uint8_t*>(std::calloc(size, 1));
   std::free(slot->buffer);

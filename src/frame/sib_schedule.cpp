@@ -16,6 +16,7 @@
 
 #include "umts_sib_decoder.h"
 #include "umts_sib_frame.h"
+#include "decoder_state.h"
 
 namespace {
 
@@ -47,7 +48,7 @@ uint32_t offset(const umts_scheduling_info& info, uint32_t i) {
 
 void umts_note_sib11bis_schedule(unsigned source, const umts_ext_sib_type_info_scheduling_info_list* list) {
   if (source >= umts_schedule_count) return;
-  umts_sib11bis_schedule* s = &g_umts_ctxt.sib11bis_schedules[source];
+  umts_sib11bis_schedule* s = &umts_ctxt().sib11bis_schedules[source];
   std::memset(s, 0, sizeof *s);
   if (list == nullptr) return;
   for (uint32_t i = 0; i < list->count && i < 32u; i++) {
@@ -71,7 +72,7 @@ void umts_note_sib11bis_schedule(unsigned source, const umts_ext_sib_type_info_s
 uint8_t umts_sib11bis_scheduled_at(uint16_t sfn_prime, uint32_t segment) {
   if (segment >= kMaxSegments) return 0;
   const uint32_t sfn = 2u * (sfn_prime & 0x7FFu);
-  for (const umts_sib11bis_schedule& s : g_umts_ctxt.sib11bis_schedules) {
+  for (const umts_sib11bis_schedule& s : umts_ctxt().sib11bis_schedules) {
     if (s.scheduled != 0 && s.rep != 0 && segment < s.seg_count && sfn % s.rep == s.frame[segment]) return 1;
   }
   return 0;

@@ -13,6 +13,7 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cstdint>
 #include <cstring>
 
@@ -21,14 +22,12 @@
 
 namespace {
 
-struct Mapping {
-  uintptr_t base;
-  size_t length;
-};
-
-/* Sets alive at once; a set beyond them is still allocated, and cleared by writing. */
+/* Sets alive at once; a set beyond them is still allocated, and cleared by writing. Every
+   set has the same length, so an entry is its base address alone (0: free). The table is
+   the one piece of the library that threads share: entries are taken and given back with
+   atomic operations, so that sets are made and released on any thread while others decode. */
 constexpr int kMaxMappings = 16;
-Mapping g_mappings[kMaxMappings];
+std::atomic<uintptr_t> g_mappings[kMaxMappings];
 
 size_t page_size() {
   static const size_t size = static_cast<size_t>(sysconf(_SC_PAGESIZE));
@@ -41,8 +40,11 @@ size_t mapped_length() {
 }
 
 bool in_mapping(uintptr_t begin, uintptr_t end) {
-  for (const Mapping& m : g_mappings)
-    if (m.length != 0 && begin >= m.base && end <= m.base + m.length) return true;
+  const size_t length = mapped_length();
+  for (const std::atomic<uintptr_t>& m : g_mappings) {
+    const uintptr_t base = m.load(std::memory_order_acquire);
+    if (base != 0 && begin >= base && end <= base + length) return true;
+  }
   return false;
 }
 
@@ -54,19 +56,20 @@ umts_sib_set* umts_sib_set_alloc(void) {
   /* Small pages: only the pages that conversions write become resident, and a first touch
      costs a 4 KiB page, not the zeroing of a 2 MiB one. */
   madvise(p, mapped_length(), MADV_NOHUGEPAGE);
-  for (Mapping& m : g_mappings) {
-    if (m.length == 0) {
-      m = {reinterpret_cast<uintptr_t>(p), mapped_length()};
-      break;
-    }
+  for (std::atomic<uintptr_t>& m : g_mappings) {
+    uintptr_t free_entry = 0;
+    if (m.compare_exchange_strong(free_entry, reinterpret_cast<uintptr_t>(p), std::memory_order_acq_rel)) break;
   }
   return static_cast<umts_sib_set*>(p);
 }
 
 void umts_sib_set_free(umts_sib_set* set) {
   if (set == nullptr) return;
-  for (Mapping& m : g_mappings)
-    if (m.base == reinterpret_cast<uintptr_t>(set)) m = {0, 0};
+  uintptr_t base = reinterpret_cast<uintptr_t>(set);
+  for (std::atomic<uintptr_t>& m : g_mappings) {
+    uintptr_t expected = base;
+    if (m.compare_exchange_strong(expected, 0, std::memory_order_acq_rel)) break;
+  }
   munmap(set, mapped_length());
 }
 

@@ -910,7 +910,13 @@ void SummaryWriter::write(const SummaryNode& summary) {
 }
 
 void SummaryWriter::finish(const CellCollection& cells) {
-  for (const auto& cell : cells.cells()) write(cell_summary(*cell));
+  std::vector<const CellRecords*> order;
+  for (const auto& cell : cells.cells()) order.push_back(cell.get());
+  finish(order);
+}
+
+void SummaryWriter::finish(const std::vector<const CellRecords*>& cells) {
+  for (const CellRecords* cell : cells) write(cell_summary(*cell));
   if (!any_) {
     if (format_ == "json") std::fprintf(out_, "{\"cell\":null,\"missing\":\"no block of any cell was converted\"}\n");
     else if (format_ == "text") std::fprintf(out_, "no block of any cell was converted\n");

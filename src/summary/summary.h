@@ -166,6 +166,8 @@ class SummaryWriter {
   void write(const SummaryNode& summary);
   /* The cells as they stand at the end of the input. */
   void finish(const CellCollection& cells);
+  /* The same, of cells in the order given. */
+  void finish(const std::vector<const CellRecords*>& cells);
 
  private:
   FILE* out_;

@@ -229,7 +229,7 @@ TEST(Sibdump, HelpAndUsageErrors) {
       {"--log-level many", "--log-level needs a number"},
       {"--asn1-text", "option --asn1-text needs a value"},
       {"--asn1-text /nonexistent/dir/out.txt /dev/null", "cannot open '/nonexistent/dir/out.txt'"},
-      {"a.bch b.bch", "one input file only"},
+      {"--jobs 0 /dev/null", "--jobs needs a number from 1 to 1024"},
   };
   for (const auto& e : errors) {
     const Outcome r = run(kSibdump, e.args);

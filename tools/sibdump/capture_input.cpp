@@ -64,11 +64,11 @@ FILE* peek_input(FILE* in, const char* name, bool* is_capture) {
   return f;
 }
 
-int run_capture(FILE* in, const char* name, umts_sib_set* set, const RecordOutput& output) {
-  CellFeed feed(set, output, name, "frame");
-  const long frames = read_capture(in, name, feed, stderr);
+int run_capture(FILE* in, const char* name, FrameSink& feed, FILE* messages) {
+  const long frames = read_capture(in, name, feed, messages);
+  feed.finish();
   if (frames < 0) return 2;
-  feed.summary(stderr, static_cast<unsigned long>(frames));
+  feed.summary(messages, static_cast<unsigned long>(frames));
   return feed.errors() != 0 ? 1 : 0;
 }
 
@@ -76,7 +76,7 @@ int run_capture(FILE* in, const char* name, umts_sib_set* set, const RecordOutpu
 
 bool capture_input_available() { return false; }
 
-long read_capture(FILE* in, const char* name, CellFeed&, FILE* messages) {
+long read_capture(FILE* in, const char* name, FrameSink&, FILE* messages) {
   std::fclose(in);
   std::fprintf(messages,
                "sibdump: %s is a pcap or pcapng capture, but this sibdump was built without capture input "
@@ -124,7 +124,7 @@ bool link_of(int dlt, gsmtap::Link* link) {
 
 }  // namespace
 
-long read_capture(FILE* in, const char* name, CellFeed& feed, FILE* messages) {
+long read_capture(FILE* in, const char* name, FrameSink& feed, FILE* messages) {
   char error[PCAP_ERRBUF_SIZE] = "";
   pcap_t* pcap = pcap_fopen_offline_with_tstamp_precision(in, PCAP_TSTAMP_PRECISION_MICRO, error);
   if (pcap == nullptr) {

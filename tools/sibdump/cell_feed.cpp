@@ -13,19 +13,14 @@ namespace {
 constexpr size_t kMaxBchOctets = 64;   /* as for hexadecimal input */
 constexpr size_t kMaxSibOctets = 2048; /* what umts_sib_msg_decoder accepts */
 
-void release_slots(umts_decoder_ctxt* ctxt) {
-  for (umts_sib_slot& slot : ctxt->slots) std::free(slot.buffer);
-  std::memset(ctxt, 0, sizeof *ctxt);
-}
-
 }  // namespace
 
-CellFeed::CellFeed(umts_sib_set* set, RecordOutput output, std::string input, const char* unit, FILE* messages)
-    : set_(set), output_(std::move(output)), input_(std::move(input)), unit_(unit), messages_(messages) {}
+CellFeed::CellFeed(umts_sib_set* set, RecordOutput output, std::string input, const char* unit, FILE* messages,
+                   FILE* text)
+    : set_(set), output_(std::move(output)), input_(std::move(input)), unit_(unit), messages_(messages), text_(text) {}
 
 CellFeed::~CellFeed() {
-  /* Each cell's copy owns its slot buffers; g_umts_ctxt holds none between calls. */
-  for (auto& c : cells_) release_slots(&c.second.ctxt);
+  for (auto& c : cells_) umts_sib_decoder_free(c.second.decoder);
 }
 
 std::string CellFeed::time_text(uint64_t time_us) {
@@ -39,7 +34,7 @@ std::string CellFeed::time_text(uint64_t time_us) {
 }
 
 void CellFeed::message(unsigned long number, const std::string& why) const {
-  std::fflush(stdout); /* the library's text may be going to standard error too */
+  if (text_ == stdout) std::fflush(stdout); /* the text may be going to standard error too */
   std::fprintf(messages_, "sibdump: %s: %s %lu: %s\n", input_.c_str(), unit_, number, why.c_str());
 }
 
@@ -57,7 +52,15 @@ void CellFeed::datagram(unsigned long number, uint64_t time_us, const gsmtap::Da
     return;
   }
   const uint16_t arfcn = gsmtap::arfcn_number(h.arfcn);
-  Cell& cell = cells_[Key(d.source, arfcn)];
+  Cell& cell = cells_[CellKey(d.source, arfcn)];
+  if (cell.decoder == nullptr) {
+    cell.decoder = umts_sib_decoder_new();
+    if (cell.decoder == nullptr) {
+      std::fprintf(stderr, "sibdump: out of memory\n");
+      std::exit(2);
+    }
+    umts_sib_decoder_print_to(cell.decoder, text_);
+  }
   int sib_id = -1;
   const gsmtap::Use use = h.type == gsmtap::kTypeUmtsRrc ? gsmtap::use_of(h.sub_type, &sib_id) : gsmtap::Use::other;
   if (use == gsmtap::Use::other || use == gsmtap::Use::not_converted) {
@@ -85,19 +88,17 @@ void CellFeed::datagram(unsigned long number, uint64_t time_us, const gsmtap::Da
 }
 
 void CellFeed::decode(Cell& cell, bool transport_block, int sib_id, const uint8_t* data, size_t length) {
-  /* The cell's slots go into the library's global for this call and come out again; the
-     global is left empty, so that every buffer has exactly one owner at any time. */
-  g_umts_ctxt = cell.ctxt;
   set_->presence_bitmask = 0;
   if (transport_block) {
     cell.counts.blocks++;
-    umts_sib_decoder(data, set_, static_cast<uint32_t>(length));
+    umts_sib_decoder_feed_block(cell.decoder, data, set_, static_cast<uint32_t>(length));
   } else {
     cell.counts.sibs++;
-    umts_sib_msg_decoder(static_cast<umts_sib_id>(sib_id), data, set_, static_cast<uint32_t>(length));
+    umts_sib_decoder_feed_sib(cell.decoder, static_cast<umts_sib_id>(sib_id), data, set_, static_cast<uint32_t>(length));
   }
-  cell.ctxt = g_umts_ctxt;
-  std::memset(&g_umts_ctxt, 0, sizeof g_umts_ctxt);
+  /* On standard output a decoder hands its text over after each value; elsewhere the text of
+     each call goes out now, so that the cells' texts keep the order of the calls. */
+  if (text_ != nullptr && text_ != stdout) umts_sib_decoder_print_flush(cell.decoder);
 }
 
 unsigned long CellFeed::cell_errors() const {
@@ -106,22 +107,32 @@ unsigned long CellFeed::cell_errors() const {
   return n;
 }
 
+void CellFeed::add_counts(std::map<CellKey, CellCounts>* cells, unsigned long* not_gsmtap, unsigned long* bad) const {
+  for (const auto& c : cells_) (*cells)[c.first] += c.second.counts;
+  *not_gsmtap += not_gsmtap_;
+  *bad += bad_;
+}
+
 void CellFeed::summary(FILE* out, unsigned long frames) const {
+  std::map<CellKey, CellCounts> cells;
+  unsigned long not_gsmtap = 0, bad = 0;
+  add_counts(&cells, &not_gsmtap, &bad);
+  write_counts(out, unit_, frames, cells, not_gsmtap, bad);
+}
+
+void CellFeed::write_counts(FILE* out, const char* unit, unsigned long frames, const std::map<CellKey, CellCounts>& cells,
+                            unsigned long not_gsmtap, unsigned long bad) {
   CellCounts total;
-  for (const auto& c : cells_) {
-    const CellCounts& n = c.second.counts;
+  for (const auto& c : cells) {
+    const CellCounts& n = c.second;
     std::fprintf(out, "sibdump: cell %s ARFCN %u: %lu blocks, %lu SIBs, %lu records, %lu skipped, %lu errors\n",
                  c.first.first.c_str(), static_cast<unsigned>(c.first.second), n.blocks, n.sibs, n.records, n.skipped,
                  n.errors);
-    total.blocks += n.blocks;
-    total.sibs += n.sibs;
-    total.records += n.records;
-    total.skipped += n.skipped;
-    total.errors += n.errors;
+    total += n;
   }
   std::fprintf(out,
                "sibdump: %lu %ss read, %lu blocks, %lu SIBs, %lu records written, %lu skipped, %lu not GSMTAP, "
                "%lu bad %ss\n",
-               frames, unit_, total.blocks, total.sibs, total.records, total.skipped, not_gsmtap_,
-               bad_ + total.errors, unit_);
+               frames, unit, total.blocks, total.sibs, total.records, total.skipped, not_gsmtap, bad + total.errors,
+               unit);
 }

@@ -1,9 +1,7 @@
 /*
  * GSMTAP datagrams of several cells through the library, each cell's segments collected
- * apart: the library keeps the slots of a SIB in collection in g_umts_ctxt, so each cell
- * keeps a umts_decoder_ctxt of its own that is moved into g_umts_ctxt for its calls and out
- * again after them. A cell is the sender of the datagrams (the IP source address) and the
- * ARFCN of the GSMTAP header.
+ * apart: each cell has a decoder instance of its own. A cell is the sender of the datagrams
+ * (the IP source address) and the ARFCN of the GSMTAP header.
  */
 #ifndef UMTS_TOOLS_CELL_FEED_H
 #define UMTS_TOOLS_CELL_FEED_H
@@ -31,44 +29,76 @@ struct RecordOutput {
 
 /* Counts of one cell. */
 struct CellCounts {
-  unsigned long blocks = 0;  /* transport blocks handed to umts_sib_decoder */
-  unsigned long sibs = 0;    /* whole SIBs handed to umts_sib_msg_decoder */
+  unsigned long blocks = 0;  /* transport blocks handed to the cell's decoder */
+  unsigned long sibs = 0;    /* whole SIBs handed to it */
   unsigned long records = 0; /* JSON lines written */
   unsigned long skipped = 0; /* GSMTAP messages that are not converted */
   unsigned long errors = 0;  /* GSMTAP messages refused */
+
+  CellCounts& operator+=(const CellCounts& n) {
+    blocks += n.blocks;
+    sibs += n.sibs;
+    records += n.records;
+    skipped += n.skipped;
+    errors += n.errors;
+    return *this;
+  }
 };
 
-class CellFeed {
+/* A cell: the source address and the ARFCN. */
+using CellKey = std::pair<std::string, uint16_t>;
+
+/* What reads frames hands them to: a CellFeed, or several through ParallelFeed. */
+class FrameSink {
+ public:
+  virtual ~FrameSink() = default;
+  /* One UDP datagram from or to the GSMTAP port, number `number` of the input, received at
+     `time_us` (microseconds since 1970). */
+  virtual void datagram(unsigned long number, uint64_t time_us, const gsmtap::Datagram& d) = 0;
+  /* A frame that holds no GSMTAP datagram. */
+  virtual void not_gsmtap() = 0;
+  /* A frame or datagram that cannot be read: the message, with its number. */
+  virtual void bad(unsigned long number, const std::string& why) = 0;
+  /* After the last frame: what is still gathered is decoded and written. */
+  virtual void finish() {}
+  /* The counts on `out`: a line per cell, then the totals. */
+  virtual void summary(FILE* out, unsigned long frames) const = 0;
+  virtual unsigned long errors() const = 0;
+};
+
+class CellFeed : public FrameSink {
  public:
   /* `set` is the caller's result record, reused for every call. `input` names the input in
      the messages ("sibdump: <input>: frame N: ...", written to `messages`); `unit` is "frame"
-     or "datagram". */
-  CellFeed(umts_sib_set* set, RecordOutput output, std::string input, const char* unit, FILE* messages = stderr);
-  ~CellFeed(); /* releases the segments still in collection */
+     or "datagram". The cells' decoders print their ASN.1 text and messages on `text` (null:
+     nowhere). */
+  CellFeed(umts_sib_set* set, RecordOutput output, std::string input, const char* unit, FILE* messages = stderr,
+           FILE* text = nullptr);
+  ~CellFeed() override; /* releases the cells' decoders and the segments in collection */
   CellFeed(const CellFeed&) = delete;
   CellFeed& operator=(const CellFeed&) = delete;
 
-  /* One UDP datagram from or to the GSMTAP port, number `number` of the input, received at
-     `time_us` (microseconds since 1970). */
-  void datagram(unsigned long number, uint64_t time_us, const gsmtap::Datagram& d);
-  /* A frame that holds no GSMTAP datagram. */
-  void not_gsmtap() { not_gsmtap_++; }
-  /* A frame or datagram that cannot be read: the message, with its number. */
-  void bad(unsigned long number, const std::string& why);
+  void datagram(unsigned long number, uint64_t time_us, const gsmtap::Datagram& d) override;
+  void not_gsmtap() override { not_gsmtap_++; }
+  void bad(unsigned long number, const std::string& why) override;
+  void summary(FILE* out, unsigned long frames) const override;
+  unsigned long errors() const override { return bad_ + cell_errors(); }
 
-  /* The summary on standard error: a line per cell, then the totals. */
-  void summary(FILE* out, unsigned long frames) const;
-  unsigned long errors() const { return bad_ + cell_errors(); }
+  /* The counts of each cell, added into `cells`; the frames of other protocols and those
+     refused before a cell was known, added into the two counts. */
+  void add_counts(std::map<CellKey, CellCounts>* cells, unsigned long* not_gsmtap, unsigned long* bad) const;
+  /* The counts as summary() writes them. */
+  static void write_counts(FILE* out, const char* unit, unsigned long frames, const std::map<CellKey, CellCounts>& cells,
+                           unsigned long not_gsmtap, unsigned long bad);
 
   /* "2026-01-01T00:00:00.020000Z" */
   static std::string time_text(uint64_t time_us);
 
  private:
   struct Cell {
-    umts_decoder_ctxt ctxt{}; /* the cell's slots while it is not being decoded */
+    umts_sib_decoder_t* decoder = nullptr; /* the cell's segments in collection */
     CellCounts counts;
   };
-  using Key = std::pair<std::string, uint16_t>; /* source address, ARFCN */
 
   void message(unsigned long number, const std::string& why) const;
   void decode(Cell& cell, bool transport_block, int sib_id, const uint8_t* data, size_t length);
@@ -79,7 +109,8 @@ class CellFeed {
   std::string input_;
   const char* unit_;
   FILE* messages_;
-  std::map<Key, Cell> cells_;
+  FILE* text_;
+  std::map<CellKey, Cell> cells_;
   unsigned long not_gsmtap_ = 0; /* frames of other protocols */
   unsigned long bad_ = 0;        /* frames refused before a cell was known */
 };

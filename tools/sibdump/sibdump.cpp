@@ -7,12 +7,18 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <atomic>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <thread>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <string>
 #include <vector>
 
+#include "parallel_feed.h"
 #include "sibdump_inputs.h"
 #include "summary.h"
 #include "umts_rrc_rt.h"
@@ -27,8 +33,8 @@ constexpr size_t kMaxBchOctets = 64;
 constexpr size_t kMaxSibOctets = 2048; /* what umts_sib_msg_decoder accepts */
 
 const char kUsage[] =
-    "Usage: sibdump [OPTIONS] [FILE]\n"
-    "       sibdump [OPTIONS] CAPTURE.pcap|CAPTURE.pcapng\n"
+    "Usage: sibdump [OPTIONS] [FILE...]\n"
+    "       sibdump [OPTIONS] CAPTURE.pcap|CAPTURE.pcapng...\n"
     "       sibdump [OPTIONS] --udp [[ADDRESS:]PORT]\n"
     "\n"
     "Decodes the system information of a UMTS cell with libsibdecoder_umts and writes every\n"
@@ -45,6 +51,9 @@ const char kUsage[] =
     "  of the whole-SIB sub-types (MIB, SIB1 ... SB2) to umts_sib_msg_decoder; anything else is\n"
     "  counted and skipped. Each cell (the sender's address and the GSMTAP ARFCN) has its\n"
     "  segments collected apart.\n"
+    "\n"
+    "  Several inputs are decoded apart, each from its first line or frame, and written in the\n"
+    "  order given; each JSON line then starts with \"input\" (the file's name).\n"
     "\n"
     "Options:\n"
     "  --sibs             lines are whole SIBs, '<name> <hex>', handed to umts_sib_msg_decoder;\n"
@@ -65,6 +74,9 @@ const char kUsage[] =
     "                     what was not received. FORMAT: text (default), json (one\n"
     "                     object per cell and line) or html (one self-contained page with\n"
     "                     the tables and a drawing of the schedule over the SFN cycle).\n"
+    "  --jobs N           decode on N threads (default: the number of cores): several inputs\n"
+    "                     at once, and the cells of a capture apart; the output is the same\n"
+    "                     bytes as with --jobs 1\n"
     "  -h, --help         show this help\n"
     "\n"
     "Output: after each input line, one line per block converted by that call, e.g.\n"
@@ -94,7 +106,8 @@ const char kUsage[] =
 struct Options {
   bool sibs = false;
   bool help = false;
-  const char* input = nullptr;
+  std::vector<const char*> inputs;
+  unsigned jobs = 0; /* 0: the number of cores */
   const char* asn1_text = nullptr;
   unsigned long log_level = 0;
   bool log_level_set = false;
@@ -170,6 +183,16 @@ bool parse_args(int argc, char** argv, Options* opt) {
     } else if (take_value("--asn1-text")) {
       if (value == nullptr) return false;
       opt->asn1_text = value;
+    } else if (take_value("--jobs")) {
+      if (value == nullptr) return false;
+      char* end = nullptr;
+      errno = 0;
+      const unsigned long jobs = std::strtoul(value, &end, 10);
+      if (*value == '\0' || *end != '\0' || errno != 0 || *value == '-' || jobs == 0 || jobs > 1024) {
+        std::fprintf(stderr, "sibdump: --jobs needs a number from 1 to 1024, not '%s'\n", value);
+        return false;
+      }
+      opt->jobs = static_cast<unsigned>(jobs);
     } else if (take_value("--log-level")) {
       if (value == nullptr) return false;
       char* end = nullptr;
@@ -183,14 +206,11 @@ bool parse_args(int argc, char** argv, Options* opt) {
     } else if (a[0] == '-' && a[1] != '\0') {
       std::fprintf(stderr, "sibdump: unknown option '%s'\n", a);
       return false;
-    } else if (opt->input != nullptr) {
-      std::fprintf(stderr, "sibdump: one input file only ('%s' and '%s')\n", opt->input, a);
-      return false;
     } else {
-      opt->input = a;
+      opt->inputs.push_back(a);
     }
   }
-  if (opt->udp && (opt->input != nullptr || opt->sibs)) {
+  if (opt->udp && (!opt->inputs.empty() || opt->sibs)) {
     std::fprintf(stderr, "sibdump: --udp reads no file and no --sibs\n");
     return false;
   }
@@ -275,6 +295,9 @@ class JsonLines {
 
   bool ok() const { return buf_ != nullptr; }
 
+  /* Members that start every line ("input":"<name>",), or empty. */
+  void set_prefix(std::string prefix) { prefix_ = std::move(prefix); }
+
   /* {"line":N,"block":"<name>","record":<record>}\n */
   void record(unsigned long line, const umts_sib_set* set, umts_sib_id id) {
     put_head(line, umts_sib_name(id));
@@ -284,6 +307,7 @@ class JsonLines {
   /* {<head>,"block":"<name>","record":<record>}\n, `head` being members of the object. */
   void record(const std::string& head, const umts_sib_set* set, umts_sib_id id) {
     put("{", 1);
+    put(prefix_.data(), prefix_.size());
     put(head.data(), head.size());
     put(",\"block\":\"", 10);
     const char* name = umts_sib_name(id);
@@ -321,10 +345,12 @@ class JsonLines {
 
   /* {"line":N,"block":"<name>","record": */
   void put_head(unsigned long line, const char* name) {
+    put("{", 1);
+    put(prefix_.data(), prefix_.size());
     char head[96];
     char* p = head;
-    std::memcpy(p, "{\"line\":", 8);
-    p += 8;
+    std::memcpy(p, "\"line\":", 7);
+    p += 7;
     char digits[24];
     size_t n = 0;
     do {
@@ -374,15 +400,25 @@ class JsonLines {
   char* buf_;
   size_t cap_;
   size_t len_ = 0;
+  std::string prefix_;
 };
 
+/* One stream of decoding: an input, or one worker's share of a capture's cells. */
 struct Dumper {
+  Dumper(JsonLines& j, const char* name, umts_sib_set* s) : json(j), input_name(name), set(s) {}
   JsonLines& json;
   const char* input_name;
   umts_sib_set* set;
+  umts_sib_decoder_t* decoder = nullptr; /* text input: the input's stream */
+  FILE* messages = stderr;
+  FILE* text = nullptr;                  /* where the decoders' text goes, or null */
   Counts counts;
   CellCollection* cells = nullptr;   /* --summary: the records are collected here */
   SummaryWriter* summaries = nullptr; /* and the summaries written here */
+  /* A worker of a capture's cells: what must reach the summary writer goes through here, in
+     the order of the frames, into `order` (the cells in the order first heard). */
+  WorkerOutput* worker = nullptr;
+  std::vector<const CellRecords*>* order = nullptr;
 };
 
 /* Bits set in the set's presence_bitmask: the blocks the last call converted. */
@@ -411,27 +447,41 @@ std::string cell_label(const std::string& key) {
    configuration collected so far, whose summary is written then. */
 void collect(Dumper& d, const std::string& key, const std::string& label) {
   std::vector<SummaryNode> ended;
+  const size_t cells_before = d.cells->cells().size();
   d.cells->take(key, label, d.set, &ended);
-  for (const SummaryNode& n : ended) d.summaries->write(n);
+  if (d.worker == nullptr) {
+    for (const SummaryNode& n : ended) d.summaries->write(n);
+    return;
+  }
+  if (d.cells->cells().size() != cells_before) {
+    const CellRecords* cell = d.cells->cells().back().get();
+    std::vector<const CellRecords*>* order = d.order;
+    d.worker->defer([order, cell] { order->push_back(cell); });
+  }
+  for (SummaryNode& n : ended) {
+    SummaryWriter* summaries = d.summaries;
+    auto node = std::make_shared<SummaryNode>(std::move(n));
+    d.worker->defer([summaries, node] { summaries->write(*node); });
+  }
 }
 
 void bad_line(Dumper& d, unsigned long line, const char* why) {
-  /* The library's text may be going to standard error too: keep the order readable. */
-  umts_sib_print_flush();
+  /* The text may be going to standard error too: keep the order readable. */
+  if (d.decoder != nullptr) umts_sib_decoder_print_flush(d.decoder);
   std::fflush(stdout);
-  std::fprintf(stderr, "sibdump: %s:%lu: %s\n", d.input_name, line, why);
+  std::fprintf(d.messages, "sibdump: %s:%lu: %s\n", d.input_name, line, why);
   d.counts.bad++;
 }
 
 /* A whole SIB16: not a block of umts_sib_set, so sibdump decodes it itself, with its own
-   context and decoded area, through umts_convert_sib16. A failed decode is a bad line. */
+   context and decoded area, through the stream's decoder. A failed decode is a bad line. */
 void convert_sib16(Dumper& d, unsigned long line, uint8_t* bytes, size_t octets) {
-  static uint64_t area[(8 + sizeof(SysInfoType16)) / 8 + 1];
-  static umts_sib16_info record;
+  std::vector<uint64_t> area((8 + sizeof(SysInfoType16)) / 8 + 1);
+  std::unique_ptr<umts_sib16_info> record(new umts_sib16_info);
   rtxContext ctx;
   int status = rtInitContext(&ctx);
   if (status == 0) status = pu_setBuffer(&ctx, bytes, static_cast<uint32_t>(octets), 0);
-  if (status == 0) status = umts_convert_sib16(&ctx, area, &record);
+  if (status == 0) status = umts_sib_decoder_convert_sib16(d.decoder, &ctx, area.data(), record.get());
   rtFreeContext(&ctx);
   if (status != 0) {
     char why[96];
@@ -439,7 +489,7 @@ void convert_sib16(Dumper& d, unsigned long line, uint8_t* bytes, size_t octets)
     bad_line(d, line, why);
     return;
   }
-  if (d.cells == nullptr) d.json.sib16(line, &record); /* a summary does not show SIB16 */
+  if (d.cells == nullptr) d.json.sib16(line, record.get()); /* a summary does not show SIB16 */
   d.counts.records++;
 }
 
@@ -478,6 +528,17 @@ size_t write_records(Dumper& d, const std::string& head) {
   return written;
 }
 
+/* Where a capture's records go (and, with a summary, its blocks). */
+RecordOutput record_output(Dumper& d) {
+  RecordOutput output{[&d](const std::string& head) { return write_records(d, head); }, nullptr};
+  if (d.cells != nullptr)
+    output.block = [&d](const std::string& head, const uint8_t* block, size_t length) {
+      const std::string key = cell_key(head);
+      if (d.cells->has(key)) d.cells->cell(key, cell_label(key)).take_block(block, length);
+    };
+  return output;
+}
+
 void process_line(Dumper& d, bool sibs, unsigned long line, char* text, size_t length) {
   /* A comment runs to the end of the line. */
   const char* hash = static_cast<const char*>(std::memchr(text, '#', length));
@@ -486,7 +547,7 @@ void process_line(Dumper& d, bool sibs, unsigned long line, char* text, size_t l
   while (start < length && is_blank(text[start])) start++;
   if (start == length) return;
 
-  static uint8_t bytes[kMaxSibOctets];
+  uint8_t bytes[kMaxSibOctets];
   char why[160];
   size_t octets = 0;
   d.counts.lines++;
@@ -497,7 +558,7 @@ void process_line(Dumper& d, bool sibs, unsigned long line, char* text, size_t l
     }
     d.counts.blocks++;
     d.set->presence_bitmask = 0;
-    umts_sib_decoder(bytes, d.set, static_cast<uint32_t>(octets));
+    umts_sib_decoder_feed_block(d.decoder, bytes, d.set, static_cast<uint32_t>(octets));
     write_records(d, line);
     if (d.cells != nullptr && d.cells->has("")) d.cells->cell("", d.input_name).take_block(bytes, octets);
     return;
@@ -527,7 +588,7 @@ void process_line(Dumper& d, bool sibs, unsigned long line, char* text, size_t l
     return;
   }
   d.set->presence_bitmask = 0;
-  umts_sib_msg_decoder(static_cast<umts_sib_id>(id), bytes, d.set, static_cast<uint32_t>(octets));
+  umts_sib_decoder_feed_sib(d.decoder, static_cast<umts_sib_id>(id), bytes, d.set, static_cast<uint32_t>(octets));
   write_records(d, line);
 }
 
@@ -577,6 +638,238 @@ FILE* split_stdout(const char* asn1_text) {
   return json;
 }
 
+/* Where one input's output goes. */
+struct Outputs {
+  FILE* json;
+  FILE* text; /* the decoders' ASN.1 text and messages, or null */
+  FILE* messages;
+};
+
+/* A result set from the library, or exit on a shortage. */
+umts_sib_set* new_set() {
+  umts_sib_set* set = umts_sib_set_alloc();
+  if (set == nullptr) {
+    std::fprintf(stderr, "sibdump: out of memory\n");
+    std::exit(2);
+  }
+  return set;
+}
+
+/* A capture's cells on `jobs` threads, each worker with its own result set, record writer
+   and collection of cells; the summaries and the cells' order are kept on this thread. */
+int run_parallel_capture(const Options& opt, FILE* in, const char* name, const Outputs& out, const std::string& prefix,
+                         SummaryWriter& summaries, std::vector<const CellRecords*>& order, unsigned jobs) {
+  struct Worker {
+    umts_sib_set* set;
+    std::unique_ptr<JsonLines> json;
+    std::unique_ptr<CellCollection> cells;
+    std::unique_ptr<Dumper> dumper;
+    ~Worker() { umts_sib_set_free(set); }
+  };
+  std::vector<std::unique_ptr<Worker>> workers;
+  auto make_feed = [&](WorkerOutput& wo) {
+    std::unique_ptr<Worker> w(new Worker);
+    w->set = new_set();
+    w->json.reset(new JsonLines(wo.records()));
+    w->json->set_prefix(prefix);
+    w->dumper.reset(new Dumper(*w->json, name, w->set));
+    Dumper& d = *w->dumper;
+    d.messages = wo.messages();
+    d.text = out.text != nullptr ? wo.text() : nullptr;
+    if (opt.summary != nullptr) {
+      w->cells.reset(new CellCollection);
+      d.cells = w->cells.get();
+      d.summaries = &summaries;
+      d.worker = &wo;
+      d.order = &order;
+    }
+    std::unique_ptr<CellFeed> feed(new CellFeed(d.set, record_output(d), name, "frame", d.messages, d.text));
+    workers.push_back(std::move(w));
+    return feed;
+  };
+  int status;
+  {
+    ParallelFeed feed(jobs, make_feed, [&workers](unsigned w) { workers[w]->json->write_out(); }, out.json,
+                      out.text, out.messages, "frame");
+    status = run_capture(in, name, feed, out.messages);
+  }
+  /* The cells live in the workers' collections. */
+  if (opt.summary != nullptr) summaries.finish(order);
+  return status;
+}
+
+/* One input through its own decoders: records to out.json, text to out.text, messages and
+   counts to out.messages. `label` names the input in the counts when there are several. The
+   cells of a capture are decoded on `jobs` threads. Returns the exit status. */
+int run_input(const Options& opt, const char* path, const Outputs& out, const std::string& prefix, bool several,
+              unsigned jobs) {
+  FILE* in = stdin;
+  const char* input_name = "<stdin>";
+  if (path != nullptr && std::strcmp(path, "-") != 0) {
+    in = std::fopen(path, "r");
+    if (in == nullptr) {
+      std::fprintf(out.messages, "sibdump: cannot open '%s': %s\n", path, std::strerror(errno));
+      return 2;
+    }
+    input_name = path;
+  }
+  bool capture = false;
+  if ((in = peek_input(in, input_name, &capture)) == nullptr) return 2;
+
+  /* The result record is large (fixed arrays of SIB5): one for the whole input, from the
+     library, which then clears each record by what the conversion before wrote instead of
+     writing zeros over all of it. */
+  umts_sib_set* set = new_set();
+  JsonLines lines(out.json);
+  if (!lines.ok()) {
+    std::fprintf(stderr, "sibdump: out of memory\n");
+    std::exit(2);
+  }
+  lines.set_prefix(prefix);
+  Dumper d(lines, input_name, set);
+  d.messages = out.messages;
+  d.text = out.text;
+  CellCollection cells;
+  SummaryWriter summaries(out.json, opt.summary != nullptr ? opt.summary : "text");
+  if (opt.summary != nullptr) {
+    d.cells = &cells;
+    d.summaries = &summaries;
+  }
+  int status;
+  if (capture) {
+    /* run_capture closes `in`. */
+    if (jobs > 1) {
+      std::vector<const CellRecords*> order;
+      status = run_parallel_capture(opt, in, input_name, out, prefix, summaries, order, jobs);
+    } else {
+      {
+        CellFeed feed(set, record_output(d), input_name, "frame", out.messages, out.text);
+        status = run_capture(in, input_name, feed, out.messages);
+      }
+      lines.write_out();
+      if (opt.summary != nullptr) summaries.finish(cells);
+    }
+    umts_sib_set_free(set);
+    return status;
+  }
+
+  d.decoder = umts_sib_decoder_new();
+  if (d.decoder == nullptr) {
+    std::fprintf(stderr, "sibdump: out of memory\n");
+    std::exit(2);
+  }
+  umts_sib_decoder_print_to(d.decoder, out.text);
+  char* text = nullptr;
+  size_t capacity = 0;
+  unsigned long line = 0;
+  ssize_t length;
+  while ((length = getline(&text, &capacity, in)) >= 0) {
+    line++;
+    process_line(d, opt.sibs, line, text, static_cast<size_t>(length));
+  }
+  const bool read_error = std::ferror(in) != 0;
+  std::free(text);
+  std::fclose(in);
+  lines.write_out();
+  if (opt.summary != nullptr) summaries.finish(cells);
+  umts_sib_decoder_free(d.decoder); /* hands over its last text */
+  umts_sib_set_free(set);
+
+  if (several)
+    std::fprintf(out.messages, "sibdump: %s: %lu %s read, %lu records written, %lu bad lines\n", input_name,
+                 d.counts.blocks, opt.sibs ? "SIBs" : "blocks", d.counts.records, d.counts.bad);
+  else
+    std::fprintf(out.messages, "sibdump: %lu %s read, %lu records written, %lu bad lines\n", d.counts.blocks,
+                 opt.sibs ? "SIBs" : "blocks", d.counts.records, d.counts.bad);
+  if (read_error) {
+    std::fprintf(out.messages, "sibdump: error reading %s\n", input_name);
+    return 2;
+  }
+  return d.counts.bad != 0 ? 1 : 0;
+}
+
+/* `from` (a temporary file) appended to `to`. */
+void copy_out(FILE* from, FILE* to) {
+  if (from == nullptr || to == nullptr) return;
+  std::fflush(from);
+  std::rewind(from);
+  char buf[1 << 16];
+  size_t n;
+  while ((n = std::fread(buf, 1, sizeof buf, from)) > 0) std::fwrite(buf, 1, n, to);
+}
+
+/* "input":"<name>", with the name as a JSON string. */
+std::string input_member(const char* name) {
+  std::string m = "\"input\":\"";
+  for (const char* p = name; *p != '\0'; p++) {
+    const unsigned char c = static_cast<unsigned char>(*p);
+    if (c == '"' || c == '\\') {
+      m += '\\';
+      m += static_cast<char>(c);
+    } else if (c < 0x20) {
+      char esc[8];
+      std::snprintf(esc, sizeof esc, "\\u%04x", c);
+      m += esc;
+    } else {
+      m += static_cast<char>(c);
+    }
+  }
+  return m + "\",";
+}
+
+/* Several inputs on `jobs` threads, each into temporary files that are written out in the
+   order of the command line as soon as the inputs before are. */
+int run_inputs(const Options& opt, const Outputs& out, unsigned jobs) {
+  const size_t n = opt.inputs.size();
+  struct Job {
+    FILE* json = nullptr;
+    FILE* text = nullptr;
+    FILE* messages = nullptr;
+    int status = 0;
+    bool done = false;
+  };
+  std::vector<Job> jobs_of(n);
+  std::mutex mutex;
+  std::condition_variable finished;
+  std::atomic<size_t> next(0);
+  auto work = [&] {
+    for (size_t k; (k = next.fetch_add(1)) < n;) {
+      Job& j = jobs_of[k];
+      j.json = std::tmpfile();
+      j.messages = std::tmpfile();
+      j.text = out.text != nullptr ? std::tmpfile() : nullptr;
+      if (j.json == nullptr || j.messages == nullptr || (out.text != nullptr && j.text == nullptr)) {
+        std::fprintf(stderr, "sibdump: cannot make a temporary file: %s\n", std::strerror(errno));
+        std::exit(2);
+      }
+      const Outputs o{j.json, j.text, j.messages};
+      const int status = run_input(opt, opt.inputs[k], o, input_member(opt.inputs[k]), true, 1);
+      std::lock_guard<std::mutex> lock(mutex);
+      j.status = status;
+      j.done = true;
+      finished.notify_all();
+    }
+  };
+  std::vector<std::thread> threads;
+  for (unsigned t = 0; t < jobs && t < n; t++) threads.emplace_back(work);
+  int status = 0;
+  for (size_t k = 0; k < n; k++) {
+    Job& j = jobs_of[k];
+    {
+      std::unique_lock<std::mutex> lock(mutex);
+      finished.wait(lock, [&] { return j.done; });
+    }
+    copy_out(j.messages, out.messages);
+    copy_out(j.json, out.json);
+    copy_out(j.text, out.text);
+    for (FILE* f : {j.json, j.text, j.messages})
+      if (f != nullptr) std::fclose(f);
+    status = std::max(status, j.status);
+  }
+  for (std::thread& t : threads) t.join();
+  return status;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -589,110 +882,54 @@ int main(int argc, char** argv) {
     usage_text(stdout);
     return 0;
   }
-
-  FILE* in = stdin;
-  const char* input_name = "<stdin>";
-  if (opt.input != nullptr && std::strcmp(opt.input, "-") != 0) {
-    in = std::fopen(opt.input, "r");
-    if (in == nullptr) {
-      std::fprintf(stderr, "sibdump: cannot open '%s': %s\n", opt.input, std::strerror(errno));
-      return 2;
-    }
-    input_name = opt.input;
-  }
-  /* A capture is told by its first octets; live input reads no file. */
-  bool capture = false;
-  if (opt.udp) {
-    in = nullptr;
-  } else if ((in = peek_input(in, input_name, &capture)) == nullptr) {
-    return 2;
+  unsigned jobs = opt.jobs;
+  if (jobs == 0) {
+    jobs = std::thread::hardware_concurrency();
+    if (jobs == 0) jobs = 1;
   }
 
-  /* The result record is large (fixed arrays of SIB5): one for the whole run, from the
-     library, which then clears each record by what the conversion before wrote instead of
-     writing zeros over all of it. */
-  umts_sib_set* set = umts_sib_set_alloc();
-  if (set == nullptr) {
-    std::fprintf(stderr, "sibdump: out of memory\n");
-    if (in != nullptr) std::fclose(in);
-    return 2;
-  }
   FILE* json = split_stdout(opt.asn1_text);
-  if (json == nullptr) {
-    umts_sib_set_free(set);
-    if (in != nullptr) std::fclose(in);
-    return 2;
-  }
+  if (json == nullptr) return 2;
   if (opt.log_level_set) zvtLogLevelThreshold = static_cast<unsigned int>(opt.log_level);
+  /* The decoders' text goes where standard output now goes (the --asn1-text file), or
+     nowhere. */
+  const Outputs out{json, opt.asn1_text != nullptr ? stdout : nullptr, stderr};
 
-  JsonLines lines(json);
-  if (!lines.ok()) {
-    std::fprintf(stderr, "sibdump: out of memory\n");
-    std::fclose(json);
-    umts_sib_set_free(set);
-    if (in != nullptr) std::fclose(in);
-    return 2;
-  }
-  Dumper d{lines, input_name, set, Counts()};
-  CellCollection cells;
-  SummaryWriter summaries(json, opt.summary != nullptr ? opt.summary : "text");
-  if (opt.summary != nullptr) {
-    d.cells = &cells;
-    d.summaries = &summaries;
-  }
-  if (opt.udp || capture) {
-    RecordOutput output{[&d](const std::string& head) { return write_records(d, head); }, nullptr};
-    if (d.cells != nullptr)
-      output.block = [&d](const std::string& head, const uint8_t* block, size_t length) {
-        const std::string key = cell_key(head);
-        if (d.cells->has(key)) d.cells->cell(key, cell_label(key)).take_block(block, length);
-      };
+  int status;
+  if (opt.udp) {
+    umts_sib_set* set = new_set();
+    JsonLines lines(json);
+    Dumper d(lines, "udp", set);
+    d.text = out.text;
+    CellCollection cells;
+    SummaryWriter summaries(json, opt.summary != nullptr ? opt.summary : "text");
+    if (opt.summary != nullptr) {
+      d.cells = &cells;
+      d.summaries = &summaries;
+    }
+    RecordOutput output = record_output(d);
     /* Live records reach the stream as each datagram is decoded. */
-    if (opt.udp) output.flush = [&lines, json] {
+    output.flush = [&lines, json] {
       lines.write_out();
       std::fflush(json);
     };
-    /* run_capture closes `in`. */
-    int status = opt.udp ? run_udp(opt.udp_address, set, output) : run_capture(in, input_name, set, output);
+    status = run_udp(opt.udp_address, set, output, out.text);
     lines.write_out();
     if (opt.summary != nullptr) summaries.finish(cells);
-    umts_sib_print_flush();
-    std::fflush(stdout);
-    if (std::fclose(json) != 0) {
-      std::fprintf(stderr, "sibdump: error writing the JSON output\n");
-      status = 2;
-    }
     umts_sib_set_free(set);
-    return status;
+  } else if (opt.inputs.size() <= 1) {
+    status = run_input(opt, opt.inputs.empty() ? nullptr : opt.inputs[0], out, "", false, jobs);
+  } else if (jobs == 1) {
+    status = 0;
+    for (const char* input : opt.inputs)
+      status = std::max(status, run_input(opt, input, out, input_member(input), true, 1));
+  } else {
+    status = run_inputs(opt, out, jobs);
   }
-  char* text = nullptr;
-  size_t capacity = 0;
-  unsigned long line = 0;
-  ssize_t length;
-  while ((length = getline(&text, &capacity, in)) >= 0) {
-    line++;
-    process_line(d, opt.sibs, line, text, static_cast<size_t>(length));
-  }
-  const bool read_error = std::ferror(in) != 0;
-  std::free(text);
-  std::fclose(in);
-
-  lines.write_out();
-  if (opt.summary != nullptr) summaries.finish(cells);
-  umts_sib_print_flush();
   std::fflush(stdout);
-  const bool write_error = std::fclose(json) != 0;
-  umts_sib_set_free(set);
-
-  std::fprintf(stderr, "sibdump: %lu %s read, %lu records written, %lu bad lines\n", d.counts.blocks,
-               opt.sibs ? "SIBs" : "blocks", d.counts.records, d.counts.bad);
-  if (read_error) {
-    std::fprintf(stderr, "sibdump: error reading %s\n", input_name);
-    return 2;
-  }
-  if (write_error) {
+  if (std::fclose(json) != 0) {
     std::fprintf(stderr, "sibdump: error writing the JSON output\n");
     return 2;
   }
-  return d.counts.bad != 0 ? 1 : 0;
+  return status;
 }

@@ -24,15 +24,15 @@ bool capture_input_available();
 /* Hands every frame of the capture `in` (which it closes) to `feed`; the messages about the
    capture as a whole go to `messages`. Returns the number of frames read, or -1 when the
    capture cannot be read at all (or sibdump has no capture input). */
-long read_capture(FILE* in, const char* name, CellFeed& feed, FILE* messages);
+long read_capture(FILE* in, const char* name, FrameSink& feed, FILE* messages);
 
-/* read_capture with the records written to `output` and the summary on standard error.
-   Returns the exit status: 0, 1 when some frames were bad or the capture was damaged, 2 when
-   it cannot be read at all. */
-int run_capture(FILE* in, const char* name, umts_sib_set* set, const RecordOutput& output);
+/* read_capture, then the counts on `messages`. Returns the exit status: 0, 1 when some
+   frames were bad or the capture was damaged, 2 when it cannot be read at all. */
+int run_capture(FILE* in, const char* name, FrameSink& feed, FILE* messages);
 
 /* Listens on [ADDRESS:]PORT (null: SIBDUMP_UDP_DEFAULT) for GSMTAP datagrams until
-   interrupted (SIGINT or SIGTERM), then writes the summary. Returns the exit status. */
-int run_udp(const char* address, umts_sib_set* set, const RecordOutput& output);
+   interrupted (SIGINT or SIGTERM), then writes the summary. The cells' decoders print their
+   text on `text` (null: nowhere). Returns the exit status. */
+int run_udp(const char* address, umts_sib_set* set, const RecordOutput& output, FILE* text);
 
 #endif /* UMTS_TOOLS_SIBDUMP_INPUTS_H */

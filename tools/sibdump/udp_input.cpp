@@ -113,7 +113,7 @@ uint64_t now_us() {
 
 }  // namespace
 
-int run_udp(const char* spec, umts_sib_set* set, const RecordOutput& output) {
+int run_udp(const char* spec, umts_sib_set* set, const RecordOutput& output, FILE* text) {
   if (spec == nullptr) spec = SIBDUMP_UDP_DEFAULT;
   std::string bound;
   const int fd = open_socket(spec, &bound);
@@ -143,7 +143,7 @@ int run_udp(const char* spec, umts_sib_set* set, const RecordOutput& output) {
   int status = 0;
   unsigned long received = 0;
   {
-    CellFeed feed(set, output, "udp " + bound, "datagram");
+    CellFeed feed(set, output, "udp " + bound, "datagram", stderr, text);
     static uint8_t buffer[65536];
     while (!g_stop) {
       pollfd p = {fd, POLLIN, 0};

@@ -3,58 +3,83 @@
  *
  * Layout: three spaces per level; "name {" opens a record and "}" closes it; fields are
  * "name = value". Only rtxPrintIndent and the braces write indentation. Output is collected
- * in one process-wide buffer and handed to the print stream with fwrite when the buffer
- * would overflow, when the stream changes and on rtxPrintFlush, and on standard output also
- * when a line is finished at level 0 (a top-level record closed); the stream itself is
- * flushed only by rtxPrintFlush (and by its own buffering), so that printing makes no
- * system call per record. The print state is process-wide and not synchronised:
- * print from one thread at a time.
+ * in the buffer of a print state and handed to its stream with fwrite when the buffer would
+ * overflow, when the stream changes and on rtxPrintFlush, and on standard output also when a
+ * line is finished at level 0 (a top-level record closed); the stream itself is flushed only
+ * by rtxPrintFlush (and by its own buffering), so that printing makes no system call per
+ * record.
+ *
+ * Print states: the process's own (64 KB, standard output, on), used by every thread that
+ * has not chosen another, and those of decoder instances (rtxPrintStateNew), each made the
+ * current one of a thread for the span of an instance's call (rtxPrintStateUse). A state is
+ * not synchronised: the process's state is to be used by one thread at a time, an instance's
+ * by the thread that runs the instance.
  */
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 #include "rt_internal.h"
+#include "rt_print_state.h"
 #include "umts_rrc_rt_print.h"
+
+struct rtxPrintState {
+  char* buf;
+  size_t cap; /* bytes of buf; 0 while an instance's state has no buffer yet */
+  size_t len;
+  uint32_t level;
+  FILE* stream; /* null: standard output */
+  bool off;
+};
 
 namespace {
 
-constexpr size_t kBufSize = 64 * 1024;
+constexpr size_t kProcessBufSize = 64 * 1024;
+/* An instance's buffer, taken when its printing is first switched on. */
+constexpr size_t kInstanceBufSize = 16 * 1024;
 constexpr uint32_t kIndentWidth = 3;
 
-char g_buf[kBufSize];
-size_t g_len = 0;
-uint32_t g_level = 0;
-FILE* g_stream = nullptr;
-bool g_off = false;
+char g_processBuf[kProcessBufSize];
+rtxPrintState g_process = {g_processBuf, kProcessBufSize, 0, 0, nullptr, false};
+
+/* The state that the calls of this thread print through; null for the process's own. Read
+   on every print call, so in the thread's static TLS block: one load, no call. */
+__thread rtxPrintState* t_current __attribute__((tls_model("initial-exec"))) = nullptr;
+
+inline rtxPrintState& cur() {
+  rtxPrintState* s = t_current;
+  return s != nullptr ? *s : g_process;
+}
 
 const char kHexDigits[] = "0123456789abcdef";
 
-FILE* outStream() { return g_stream != nullptr ? g_stream : stdout; }
+FILE* outStream(const rtxPrintState& s) { return s.stream != nullptr ? s.stream : stdout; }
 
 /* What is gathered goes to the stream's own buffer. */
-void handOver() {
-  if (g_len == 0) return;
-  fwrite(g_buf, 1, g_len, outStream());
-  g_len = 0;
+void handOver(rtxPrintState& s) {
+  if (s.len == 0) return;
+  fwrite(s.buf, 1, s.len, outStream(s));
+  s.len = 0;
 }
 
-/* Room for `n` bytes (at most kBufSize) at the end of what is gathered; the caller writes
+/* Room for `n` bytes (at most the buffer's size) at the end of what is gathered; the caller writes
    there and ends with done(). */
-inline char* room(size_t n) {
-  if (n > kBufSize - g_len) handOver();
-  return g_buf + g_len;
+inline char* room(rtxPrintState& s, size_t n) {
+  if (n > s.cap - s.len) handOver(s);
+  return s.buf + s.len;
 }
 
-inline void done(char* end) { g_len = static_cast<size_t>(end - g_buf); }
+inline void done(rtxPrintState& s, char* end) { s.len = static_cast<size_t>(end - s.buf); }
 
-void put(const char* s, size_t n) {
-  if (n > kBufSize) {
-    handOver();
-    fwrite(s, 1, n, outStream());
+void put(rtxPrintState& s, const char* text, size_t n) {
+  if (n > s.cap) {
+    handOver(s);
+    fwrite(text, 1, n, outStream(s));
     return;
   }
-  char* p = room(n);
-  std::memcpy(p, s, n);
-  done(p + n);
+  char* p = room(s, n);
+  std::memcpy(p, text, n);
+  done(s, p + n);
 }
 
 /* A short piece of n bytes: two overlapping moves of a fixed size instead of a call. */
@@ -78,13 +103,13 @@ inline void copyShort(char* d, const char* s, size_t n) {
 }
 
 /* `name`, then room for `extra` more bytes (extra is small): returns where they go. */
-inline char* putName(const char* name, size_t extra) {
+inline char* putName(rtxPrintState& s, const char* name, size_t extra) {
   const size_t n = name != nullptr ? std::strlen(name) : 0;
-  if (n + extra > kBufSize) {
-    put(name, n);
-    return room(extra);
+  if (n + extra > s.cap) {
+    put(s, name, n);
+    return room(s, extra);
   }
-  char* p = room(n + extra);
+  char* p = room(s, n + extra);
   copyShort(p, name, n);
   return p + n;
 }
@@ -110,102 +135,156 @@ inline char* writeInt(char* p, int32_t v) {
   return writeUInt(p, static_cast<uint32_t>(v));
 }
 
-void putHex(const uint8_t* data, size_t n) {
-  put("0x", 2);
+void putHex(rtxPrintState& s, const uint8_t* data, size_t n) {
+  put(s, "0x", 2);
   if (data == nullptr) return;
   while (n > 0) {
-    const size_t k = n < kBufSize / 4 ? n : kBufSize / 4;
-    char* p = room(2 * k);
+    const size_t k = n < s.cap / 4 ? n : s.cap / 4;
+    char* p = room(s, 2 * k);
     for (size_t i = 0; i < k; i++) {
       p[2 * i] = kHexDigits[data[i] >> 4];
       p[2 * i + 1] = kHexDigits[data[i] & 0x0Fu];
     }
-    done(p + 2 * k);
+    done(s, p + 2 * k);
     data += k;
     n -= k;
   }
 }
 
-void putIndent() {
-  size_t n = static_cast<size_t>(g_level) * kIndentWidth;
+void putIndent(rtxPrintState& s) {
+  size_t n = static_cast<size_t>(s.level) * kIndentWidth;
   while (n > 0) {
-    const size_t k = n < kBufSize / 2 ? n : kBufSize / 2;
+    const size_t k = n < s.cap / 2 ? n : s.cap / 2;
     /* Whole words of blanks; the room covers the last word's overhang. */
-    char* p = room(k + 8);
+    char* p = room(s, k + 8);
     const uint64_t blanks = 0x2020202020202020ull;
     for (size_t i = 0; i < k; i += 8) std::memcpy(p + i, &blanks, 8);
-    done(p + k);
+    done(s, p + k);
     n -= k;
   }
 }
 
 /* End of a line at p. A finished top-level line goes to standard output at once, where the
    process's puts and printf write too; another stream gets the text in large pieces. */
-inline void lineEnd(char* p) {
+inline void lineEnd(rtxPrintState& s, char* p) {
   *p++ = '\n';
-  done(p);
-  if (g_level == 0 && outStream() == stdout) handOver();
+  done(s, p);
+  if (s.level == 0 && outStream(s) == stdout) handOver(s);
 }
 
 /* "name = " where the caller has put the indentation, then room for `extra` bytes. */
-inline char* fieldStart(const char* name, size_t extra) {
-  char* p = putName(name, 3 + extra);
+inline char* fieldStart(rtxPrintState& s, const char* name, size_t extra) {
+  char* p = putName(s, name, 3 + extra);
   std::memcpy(p, " = ", 3);
   return p + 3;
 }
 
 }  // namespace
 
+rtxPrintState* rtxPrintStateNew(void) {
+  rtxPrintState* s = static_cast<rtxPrintState*>(std::calloc(1, sizeof(rtxPrintState)));
+  if (s != nullptr) s->off = true;
+  return s;
+}
+
+void rtxPrintStateFree(rtxPrintState* state) {
+  if (state == nullptr || state == &g_process) return;
+  handOver(*state);
+  std::free(state->buf);
+  std::free(state);
+}
+
+rtxPrintState* rtxPrintStateUse(rtxPrintState* state) {
+  rtxPrintState* before = t_current;
+  t_current = state;
+  return before;
+}
+
+void rtxPrintSay(const char* text, int line) {
+  rtxPrintState& s = cur();
+  if (&s == &g_process) {
+    /* The process's messages go to standard output as they are, beside the gathered text. */
+    if (line) std::puts(text);
+    else std::fputs(text, stdout);
+    return;
+  }
+  /* An instance's messages join its text, in order, and go where it goes. */
+  if (s.off || s.stream == nullptr) return;
+  put(s, text, std::strlen(text));
+  if (line) put(s, "\n", 1);
+  /* On standard output a message goes out at once, as the process's own do. */
+  if (outStream(s) == stdout) handOver(s);
+}
+
 void rtxPrintSetStream(FILE* stream) {
-  handOver();
-  g_stream = stream;
+  rtxPrintState& s = cur();
+  handOver(s);
+  s.stream = stream;
 }
 
 void rtxPrintFlush(void) {
-  handOver();
-  fflush(outStream());
+  rtxPrintState& s = cur();
+  handOver(s);
+  /* An instance's state without a stream has nothing to flush. */
+  if (&s == &g_process || s.stream != nullptr) fflush(outStream(s));
 }
 
-void rtxPrintSetOn(int on) { g_off = on == 0; }
+void rtxPrintSetOn(int on) {
+  rtxPrintState& s = cur();
+  if (on != 0 && s.cap == 0) {
+    /* An instance's state takes its buffer when its printing is first switched on; without
+       one it stays off. */
+    s.buf = static_cast<char*>(std::malloc(kInstanceBufSize));
+    if (s.buf == nullptr) return;
+    s.cap = kInstanceBufSize;
+  }
+  s.off = on == 0;
+}
 
-int rtxPrintIsOn(void) { return g_off ? 0 : 1; }
+int rtxPrintIsOn(void) { return cur().off ? 0 : 1; }
 
 void rtxPrintIndent(void) {
-  if (g_off) return;
-  putIndent();
+  rtxPrintState& s = cur();
+  if (s.off) return;
+  putIndent(s);
 }
 
 void rtxPrintOpenBrace(const char* name) {
-  if (g_off) return;
-  putIndent();
-  char* p = putName(name, 3);
+  rtxPrintState& s = cur();
+  if (s.off) return;
+  putIndent(s);
+  char* p = putName(s, name, 3);
   std::memcpy(p, " {\n", 3);
-  done(p + 3);
-  g_level++;
+  done(s, p + 3);
+  s.level++;
 }
 
 void rtxPrintCloseBrace(void) {
-  if (g_off) return;
-  if (g_level > 0) g_level--;
-  putIndent();
-  char* p = room(2);
+  rtxPrintState& s = cur();
+  if (s.off) return;
+  if (s.level > 0) s.level--;
+  putIndent(s);
+  char* p = room(s, 2);
   *p++ = '}';
-  lineEnd(p);
+  lineEnd(s, p);
 }
 
 void rtxPrintUnsigned(const char* name, uint32_t value) {
-  if (g_off) return;
-  lineEnd(writeUInt(fieldStart(name, 11), value));
+  rtxPrintState& s = cur();
+  if (s.off) return;
+  lineEnd(s, writeUInt(fieldStart(s, name, 11), value));
 }
 
 void rtxPrintInteger(const char* name, int32_t value) {
-  if (g_off) return;
-  lineEnd(writeInt(fieldStart(name, 12), value));
+  rtxPrintState& s = cur();
+  if (s.off) return;
+  lineEnd(s, writeInt(fieldStart(s, name, 12), value));
 }
 
 void rtxPrintBoolean(const char* name, uint8_t value) {
-  if (g_off) return;
-  char* p = fieldStart(name, 6);
+  rtxPrintState& s = cur();
+  if (s.off) return;
+  char* p = fieldStart(s, name, 6);
   if (value) {
     std::memcpy(p, "TRUE", 4);
     p += 4;
@@ -213,40 +292,44 @@ void rtxPrintBoolean(const char* name, uint8_t value) {
     std::memcpy(p, "FALSE", 5);
     p += 5;
   }
-  lineEnd(p);
+  lineEnd(s, p);
 }
 
 void rtxPrintNull(const char* name) {
-  if (g_off) return;
-  char* p = fieldStart(name, 5);
+  rtxPrintState& s = cur();
+  if (s.off) return;
+  char* p = fieldStart(s, name, 5);
   std::memcpy(p, "NULL", 4);
-  lineEnd(p + 4);
+  lineEnd(s, p + 4);
 }
 
 void rtxPrintEnum(const char* name, const char* valueName) {
-  if (g_off) return;
-  done(fieldStart(name, 0));
-  lineEnd(putName(valueName != nullptr ? valueName : "?", 1));
+  rtxPrintState& s = cur();
+  if (s.off) return;
+  done(s, fieldStart(s, name, 0));
+  lineEnd(s, putName(s, valueName != nullptr ? valueName : "?", 1));
 }
 
 void rtPrintBitStrBraceText(const char* name, uint32_t numbits, const uint8_t* data) {
-  if (g_off) return;
-  char* p = fieldStart(name, 12 + 10 + 9);
+  rtxPrintState& s = cur();
+  if (s.off) return;
+  char* p = fieldStart(s, name, 12 + 10 + 9);
   std::memcpy(p, "{ numbits = ", 12);
   p = writeUInt(p + 12, numbits);
   std::memcpy(p, ", data = ", 9);
-  done(p + 9);
-  putHex(data, (static_cast<size_t>(numbits) + 7u) / 8u);
-  p = room(3);
+  done(s, p + 9);
+  putHex(s, data, (static_cast<size_t>(numbits) + 7u) / 8u);
+  p = room(s, 3);
   std::memcpy(p, " }", 2);
-  lineEnd(p + 2);
+  lineEnd(s, p + 2);
 }
 
 void rtxPrintHexStr(const char* name, uint32_t numocts, const uint8_t* data) {
-  if (g_off) return;
-  done(fieldStart(name, 0));
-  putHex(data, numocts);
-  lineEnd(room(1));
+  rtxPrintState& s = cur();
+  if (s.off) return;
+  done(s, fieldStart(s, name, 0));
+  putHex(s, data, numocts);
+  lineEnd(s, room(s, 1));
 }
 
 int rtxUIntToCharStr(uint32_t value, char* dest, uint32_t size, uint32_t pad) {

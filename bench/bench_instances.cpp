@@ -1,0 +1,125 @@
+// Decoder instances: the road of one instance next to the global entry's, instances on
+// several threads (blocks per second of each thread and of all), and sibdump on one and on
+// several threads over a capture of eight cells made by the project's capture writer.
+//
+// Input: bench/bch_cycle.bch (the sample cell's broadcast over one SFN cycle).
+#include <benchmark/benchmark.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "capture_writer.h"
+#include "umts_sib_decoder.h"
+
+namespace {
+
+using Bytes = std::vector<uint8_t>;
+
+const std::vector<Bytes>& cycle() {
+  static const std::vector<Bytes> all = [] {
+    std::vector<Bytes> out;
+    std::ifstream in(UMTS_BENCH_DIR "/bch_cycle.bch");
+    for (std::string line; std::getline(in, line);) {
+      if (line.empty() || line[0] == '#') continue;
+      Bytes b;
+      for (size_t i = 0; i + 1 < line.size(); i += 2) b.push_back(static_cast<uint8_t>(std::stoul(line.substr(i, 2), nullptr, 16)));
+      out.push_back(b);
+    }
+    return out;
+  }();
+  return all;
+}
+
+// Every block of the cycle in turn, text off, through `decoder` (null: umts_sib_decoder).
+void road(benchmark::State& state, umts_sib_decoder_t* decoder) {
+  const std::vector<Bytes>& blocks = cycle();
+  umts_sib_set* set = umts_sib_set_alloc();
+  size_t i = 0;
+  for (auto _ : state) {
+    const Bytes& b = blocks[i];
+    i = i + 1 == blocks.size() ? 0 : i + 1;
+    set->presence_bitmask = 0;
+    const uint32_t n = static_cast<uint32_t>(b.size());
+    benchmark::DoNotOptimize(decoder == nullptr ? umts_sib_decoder(b.data(), set, n)
+                                                : umts_sib_decoder_feed_block(decoder, b.data(), set, n));
+  }
+  state.SetItemsProcessed(state.iterations());
+  umts_sib_set_free(set);
+}
+
+void BM_Road_Global_TextOff(benchmark::State& state) {
+  umts_sib_print_to(nullptr);
+  road(state, nullptr);
+  umts_sib_print_to(stdout);
+}
+BENCHMARK(BM_Road_Global_TextOff);
+
+void BM_Road_Instance_TextOff(benchmark::State& state) {
+  umts_sib_decoder_t* d = umts_sib_decoder_new();
+  road(state, d);
+  umts_sib_decoder_free(d);
+}
+BENCHMARK(BM_Road_Instance_TextOff);
+
+// One instance per thread: items per second is the sum over the threads.
+void BM_Road_Instances_OnThreads(benchmark::State& state) {
+  umts_sib_decoder_t* d = umts_sib_decoder_new();
+  road(state, d);
+  umts_sib_decoder_free(d);
+}
+BENCHMARK(BM_Road_Instances_OnThreads)->Threads(1)->Threads(2)->ThreadPerCpu()->UseRealTime();
+
+// ---- sibdump --jobs ----------------------------------------------------------------------
+
+// Eight cells (two senders, four ARFCNs each), each sending the cycle eight times, their
+// frames interleaved: 106,496 frames.
+const std::string& eight_cell_capture() {
+  static const std::string path = [] {
+    std::vector<capture::Frame> frames;
+    const std::vector<Bytes>& blocks = cycle();
+    uint64_t t = 1767225600000000ull;
+    for (unsigned round = 0; round < 8; round++) {
+      for (size_t k = 0; k < blocks.size(); k++) {
+        for (unsigned cell = 0; cell < 8; cell++) {
+          capture::GsmtapMessage m;
+          m.arfcn = static_cast<uint16_t>(10700 + 25 * (cell % 4));
+          m.frame_number = static_cast<uint32_t>(k);
+          m.message = blocks[(k + 200 * cell) % blocks.size()];
+          capture::Route route;
+          route.source = cell < 4 ? "127.0.0.1" : "127.0.0.2";
+          frames.push_back({t += 1250, capture::udp_frame(gsmtap::Link::ethernet, route, capture::gsmtap_datagram(m))});
+        }
+      }
+    }
+    char dir[] = "/tmp/bench_instances_XXXXXX";
+    const std::string p = std::string(mkdtemp(dir)) + "/eight_cells.pcap";
+    capture::write_file(p, capture::pcap_file(gsmtap::Link::ethernet, frames));
+    return p;
+  }();
+  return path;
+}
+
+// sibdump --jobs N over the capture, its JSON to /dev/null; items: frames.
+void BM_Sibdump_EightCells(benchmark::State& state) {
+  const std::string cmd = std::string("'") + SIBDUMP_PATH + "' --jobs " + std::to_string(state.range(0)) + " '" +
+                          eight_cell_capture() + "' >/dev/null 2>&1";
+  for (auto _ : state) {
+    const int status = std::system(cmd.c_str());
+    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
+      state.SkipWithError("sibdump failed (built without capture input?)");
+      return;
+    }
+  }
+  state.SetItemsProcessed(state.iterations() * 8 * 8 * static_cast<int64_t>(cycle().size()));
+}
+BENCHMARK(BM_Sibdump_EightCells)->Arg(1)->Arg(2)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,95 @@
+/*
+ * The cells of one capture decoded on several threads, the output as one thread writes it.
+ *
+ * Frames are read on the calling thread and gathered in batches. Each cell belongs to one
+ * worker (the cells in the order they are first heard, dealt out in turn), and each worker
+ * decodes the frames of its cells, in order, through a CellFeed of its own, into buffers of
+ * its own. When a batch is decoded the calling thread writes what each frame produced, frame
+ * by frame, to the real streams: the records, the ASN.1 text and the messages come out in the
+ * same bytes as from one CellFeed. What a worker's output must do on the calling thread (a
+ * summary to write, say) it defers to the frame it belongs to.
+ */
+#ifndef UMTS_TOOLS_PARALLEL_FEED_H
+#define UMTS_TOOLS_PARALLEL_FEED_H
+
+#include <stdint.h>
+#include <stdio.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "cell_feed.h"
+
+/* What one worker writes while it decodes a batch: two sets of buffers, one for the batch
+   being decoded and one for the batch before it, which the calling thread writes out
+   meanwhile. */
+class WorkerOutput {
+ public:
+  WorkerOutput();
+  ~WorkerOutput();
+  WorkerOutput(const WorkerOutput&) = delete;
+  WorkerOutput& operator=(const WorkerOutput&) = delete;
+
+  /* Streams that append to the buffers of the batch being decoded, unbuffered. */
+  FILE* records() const { return records_stream_; }
+  FILE* text() const { return text_stream_; }
+  FILE* messages() const { return messages_stream_; }
+  /* `action` runs on the calling thread after the output of the frame being decoded. */
+  void defer(std::function<void()> action) { buffers_[current_].deferred.emplace_back(item_, std::move(action)); }
+
+ private:
+  friend class ParallelFeed;
+  struct Buffers {
+    std::string records, text, messages;
+    std::vector<std::pair<size_t, std::function<void()>>> deferred;
+  };
+  static ssize_t append_records(void* cookie, const char* buf, size_t size);
+  static ssize_t append_text(void* cookie, const char* buf, size_t size);
+  static ssize_t append_messages(void* cookie, const char* buf, size_t size);
+
+  Buffers buffers_[2];
+  int current_ = 0; /* the buffers of the batch being decoded */
+  FILE* records_stream_;
+  FILE* text_stream_;
+  FILE* messages_stream_;
+  size_t item_ = 0; /* the frame being decoded, by its place in the batch */
+};
+
+class ParallelFeed : public FrameSink {
+ public:
+  /* `make_feed(out)` builds a worker's CellFeed, writing its records, text and messages to
+     the streams of `out`; `flush_records()` runs after each worker decoded a frame and hands
+     what the feed's output gathered to out.records(). Each batch's output goes to `records`,
+     `text` (null: none) and `messages`. */
+  ParallelFeed(unsigned workers, const std::function<std::unique_ptr<CellFeed>(WorkerOutput& out)>& make_feed,
+               std::function<void(unsigned worker)> flush_records, FILE* records, FILE* text, FILE* messages,
+               const char* unit);
+  ~ParallelFeed() override;
+  ParallelFeed(const ParallelFeed&) = delete;
+  ParallelFeed& operator=(const ParallelFeed&) = delete;
+
+  void datagram(unsigned long number, uint64_t time_us, const gsmtap::Datagram& d) override;
+  void not_gsmtap() override;
+  void bad(unsigned long number, const std::string& why) override;
+  /* Decodes and writes the frames still gathered. */
+  void finish() override;
+  void summary(FILE* out, unsigned long frames) const override;
+  unsigned long errors() const override;
+
+ private:
+  struct Item;
+  struct Shared;
+  /* The batch gathered is handed to the workers once they are done with the one before,
+     whose output is then written while they decode. */
+  void next_batch();
+  void wait_for_workers();
+  void decode_share(unsigned worker, int batch);
+  void write_batch(int batch);
+  unsigned worker_of(const CellKey& key);
+
+  std::unique_ptr<Shared> shared_;
+};
+
+#endif /* UMTS_TOOLS_PARALLEL_FEED_H */
