@@ -12,8 +12,9 @@ cells.csv, cells.jsonl, neighbours.csv, errors.csv, index.html and the summary p
 pages/. Each task's result is kept in DIR/results/ as it arrives; --resume skips the files
 whose result is there (same path, size and modification time).
 
-How a task reads its capture: it runs sibdump --summary=json on the file, as a subprocess,
-and parses one JSON line per cell and configuration.
+How a task reads its capture: it runs sibdump --summary=json --jobs 1 on the file, as a
+subprocess, and parses one JSON line per cell and configuration (one thread: the cluster's
+workers are the parallel part, a file each).
 
 - sibdump reads pcap and pcapng through libpcap and the hex text itself, and keeps the
   segments of each cell (sender and ARFCN) apart while it decodes; the library collects
@@ -202,7 +203,8 @@ def decode_file(path: str, sibdump: Optional[str] = None) -> dict:
         st = os.stat(path)
         result["size"], result["mtime"] = st.st_size, st.st_mtime
         program = find_sibdump(sibdump)
-        run = subprocess.Popen([program, "--summary=json", path], stdin=subprocess.DEVNULL,
+        # One thread: the cluster runs files side by side, one per worker thread.
+        run = subprocess.Popen([program, "--summary=json", "--jobs", "1", path], stdin=subprocess.DEVNULL,
                                stdout=subprocess.PIPE, stderr=subprocess.PIPE)
     except OSError as err:  # no such file, no permission, no sibdump
         result["error"] = f"cannot read: {err.strerror}" if err.strerror else str(err)
@@ -243,7 +245,7 @@ def decode_file(path: str, sibdump: Optional[str] = None) -> dict:
 
 def page_of_file(path: str, sibdump: Optional[str] = None) -> str:
     """sibdump --summary=html of a file: the page of its cells and configurations."""
-    run = subprocess.run([find_sibdump(sibdump), "--summary=html", path], stdin=subprocess.DEVNULL,
+    run = subprocess.run([find_sibdump(sibdump), "--summary=html", "--jobs", "1", path], stdin=subprocess.DEVNULL,
                          capture_output=True)
     return run.stdout.decode("utf-8", "replace")
 
