@@ -16,11 +16,11 @@ How a task reads its capture: it runs sibdump --summary=json --jobs 1 on the fil
 subprocess, and parses one JSON line per cell and configuration (one thread: the cluster's
 workers are the parallel part, a file each).
 
-- sibdump reads pcap and pcapng through libpcap and the hex text itself, and keeps the
-  segments of each cell (sender and ARFCN) apart while it decodes; the library collects
-  segments in one process-wide place, so a reader in Python would have to move that state
-  around for every block through ctypes. In sibdump the whole file is decoded at the
-  library's speed, and the task's Python only reads the few summary lines.
+- sibdump reads pcap and pcapng through libpcap and the hex text itself, and keeps each
+  cell (sender and ARFCN) apart while it decodes. A reader in Python would take every frame's
+  link, IP, UDP and GSMTAP headers apart and cross ctypes for every block, a Decoder per cell;
+  in sibdump the whole file is decoded at the library's speed, and the task's Python only
+  reads the few summary lines.
 - A damaged file cannot take a worker down with it: whatever happens inside sibdump is its
   exit status and its messages, which go to errors.csv, and tasks of one worker can run on
   threads side by side, sharing nothing.
