@@ -45,7 +45,7 @@ def dask_cost_per_task(count):
     import logging
     from dask.distributed import Client, LocalCluster
     with LocalCluster(n_workers=1, threads_per_worker=1, processes=True, dashboard_address=None,
-                      silence_logs=logging.ERROR) as cluster, Client(cluster) as client:
+                      silence_logs=logging.CRITICAL) as cluster, Client(cluster) as client:
         before, mine = client.run(cpu_seconds), cpu_seconds()
         client.gather([client.submit(empty_task, i, pure=False) for i in range(count)])
         after = client.run(cpu_seconds)
