@@ -5,7 +5,7 @@
 #   bin/sibdump
 #   lib/cmake/sibdecoder_umts/      find_package(sibdecoder_umts) -> sibdecoder_umts::sibdecoder_umts
 #                                   and sibdecoder_umts::sibdecoder_umts_summary
-#   lib/pkgconfig/sibdecoder_umts.pc
+#   lib/pkgconfig/sibdecoder_umts.pc and sibdecoder_umts_summary.pc
 # Every path is relative to the prefix, so that an install moved elsewhere (or made with
 # `cmake --install <build> --prefix <dir>`) still finds its own files.
 include(CMakePackageConfigHelpers)
@@ -56,4 +56,10 @@ endforeach()
 configure_file(${PROJECT_SOURCE_DIR}/cmake/sibdecoder_umts.pc.in
   ${PROJECT_BINARY_DIR}/sibdecoder_umts.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/sibdecoder_umts.pc
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+# The summary library's pkg-config file, beside the decoder's (which it requires).
+configure_file(${PROJECT_SOURCE_DIR}/cmake/sibdecoder_umts_summary.pc.in
+  ${PROJECT_BINARY_DIR}/sibdecoder_umts_summary.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/sibdecoder_umts_summary.pc
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -693,8 +693,8 @@ void convert_fach_measurement_occasion_info_inter_rat_meas_ind(const FACH_Measur
                                                                umts_inter_rat_meas_ind* dst);
 
 /* MeasurementControlSysInfo of SIB11 and SIB12: use_of_HCS, then cellSelectQualityMeasure,
-   choose the form of the cell records. Under hcs_not_used with cpich_Ec_N0 an
-   intra-frequency record present leaves the inter-frequency one unconverted. */
+   choose the form of the cell records; in every form the intra-frequency and the
+   inter-frequency records are both converted when present. */
 void convert_measurement_control_sys_info(const MeasurementControlSysInfo* src, umts_measurement_control_sys_info* dst);
 void convert_measurement_control_sys_info_use_of_hcs(const MeasurementControlSysInfo_use_of_HCS* src,
                                                      umts_use_of_hcs* dst);

@@ -682,8 +682,9 @@
   F(RECORD, intra, intraFreqMeasurementSysInfo, 1, 0, _)               \
   F(RECORD, inter, interFreqMeasurementSysInfo, 1, 1, _)
 
-/* Under hcs_not_used with cpich_Ec_N0, an intra-frequency record present leaves the
-   inter-frequency record unconverted and bit 1 clear. */
+/* Each form holds both records, each under its presence bit: the intra-frequency record
+   (bit 0) and the inter-frequency record (bit 1), in every branch, hcs_not_used with
+   cpich_Ec_N0 among them. */
 #define umts_hcs_not_used_cpich_rscp_FIELDS(F) \
   UMTS_QUALITY_ALTERNATIVE_FIELDS(F, umts_intra_freq_measurement_sysinfo_rscp, umts_inter_freq_measurement_sysinfo_rscp)
 #define umts_hcs_not_used_cpich_ec_n0_FIELDS(F) \

@@ -63,7 +63,21 @@ pc_cflags=$(pkg-config --cflags sibdecoder_umts) && pc_libs=$(pkg-config --libs 
   fail "the C program does not build with pkg-config's flags ($pc_cflags $pc_libs)"
 check_run "pkg-config sibdecoder_umts" "$work/use_library_pc"
 
-# 3. The installed sibdump finds its library.
+# 3. The summary library through pkg-config: its flags bring the decoder library too.
+pc_summary=$(pkg-config --cflags --libs sibdecoder_umts_summary) ||
+  fail "pkg-config does not know sibdecoder_umts_summary"
+grep -qw -- -lsibdecoder_umts_summary <<<"$pc_summary" && grep -qw -- -lsibdecoder_umts <<<"$pc_summary" ||
+  fail "pkg-config's flags for sibdecoder_umts_summary lack a library: $pc_summary"
+printf '%s\n' '#include "umts_sib_summary.h"' \
+  'int main(void) { umts_summary* s = umts_summary_new(); umts_summary_free(s); return s == 0; }' \
+  >"$work/use_summary.c"
+# shellcheck disable=SC2086
+"$cc" -std=c99 -Wall -Wextra -Werror $cflags -o "$work/use_summary" "$work/use_summary.c" $pc_summary \
+  -Wl,-rpath,"$prefix/$libdir" $ldflags || fail "a C program does not build with sibdecoder_umts_summary's flags"
+"$work/use_summary" || fail "the summary library does not run"
+echo "install_test: pkg-config sibdecoder_umts_summary: $pc_summary"
+
+# 4. The installed sibdump finds its library.
 records=$("$prefix/bin/sibdump" "$source/samples/fdd_cell.bch" 2>"$work/sibdump.err") ||
   { cat "$work/sibdump.err"; fail "the installed sibdump failed"; }
 grep -q '"block":"mib"' <<<"$records" || fail "the installed sibdump wrote no MIB"
