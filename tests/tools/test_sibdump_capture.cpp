@@ -23,6 +23,7 @@
 #include <string>
 #include <vector>
 
+#include "capture_choice.h"
 #include "capture_writer.h"
 #include "gsmtap.h"
 #include "json_check.h"
@@ -325,11 +326,7 @@ TEST(Gsmtap, UnwrapEveryLink) {
 
 class Capture : public ::testing::Test {
  protected:
-  void SetUp() override {
-#ifndef UMTS_HAVE_PCAP
-    GTEST_SKIP() << "sibdump is built without capture input (no libpcap)";
-#endif
-  }
+  void SetUp() override { UMTS_SKIP_WITHOUT_CAPTURE(); }
 };
 
 /* The committed sample captures give the hex sample's records, each line with its frame and

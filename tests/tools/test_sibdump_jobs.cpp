@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "capture_choice.h"
 #include "capture_writer.h"
 
 namespace {
@@ -45,8 +46,6 @@ Outcome run(const std::string& args) {
   const int s = std::system(cmd.c_str());
   return {WIFEXITED(s) ? WEXITSTATUS(s) : -1, read_file(d + "/out"), read_file(d + "/err"), read_file(d + "/text")};
 }
-
-bool capture_input() { return run("--help").out.find("NOT AVAILABLE") == std::string::npos; }
 
 std::vector<capture::Bytes> sample_blocks() {
   std::ifstream in(kSamples + "/fdd_cell.bch");
@@ -103,7 +102,7 @@ void expect_same(const Outcome& one, const Outcome& many, const std::string& wha
 }
 
 TEST(SibdumpJobs, CellsOfOneCaptureOnSeveralThreads) {
-  if (!capture_input()) GTEST_SKIP() << "sibdump was built without capture input (libpcap)";
+  UMTS_SKIP_WITHOUT_CAPTURE();
   const std::string capture = "'" + eight_cells() + "'";
   for (const char* mode : {"", "--summary=json", "--summary=text", "--summary=html"}) {
     const Outcome one = run(std::string("--jobs 1 ") + mode + " " + capture);
@@ -122,7 +121,7 @@ TEST(SibdumpJobs, CellsOfOneCaptureOnSeveralThreads) {
 TEST(SibdumpJobs, SeveralInputsInTheirOrder) {
   const std::string cycle = "'" + kSamples + "/fdd_cell.bch'";
   std::string inputs = cycle + " " + cycle;
-  if (capture_input()) inputs += " '" + kSamples + "/fdd_cell.pcap' '" + eight_cells() + "'";
+  if (kCaptureInput) inputs += " '" + kSamples + "/fdd_cell.pcap' '" + eight_cells() + "'";
   const Outcome one = run("--jobs 1 " + inputs);
   const Outcome many = run("--jobs 2 " + inputs);
   expect_same(one, many, "two jobs");

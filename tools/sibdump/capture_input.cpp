@@ -80,8 +80,8 @@ long read_capture(FILE* in, const char* name, FrameSink&, FILE* messages) {
   std::fclose(in);
   std::fprintf(messages,
                "sibdump: %s is a pcap or pcapng capture, but this sibdump was built without capture input "
-               "(libpcap was not found when the project was configured)\n",
-               name);
+               "(%s)\n",
+               name, UMTS_NO_CAPTURE_REASON);
   return -1;
 }
 

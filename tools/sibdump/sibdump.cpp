@@ -139,7 +139,12 @@ int sib_id_of(const char* name, size_t length) {
 }
 
 void usage_text(FILE* out) {
-  std::fprintf(out, kUsage, capture_input_available() ? "read through libpcap" : "NOT AVAILABLE: built without libpcap",
+#ifdef UMTS_NO_CAPTURE_REASON
+  const char* capture = "NOT AVAILABLE: " UMTS_NO_CAPTURE_REASON;
+#else
+  const char* capture = capture_input_available() ? "read through libpcap" : "NOT AVAILABLE: built without libpcap";
+#endif
+  std::fprintf(out, kUsage, capture,
                sib_names().c_str(), static_cast<unsigned>(kMaxBchOctets),
                static_cast<unsigned>(kMaxSibOctets));
 }
