@@ -13,6 +13,7 @@
 
 #include "capture_choice.h"
 #include "capture_writer.h"
+#include "cell_feed.h"
 
 namespace {
 
@@ -134,6 +135,21 @@ TEST(SibdumpJobs, SeveralInputsInTheirOrder) {
   EXPECT_EQ(0u, one.text.find(alone.text + alone.text));
   const Outcome summaries = run("--jobs 2 --summary=json " + inputs);
   expect_same(run("--jobs 1 --summary=json " + inputs), summaries, "summaries");
+}
+
+// The frame times of the JSON lines, computed without the C library's time zone lock, against
+// gmtime_r: leap days, century years, the ends of days and of years.
+TEST(SibdumpJobs, FrameTimesAreThoseOfTheCalendar) {
+  for (const uint64_t s : {0ull, 951782400ull, 1709164800ull, 4107542400ull, 946684799ull, 1767225599ull,
+                           13574563200ull, 253402300799ull}) {
+    const time_t t = static_cast<time_t>(s);
+    struct tm c;
+    gmtime_r(&t, &c);
+    char expected[64];
+    std::snprintf(expected, sizeof expected, "%04d-%02d-%02dT%02d:%02d:%02d.%06uZ", c.tm_year + 1900, c.tm_mon + 1,
+                  c.tm_mday, c.tm_hour, c.tm_min, c.tm_sec, 123456u);
+    EXPECT_EQ(expected, CellFeed::time_text(s * 1000000u + 123456u)) << s;
+  }
 }
 
 }  // namespace

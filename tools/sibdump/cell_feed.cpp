@@ -24,13 +24,38 @@ CellFeed::~CellFeed() {
 }
 
 std::string CellFeed::time_text(uint64_t time_us) {
-  const time_t seconds = static_cast<time_t>(time_us / 1000000u);
-  struct tm t;
-  gmtime_r(&seconds, &t);
+  /* The calendar by arithmetic (days since 1970 to year, month, day in the proleptic
+     Gregorian calendar): gmtime_r takes the C library's time zone lock at every call, which
+     threads decoding the cells of a capture would all wait for. */
+  const uint64_t seconds = time_us / 1000000u;
+  const uint64_t z = seconds / 86400u + 719468u; /* days since 0000-03-01 */
+  const uint64_t era = z / 146097u;
+  const uint64_t doe = z - era * 146097u;
+  const uint64_t yoe = (doe - doe / 1460u + doe / 36524u - doe / 146096u) / 365u;
+  const uint64_t doy = doe - (365u * yoe + yoe / 4u - yoe / 100u);
+  const uint64_t mp = (5u * doy + 2u) / 153u;
+  const unsigned day = static_cast<unsigned>(doy - (153u * mp + 2u) / 5u + 1u);
+  const unsigned month = static_cast<unsigned>(mp < 10u ? mp + 3u : mp - 9u);
+  const uint64_t year = yoe + era * 400u + (month <= 2u ? 1u : 0u);
+  const unsigned of_day = static_cast<unsigned>(seconds % 86400u);
   char buf[64];
-  std::snprintf(buf, sizeof buf, "%04d-%02d-%02dT%02d:%02d:%02d.%06uZ", t.tm_year + 1900, t.tm_mon + 1, t.tm_mday,
-                t.tm_hour, t.tm_min, t.tm_sec, static_cast<unsigned>(time_us % 1000000u));
-  return buf;
+  char* p = buf + std::snprintf(buf, 24, "%04llu", static_cast<unsigned long long>(year));
+  auto two = [&p](char sep, unsigned v) {
+    *p++ = sep;
+    *p++ = static_cast<char>('0' + v / 10u);
+    *p++ = static_cast<char>('0' + v % 10u);
+  };
+  two('-', month);
+  two('-', day);
+  two('T', of_day / 3600u);
+  two(':', of_day / 60u % 60u);
+  two(':', of_day % 60u);
+  *p++ = '.';
+  unsigned us = static_cast<unsigned>(time_us % 1000000u);
+  for (int i = 5; i >= 0; i--, us /= 10u) p[i] = static_cast<char>('0' + us % 10u);
+  p += 6;
+  *p++ = 'Z';
+  return std::string(buf, static_cast<size_t>(p - buf));
 }
 
 void CellFeed::message(unsigned long number, const std::string& why) const {
