@@ -58,8 +58,8 @@ void convert_traffic_volume_reporting_quantity(const TrafficVolumeReportingQuant
   dst->rlc_RB_BufferPayloadVariance = src->rlc_RB_BufferPayloadVariance;
 }
 
-/* The tag and the value's word, whatever the tag: a rachorcpch identity keeps what the
-   decoded value's word held. */
+/* The tag and, whatever the tag, the decoded identity byte zero-extended (a rachorcpch
+   identity keeps what that byte held), not the padding bytes that follow it. */
 void convert_ul_tr_ch_identity(const UL_TrCH_Identity* src, umts_ul_tr_ch_identity* dst) {
   dst->choice_tag = src->t;
   dst->u.dch = src->u.dch;

@@ -164,7 +164,7 @@ struct Sib5Builder {
     f.sf_AndCodeNumber.t = 7;
     f.sf_AndCodeNumber.u.sf256 = static_cast<uint8_t>(200 + i);
     f.pilotSymbolExistence = 1;
-    f.tfci_Existence = 1;
+    f.tfci_Existence = i % 2;  // unlike pilotSymbolExistence on the first
     f.positionFixedOrFlexible = 1;
     f.timingOffset = 149;
     for (unsigned j = 0; j < fachs; j++) {

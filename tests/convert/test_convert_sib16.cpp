@@ -214,7 +214,6 @@ TEST_F(ConvertSib16, LayoutOfTheOpenLists) {
   EXPECT_EQ(entry(c.rb_InformationList, kRbSize, 0), static_cast<ptrdiff_t>(kEntry0));
   EXPECT_EQ(entry(c.rb_InformationList, kRbSize, 7), static_cast<ptrdiff_t>(kEntry0 + 7 * kRbSize));
   EXPECT_EQ(umts_sib16_entries(out, sizeof *out, &c.rb_InformationList, kRbSize, 4, 20), nullptr);  // past the record
-  EXPECT_LE(umts_sib16_furthest_write(), sizeof(umts_sib16_info));
 }
 
 // One SRB, then one RB over it: the RB entry stands where the SRB entry was written.

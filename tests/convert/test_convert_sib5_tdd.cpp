@@ -751,7 +751,7 @@ TEST_F(ConvertSib5Tdd, V770Tdd128ListAndHcrVhcrSccpch) {
   ASSERT_EQ(t.prach_SystemInformationList.count, 3);
   for (unsigned p = 0; p < 3; p++) {
     const umts_bit_string32& bm = t.prach_SystemInformationList.e_RUCCH_Sync_UL_Codes_Bitmap[p];
-    EXPECT_EQ(bm.numbits, 8u) << "the entry before ran over this count; its own conversion set it again";
+    EXPECT_EQ(bm.numbits, 8u);
     EXPECT_EQ(bm.data[0], 0x11 * (p + 1));
   }
   // What the last bitmap ran over lies beyond the decoded string: never read, kept zero.
@@ -1058,12 +1058,18 @@ TEST_F(ConvertSib5Tdd, Tdd128CommonEdch) {
   const umts_common_edch_tdd128& o = out.modeSpecificInfo.u.tdd.u.tdd128;
   const umts_e_rucch_info_tdd128& r = o.e_RUCCH_Info;
   EXPECT_EQ(r.presence_bitmask, 0x1FF);
-  EXPECT_EQ(r.t_RUCCH + r.n_RUCCH + r.t_WAIT + r.t_SI + r.extendedEstimationWindow, 15u + 7 + 6 + 5 + 4);
+  EXPECT_EQ(r.t_RUCCH, 15u);
+  EXPECT_EQ(r.n_RUCCH, 7u);
+  EXPECT_EQ(r.t_WAIT, 6u);
+  EXPECT_EQ(r.t_SI, 5u);
+  EXPECT_EQ(r.extendedEstimationWindow, 4u);
   EXPECT_EQ(r.e_RUCCH_AccessServiceClass.count, 1);
   EXPECT_EQ(r.e_RUCCH_PersistenceScalingFactor.entries[5], 5u);
   const umts_sync_ul_info_for_e_rucch& so = r.sync_UL_InfoForE_RUCCH;
   EXPECT_EQ(so.presence_bitmask, 5);
-  EXPECT_EQ(so.prxUpPCHdes + so.powerRampStep + so.max_SYNC_UL_Transmissions, 62u + 0 + 2);
+  EXPECT_EQ(so.prxUpPCHdes, 62);
+  EXPECT_EQ(so.powerRampStep, 0) << "its bit clear";
+  EXPECT_EQ(so.max_SYNC_UL_Transmissions, 2u);
   EXPECT_EQ(so.e_RUCCH_Sync_UL_Codes_Bitmap.data[0], 0x3C);
   EXPECT_EQ(so.mmax, 32) << "stored after the bitmap that ran over it";
   ASSERT_EQ(r.prach_information.count, 8);
@@ -1091,7 +1097,9 @@ TEST_F(ConvertSib5Tdd, Tdd128CommonEdch) {
     EXPECT_EQ(s.midambleAllocationMode.u.ueSpecificMidamble, i % 2 ? 10 + i : 0u) << "the shift of tag 2 alone";
     EXPECT_EQ(s.midambleConfiguration, 1 + i);
   }
-  EXPECT_EQ(p.retransTimerForSchedInfo + p.maximum_Allowed_Code_Rate + p.dummy, 4u + 63 + 1);
+  EXPECT_EQ(p.retransTimerForSchedInfo, 4u);
+  EXPECT_EQ(p.maximum_Allowed_Code_Rate, 63);
+  EXPECT_EQ(p.dummy, 1u);
   ASSERT_EQ(o.e_hich_Information.e_HICH_InfoList.count, 4);
   EXPECT_EQ(o.e_hich_Information.e_HICH_InfoList.entries[3].channelisation_Code, 12u);
   EXPECT_EQ(o.e_hich_Information.e_HICH_InfoList.entries[3].midambleAllocationMode.u.ueSpecificMidamble, 3);
