@@ -759,8 +759,8 @@
   F(RECORD, intra, newIntraFreqCellList, 1, 0, _)                      \
   F(RECORD, inter, newInterFreqCellList, 1, 1, _)
 
-/* As in SIB11, hcs_not_used with cpich_Ec_N0 converts the inter-frequency list only when no
-   intra-frequency list came. */
+/* As in SIB11, every form holds both new-cell lists, each under its presence bit
+   (intra-frequency bit 0, inter-frequency bit 1), hcs_not_used with cpich_Ec_N0 among them. */
 #define umts_ext_hcs_not_used_cpich_rscp_FIELDS(F) \
   UMTS_EXT_QUALITY_ALTERNATIVE_FIELDS(F, umts_new_intra_freq_cell_si_list_rscp, umts_new_inter_freq_cell_si_list_rscp)
 #define umts_ext_hcs_not_used_cpich_ec_n0_FIELDS(F) \

@@ -23,7 +23,10 @@ const std::string kSamples = UMTS_SAMPLES_DIR;
 std::string temp_dir() {
   static std::string dir = [] {
     char name[] = "/tmp/sibdump_jobs_XXXXXX";
-    return std::string(mkdtemp(name));
+    std::string d(mkdtemp(name));
+    // Gone with the test program.
+    std::atexit([] { std::system(("rm -rf '" + temp_dir() + "'").c_str()); });
+    return d;
   }();
   return dir;
 }
