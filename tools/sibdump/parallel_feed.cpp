@@ -16,7 +16,7 @@
 namespace {
 
 /* Frames gathered before the workers decode them. */
-constexpr size_t kBatchFrames = 4096;
+constexpr size_t kBatchFrames = 1024;
 
 FILE* append_stream(void* cookie, ssize_t (*append)(void*, const char*, size_t)) {
   const cookie_io_functions_t io = {nullptr, append, nullptr, nullptr};
