@@ -20,15 +20,19 @@ namespace {
 const std::string kSibdump = SIBDUMP_PATH;
 const std::string kSamples = UMTS_SAMPLES_DIR;
 
+// The test's directory, removed when the program ends (kept apart from the static objects,
+// which are gone by then).
+const std::string* g_dir = nullptr;
+
 std::string temp_dir() {
-  static std::string dir = [] {
+  if (g_dir == nullptr) {
     char name[] = "/tmp/sibdump_jobs_XXXXXX";
-    std::string d(mkdtemp(name));
-    // Gone with the test program.
-    std::atexit([] { std::system(("rm -rf '" + temp_dir() + "'").c_str()); });
-    return d;
-  }();
-  return dir;
+    g_dir = new std::string(mkdtemp(name));
+    std::atexit([] {
+      if (std::system(("rm -rf '" + *g_dir + "'").c_str()) != 0) std::fprintf(stderr, "cannot remove %s\n", g_dir->c_str());
+    });
+  }
+  return *g_dir;
 }
 
 std::string read_file(const std::string& path) {
