@@ -59,7 +59,7 @@ uint8_t umts_sib_decoder(const uint8_t* data, umts_sib_set* result, uint32_t len
 
 uint8_t umts_sib_msg_decoder(umts_sib_id sib_id, const uint8_t* data, umts_sib_set* result, uint32_t length) {
   Current current(&kDefault);
-  return umts_decode_whole_sib(sib_id, data, result, length);
+  return umts_decode_whole_sib(umts_sib_id_bits(sib_id), data, result, length);
 }
 
 umts_sib_decoder_t* umts_sib_decoder_new(void) {
@@ -109,7 +109,7 @@ uint8_t umts_sib_decoder_feed_sib(umts_sib_decoder_t* decoder, umts_sib_id sib_i
                                   umts_sib_set* result, uint32_t length) {
   if (decoder == nullptr) return 0;
   Current current(decoder);
-  return umts_decode_whole_sib(sib_id, data, result, length);
+  return umts_decode_whole_sib(umts_sib_id_bits(sib_id), data, result, length);
 }
 
 int umts_sib_decoder_convert_sib16(umts_sib_decoder_t* decoder, rtxContext* context, void* decoded,

@@ -31,8 +31,18 @@ inline umts_decoder_ctxt& umts_ctxt() {
 
 /* The bodies of the two entries, on the calling thread's current instance. */
 UMTS_STATE_LOCAL uint8_t umts_decode_transport_block(const uint8_t* data, umts_sib_set* result, uint32_t length);
-UMTS_STATE_LOCAL uint8_t umts_decode_whole_sib(umts_sib_id sib_id, const uint8_t* data, umts_sib_set* result,
+/* `sib_id` is the caller's umts_sib_id as the integer it passed (any value of its type). */
+UMTS_STATE_LOCAL uint8_t umts_decode_whole_sib(uint32_t sib_id, const uint8_t* data, umts_sib_set* result,
                                                uint32_t length);
+/* The value of a umts_sib_id parameter as the caller passed it. A C caller may pass any value
+   of the enumeration's integer type, while reading the parameter as the C++ enumeration is
+   undefined beyond the enumeration's range (0 to 15): its bytes are read instead. */
+inline uint32_t umts_sib_id_bits(const umts_sib_id& sib_id) {
+  static_assert(sizeof(umts_sib_id) == sizeof(uint32_t), "umts_sib_id is a 32-bit integer");
+  uint32_t value;
+  __builtin_memcpy(&value, &sib_id, sizeof value);
+  return value;
+}
 
 /* A message line, as puts writes it. */
 inline void umts_say(const char* text) { rtxPrintSay(text, 1); }

@@ -94,17 +94,6 @@ void note_schedule(unsigned id, const umts_sib_set* result) {
   }
 }
 
-/* The value of a umts_sib_id parameter as the caller passed it. A C caller may pass any
-   value of the enumeration's integer type, while reading the parameter as the C++
-   enumeration is undefined for values beyond the enumeration's range (0 to 15): its bytes
-   are read instead. */
-uint32_t sib_id_value(const umts_sib_id& sib_id) {
-  static_assert(sizeof(umts_sib_id) == sizeof(uint32_t), "umts_sib_id is a 32-bit integer");
-  uint32_t value;
-  std::memcpy(&value, &sib_id, sizeof value);
-  return value;
-}
-
 }  // namespace
 
 umts_sib_id get_sib_type(uint32_t sib_type) {
@@ -114,7 +103,7 @@ umts_sib_id get_sib_type(uint32_t sib_type) {
 }
 
 void umts_sib_decoder_set_gb_ctxt_bitmask(umts_sib_id sib_id) {
-  const uint32_t id = sib_id_value(sib_id);
+  const uint32_t id = umts_sib_id_bits(sib_id);
   if (id < umts_sib_count) {
     umts_ctxt().request_bitmask |= 1u << id;
   } else {
@@ -148,7 +137,7 @@ uint8_t decode_system_info_msg(umts_sib_set* result) {
   return 1;
 }
 
-uint8_t umts_decode_whole_sib(umts_sib_id sib_id, const uint8_t* data, umts_sib_set* result, uint32_t length) {
+uint8_t umts_decode_whole_sib(uint32_t sib_id, const uint8_t* data, umts_sib_set* result, uint32_t length) {
   if (data == nullptr || result == nullptr || length - 1u >= 0x800u) {
     UMTS_LOG_ERROR("Invalid param!");
     return 0;
@@ -161,7 +150,7 @@ uint8_t umts_decode_whole_sib(umts_sib_id sib_id, const uint8_t* data, umts_sib_
   }
   UMTS_LOG_TRACE("ASN context initialised");
   /* Any id past the last slot is refused, not only the "invalid" value 12. */
-  const uint32_t id = sib_id_value(sib_id);
+  const uint32_t id = sib_id;
   if (id >= umts_sib_count) {
     UMTS_LOG_ERROR("invalid sib type %d", static_cast<int>(id));
     rtFreeContext(&ctx);
