@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "summary.h"
@@ -45,12 +46,42 @@ std::string escape(const std::string& s) {
   return out;
 }
 
-/* "q_rxlevmin" -> "q rxlevmin": keys as column and row heads. */
+/* The heads of the quantities that the standard (TS 25.304, TS 25.331) and the trade name in a
+   notation of their own. */
+const char* notation_of(const std::string& key) {
+  static const std::pair<const char*, const char*> kNotation[] = {
+      {"q_rxlevmin", "Qrxlevmin"},           {"q_qualmin", "Qqualmin"},
+      {"delta_q_rxlevmin", "DeltaQrxlevmin"}, {"s_intrasearch", "Sintrasearch"},
+      {"s_intersearch", "Sintersearch"},     {"s_search_rat", "SsearchRAT"},
+      {"s_limit_search_rat", "SlimitSearchRAT"}, {"q_hyst1_s", "Qhyst1s"},
+      {"q_hyst2_s", "Qhyst2s"},              {"t_reselection", "Treselections"},
+      {"q_offset1_s_n", "Qoffset1s,n"},      {"q_offset2_s_n", "Qoffset2s,n"},
+      {"q_offset_s_n", "Qoffsets,n"},        {"q_hcs_coded", "Qhcs"},
+      {"hcs_priority", "HCS_PRIO"},          {"t_barred", "Tbarred"},
+      {"max_allowed_ul_tx_power", "UE_TXPWR_MAX_RACH"},
+      {"primary_scrambling_code", "PSC"},    {"uarfcn", "UARFCN"},
+      {"uarfcn_dl", "UARFCN DL"},            {"bcch_arfcn", "BCCH ARFCN"},
+      {"bsic", "BSIC"},                      {"plmn", "PLMN"},
+      {"lac", "LAC"},                        {"rac", "RAC"},
+      {"rnc_id", "RNC-Id"},                  {"c_id", "C-Id"},
+      {"cell_individual_offset", "CIO"},     {"aich_power_offset", "AICH power offset"},
+      {"pich_power_offset", "PICH power offset"},
+  };
+  for (const auto& n : kNotation)
+    if (key == n.first) return n.second;
+  return nullptr;
+}
+
+/* A key as a column or row head: in the notation of the standard where it has one
+   ("q_rxlevmin" -> "Qrxlevmin"), else in words ("cell_barred" -> "cell barred"); the field
+   name as its tooltip. */
 std::string head_text(const std::string& key) {
-  std::string s = key;
-  for (char& c : s)
-    if (c == '_') c = ' ';
-  return escape(s);
+  const char* notation = notation_of(key);
+  std::string s = notation != nullptr ? notation : key;
+  if (notation == nullptr)
+    for (char& c : s)
+      if (c == '_') c = ' ';
+  return "<span title=\"" + escape(key) + "\">" + escape(s) + "</span>";
 }
 
 bool is_missing(const SummaryNode& n) { return n.kind == SummaryNode::Object && n.find("missing") != nullptr; }

@@ -820,6 +820,19 @@ TEST(SummaryHtml, PageLoadsInHeadlessChromium) {
   RecordProperty("screenshot", shot);
 }
 
+/* Heads in the notation of the standard, with the field's name as the tooltip; words for the
+   rest. */
+TEST(SummaryHtml, HeadsInTheNotationOfTheStandard) {
+  const Outcome made = run_sibdump("--summary=html '" + kSamples + "/fdd_cell.bch'");
+  ASSERT_EQ(made.status, 0) << made.err;
+  for (const char* head : {"<span title=\"q_rxlevmin\">Qrxlevmin</span>", "<span title=\"q_qualmin\">Qqualmin</span>",
+                           "<span title=\"s_intrasearch\">Sintrasearch</span>",
+                           "<span title=\"t_reselection\">Treselections</span>",
+                           "<span title=\"q_hyst1_s\">Qhyst1s</span>", "<span title=\"cell_barred\">cell barred</span>"})
+    EXPECT_TRUE(has(made.out, head)) << head;
+  EXPECT_FALSE(has(made.out, ">q rxlevmin<"));
+}
+
 TEST(Summary, UnknownFormatIsAUsageError) {
   const Outcome r = run_sibdump("--summary=xml '" + kSamples + "/fdd_cell.bch'");
   EXPECT_EQ(r.status, 2);
