@@ -525,29 +525,31 @@ TEST(ConvertInterRat, CellListsCopiedFromTheirCounts) {
 
 // Decoded lists longer than their record (which the decoder never delivers) fill the array
 // and stop at its bound; the count keeps the low 8 bits of the decoded count.
+// Converts `src` into a record followed by guard bytes, and checks that the guard stays zero.
+template <class Record, class Src, class Convert>
+Record withinBound(Convert convert, const Src* src) {
+  struct {
+    Record list;
+    uint8_t after[64];
+  } flat{};
+  convert(src, &flat.list);
+  EXPECT_TRUE(allZero(flat.after));
+  return flat.list;
+}
+
 TEST(ConvertMeasLists, CopiedWithinTheirBound) {
   Pool p;
   rtxDList cells{};
   for (unsigned i = 0; i < 40; i++) p.add(cells, NewIntraFreqCellSI_RSCP{1, static_cast<uint8_t>(i), {}});
-  struct {
-    umts_new_intra_freq_cell_si_list_rscp list;
-    uint8_t after[64];
-  } flat{};
-  convert_new_intra_freq_cell_si_list_rscp(&cells, &flat.list);
-  EXPECT_EQ(flat.list.count, 40);
-  EXPECT_EQ(flat.list.entries[31].intraFreqCellID, 31);
-  EXPECT_TRUE(allZero(flat.after));
+  const auto list = withinBound<umts_new_intra_freq_cell_si_list_rscp>(convert_new_intra_freq_cell_si_list_rscp, &cells);
+  EXPECT_EQ(list.count, 40);
+  EXPECT_EQ(list.entries[31].intraFreqCellID, 31);
 
   rtxDList events{};
   for (unsigned i = 0; i < 9; i++) p.add<IntraFreqEventCriteria>(events)->hysteresis = static_cast<uint8_t>(i + 1);
-  struct {
-    umts_intra_freq_event_criteria_list list;
-    uint8_t after[64];
-  } criteria{};
-  convert_intra_freq_event_criteria_list(&events, &criteria.list);
-  EXPECT_EQ(criteria.list.count, 9);
-  EXPECT_EQ(criteria.list.entries[7].hysteresis, 8);
-  EXPECT_TRUE(allZero(criteria.after));
+  const auto criteria = withinBound<umts_intra_freq_event_criteria_list>(convert_intra_freq_event_criteria_list, &events);
+  EXPECT_EQ(criteria.count, 9);
+  EXPECT_EQ(criteria.entries[7].hysteresis, 8);
 }
 
 // SIB11bis without HCS and with the CPICH Ec/N0 measure converts each of its two cell lists
