@@ -3,8 +3,9 @@
 // sequence of conversions it receives, each record must read byte for byte as in a set of
 // the caller's own, where the whole record is written with zeros before each conversion.
 // The sequences here: every random valid encoding of each block that the generator wrote
-// for the round-trip tests and for these tests (tests/data/block_vectors.txt, more of them),
-// one after another in both orders, and the sample cell's SIBs.
+// for the round-trip tests and for these tests (tests/data/block_vectors.txt, more of them;
+// tests/data/extension_vectors.txt, every extension level present), one after another in
+// both orders, and the sample cell's SIBs.
 // The same records check the JSON writers compiled from the field lists against the writer
 // that reads the run-time descriptions.
 #include <gtest/gtest.h>
@@ -45,8 +46,9 @@ const std::map<std::string, umts_sib_id>& blockTypes() {
 }
 
 // Encodings of each block in tests/data/block_vectors.txt, written by
-// `rrcgen --vectors FILE --per-type N --seed 28` and kept to the blocks of a set.
-constexpr size_t kBlockVectors = 100;
+// `rrcgen --vectors FILE --per-type N --seed 28` and kept to the blocks of a set, and in
+// tests/data/extension_vectors.txt (the same with --all-extensions).
+constexpr size_t kBlockVectors = 100, kExtensionVectors = 40;
 
 struct Encoding {
   umts_sib_id id;
@@ -56,7 +58,7 @@ struct Encoding {
 // The generator's random encodings of the blocks, in file order.
 std::vector<Encoding> randomEncodings() {
   std::vector<Encoding> out;
-  for (const char* file : {"/roundtrip_vectors.txt", "/block_vectors.txt"}) {
+  for (const char* file : {"/roundtrip_vectors.txt", "/block_vectors.txt", "/extension_vectors.txt"}) {
     std::ifstream in(std::string(UMTS_TEST_DATA_DIR) + file);
     std::string line;
     while (std::getline(in, line)) {
@@ -152,7 +154,7 @@ class LibrarySetClearing : public FrameTest {
 TEST_F(LibrarySetClearing, RandomEncodingsInTurnReadAsInTheCallersSet) {
   ASSERT_NE(own, nullptr);
   const std::vector<Encoding> all = randomEncodings();
-  ASSERT_EQ(all.size(), (12u + kBlockVectors) * blockTypes().size());
+  ASSERT_EQ(all.size(), (12u + kBlockVectors + kExtensionVectors) * blockTypes().size());
   for (size_t i = 0; i < all.size(); i++) convertBoth(all[i], "random encoding " + std::to_string(i));
   for (size_t i = all.size(); i-- > 0;) convertBoth(all[i], "random encoding " + std::to_string(i) + ", backwards");
 }

@@ -57,7 +57,7 @@ std::vector<Unit> emitInits(const Model& m);
 std::vector<Unit> emitNames(const Model& m);
 std::vector<OutFile> emitRegistry(const Model& m);
 // Random valid PER encodings of the top-level types, as test vectors.
-OutFile emitVectors(const Model& m, unsigned seed, int per_type);
+OutFile emitVectors(const Model& m, unsigned seed, int per_type, bool all_extensions = false);
 
 // Packs the units of a family into files of about `lines_per_file` lines.
 // Each file starts with the declarations of its bodies and a shim for every body that it

@@ -35,7 +35,7 @@ class BitWriter {
 
 class RandomEncoder {
  public:
-  explicit RandomEncoder(unsigned seed) : rng_(seed) {}
+  RandomEncoder(unsigned seed, bool all_extensions) : rng_(seed), all_extensions_(all_extensions) {}
 
   // One random value of d; `budget` bounds the size in bits that optional parts may add.
   void value(const Def* d, BitWriter& out, long budget) {
@@ -95,6 +95,7 @@ class RandomEncoder {
 
  private:
   std::mt19937_64 rng_;
+  bool all_extensions_;
   std::map<const Def*, long> min_bits_;
 
   // A value in 0..top, its bounds more often than the rest.
@@ -140,7 +141,7 @@ class RandomEncoder {
     std::vector<bool> present;
     for (const Field& f : d->fields) {
       if (!(f.optional || f.has_default)) continue;
-      bool p = budget > 0 && (rng_() % 2 == 0);
+      bool p = extension(f) || (budget > 0 && (rng_() % 2 == 0));
       if (p && f.has_default && !canDiffer(f)) p = false;
       present.push_back(p);
     }
@@ -162,9 +163,18 @@ class RandomEncoder {
       } else if (f.has_default) {
         defaultDiffering(f, out);
       } else {
-        value(f.type, out, share);
+        value(f.type, out, extension(f) ? budget : share);
       }
     }
+  }
+
+  // With all_extensions_, the containers of later additions ("v4b0NonCriticalExtensions",
+  // "nonCriticalExtensions") are always present and each level gets the budget of the one
+  // before, so that the whole chain of a block is reached.
+  bool extension(const Field& f) const {
+    static const std::string tail = "onCriticalExtensions";
+    return all_extensions_ && f.optional && f.asn_name.size() >= tail.size() &&
+           f.asn_name.compare(f.asn_name.size() - tail.size(), tail.size(), tail) == 0;
   }
 
   bool canDiffer(const Field& f) {
@@ -256,11 +266,11 @@ std::string hexOf(const std::vector<unsigned char>& bytes) {
 
 }  // namespace
 
-OutFile emitVectors(const Model& m, unsigned seed, int per_type) {
-  RandomEncoder enc(seed);
-  std::string text =
-      "# Random valid unaligned PER encodings, made by rrcgen from the schema model (seed " + std::to_string(seed) +
-      ").\n# type bits hex\n";
+OutFile emitVectors(const Model& m, unsigned seed, int per_type, bool all_extensions) {
+  RandomEncoder enc(seed, all_extensions);
+  std::string text = "# Random valid unaligned PER encodings, made by rrcgen from the schema model (seed " +
+                     std::to_string(seed) + (all_extensions ? ", every extension level present" : "") +
+                     ").\n# type bits hex\n";
   for (const Def* d : m.types) {
     bool all = per_type < 0;
     if (!all && !d->toplevel) continue;
@@ -269,7 +279,9 @@ OutFile emitVectors(const Model& m, unsigned seed, int per_type) {
       BitWriter bw;
       // A third of the values are as small as the schema allows, the rest grow to a few
       // thousand bits.
-      long budget = i % 3 == 0 ? 0 : 3000;
+      // With every extension level present, each level has a budget of its own: 600 bits
+      // keeps a block of ten levels within the 1000 octets that a SIB may take.
+      long budget = i % 3 == 0 ? 0 : all_extensions ? 600 : 3000;
       enc.value(d, bw, budget);
       text += d->c_name + " " + std::to_string(bw.bits()) + " " + (bw.bytes().empty() ? "-" : hexOf(bw.bytes())) + "\n";
     }

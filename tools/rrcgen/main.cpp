@@ -34,6 +34,7 @@ void usage() {
       "  --all-vectors FILE  write two random valid encodings of every type\n"
       "  --seed N            seed of the random encodings (default 25331)\n"
       "  --per-type N        encodings per top-level type (default 12)\n"
+      "  --all-extensions    with --vectors: every extension level of a value present\n"
       "  --counts            print the counts of types by construct\n"
       "  --help              this text");
 }
@@ -106,7 +107,7 @@ int main(int argc, char** argv) {
   bool skip_missing = false;
   unsigned seed = 25331;
   int per_type = 12;
-  bool counts = false;
+  bool counts = false, all_extensions = false;
   for (int i = 1; i < argc; i++) {
     std::string a = argv[i];
     auto arg = [&]() -> std::string {
@@ -126,6 +127,7 @@ int main(int argc, char** argv) {
     else if (a == "--seed") seed = static_cast<unsigned>(std::strtoul(arg().c_str(), nullptr, 10));
     else if (a == "--per-type") per_type = std::atoi(arg().c_str());
     else if (a == "--counts") counts = true;
+    else if (a == "--all-extensions") all_extensions = true;
     else if (a == "--help" || a == "-h") {
       usage();
       return 0;
@@ -212,7 +214,7 @@ int main(int argc, char** argv) {
   }
   if (!vectors.empty() || !all_vectors.empty()) {
     try {
-      if (!vectors.empty() && !writeFile(vectors, emitVectors(model, seed, per_type).text)) return 1;
+      if (!vectors.empty() && !writeFile(vectors, emitVectors(model, seed, per_type, all_extensions).text)) return 1;
       if (!all_vectors.empty() && !writeFile(all_vectors, emitVectors(model, seed, -1).text)) return 1;
     } catch (const std::exception& e) {
       std::fprintf(stderr, "rrcgen: %s\n", e.what());
