@@ -59,11 +59,14 @@ TEST(ConvertSib5TddParts, BitStringsStayInTheirFields) {
   EXPECT_EQ(vhcrFlat.u.bitmap.numbits, 32u);
   EXPECT_EQ(octets(vhcrFlat.u.bitmap), (Bytes{1, 2, 3, 4}));
 
-  // Subchannel sizes: size2 a word, size4 to size16 numbits and at most four octets; nothing
-  // is written past the record.
+  // An r7 access class: its 16 code indices, and the subchannel sizes: size2 a word, size4 to
+  // size16 numbits and at most four octets; nothing is written past the record.
   for (uint32_t tag = 2; tag <= 5; tag++) {
     SCOPED_TRACE(tag);
-    AccessServiceClass_TDD_r7_subchannelSize src{};
+    AccessServiceClass_TDD_r7 cls{};
+    cls.m = 1;
+    cls.channelisationCodeIndices = bitString<AccessServiceClass_TDD_r7_channelisationCodeIndices>({0x12, 0x34}, 16);
+    AccessServiceClass_TDD_r7_subchannelSize& src = cls.subchannelSize;
     src.t = tag;
     auto bits = [&](auto*& size, uint32_t n) {
       size = padded<std::remove_pointer_t<std::remove_reference_t<decltype(size)>>>(pool);
@@ -75,21 +78,57 @@ TEST(ConvertSib5TddParts, BitStringsStayInTheirFields) {
     if (tag == 4) bits(src.u.size8, 8);
     if (tag == 5) bits(src.u.size16, 16);
     struct {
-      umts_subchannel_size_r7 size;
+      umts_access_service_class_tdd_r7 cls;
       uint8_t after[16];
     } out{};
-    convert_access_service_class_tdd_r7_subchannel_size(&src, &out.size);
-    EXPECT_EQ(out.size.choice_tag, tag);
+    convert_access_service_class_tdd_r7(&cls, &out.cls);
+    EXPECT_EQ(out.cls.presence_bitmask, 1);
+    EXPECT_EQ(out.cls.channelisationCodeIndices.numbits, 16u);
+    EXPECT_EQ(octets(out.cls.channelisationCodeIndices), (Bytes{0x12, 0x34, 0, 0}));
+    const umts_subchannel_size_r7& size = out.cls.subchannelSize;
+    EXPECT_EQ(size.choice_tag, tag);
     EXPECT_TRUE(allZero(out.after));
     if (tag == 2) {
-      EXPECT_EQ(out.size.u.size2.subchannels, 1u);
+      EXPECT_EQ(size.u.size2.subchannels, 1u);
       continue;
     }
-    const umts_subchannel_size_bits& s = tag == 3 ? out.size.u.size4 : tag == 4 ? out.size.u.size8 : out.size.u.size16;
+    const umts_subchannel_size_bits& s = tag == 3 ? size.u.size4 : tag == 4 ? size.u.size8 : size.u.size16;
     EXPECT_EQ(s.presence_bitmask, 1);
     EXPECT_EQ(s.subchannels.numbits, 1u << (tag - 1));
     EXPECT_EQ(octets(s.subchannels), (Bytes{static_cast<uint8_t>(tag == 3 ? 0xB0 : 0xB1), static_cast<uint8_t>(tag == 5 ? 0xB2 : 0), 0, 0}));
   }
+}
+
+// VHCR timeslots of an additional list with new parameters, uplink and downlink.
+TEST(ConvertSib5TddParts, VhcrAdditionalTimeslotsWithNewParameters) {
+  UplinkAdditionalTimeslots_VHCR_parameters_newParameters upNew{};
+  upNew.individualTimeslotInfo.timeslotNumber = 5;
+  upNew.ul_TS_ChannelisationCodeList.n = 2;
+  upNew.ul_TS_ChannelisationCodeList.elem[1] = 9;
+  UplinkAdditionalTimeslots_VHCR up{};
+  up.parameters.t = 2;
+  up.parameters.u.newParameters = &upNew;
+  umts_uplink_additional_timeslots_vhcr upOut{};
+  convert_uplink_additional_timeslots_vhcr(&up, &upOut);
+  ASSERT_EQ(upOut.choice_tag, 2u);
+  EXPECT_EQ(upOut.u.newParameters.individualTimeslotInfo.timeslotNumber, 5);
+  EXPECT_EQ(upOut.u.newParameters.ul_TS_ChannelisationCodeList.count, 2u);
+  EXPECT_EQ(upOut.u.newParameters.ul_TS_ChannelisationCodeList.codes[1], 9u);
+
+  DownlinkAdditionalTimeslots_VHCR_parameters_newParameters downNew{};
+  downNew.individualTimeslotInfo.timeslotNumber = 6;
+  DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive consecutive{3, 7};
+  downNew.dl_TS_ChannelisationCodesShort.codesRepresentation.t = 1;
+  downNew.dl_TS_ChannelisationCodesShort.codesRepresentation.u.consecutive = &consecutive;
+  DownlinkAdditionalTimeslots_VHCR down{};
+  down.parameters.t = 2;
+  down.parameters.u.newParameters = &downNew;
+  umts_downlink_additional_timeslots_vhcr downOut{};
+  convert_downlink_additional_timeslots_vhcr(&down, &downOut);
+  ASSERT_EQ(downOut.choice_tag, 2u);
+  EXPECT_EQ(downOut.u.newParameters.individualTimeslotInfo.timeslotNumber, 6);
+  EXPECT_EQ(downOut.u.newParameters.dl_TS_ChannelisationCodesShort.u.consecutive.firstChannelisationCode, 3u);
+  EXPECT_EQ(downOut.u.newParameters.dl_TS_ChannelisationCodesShort.u.consecutive.lastChannelisationCode, 7u);
 }
 
 // The 1.28 Mcps common E-DCH keeps up to 256 E-RNTI groups under an 8-bit count (a full list
