@@ -580,42 +580,6 @@ TEST_F(ConvertSib11, Sib11bisEcn0ConvertsBothCellLists) {
   }
 }
 
-// A failed decoding keeps the previous record; a small SIB11 afterwards leaves nothing of a
-// big one; SIB11bis and SIB12 keep their records and presence bits on failure too.
-TEST_F(ConvertSib11, FailedDecodingKeepsThePreviousRecordAndASecondLeavesNothingOfTheFirst) {
-  MeasBuilder big(kForms[3], 3);
-  SysInfoType11 s{};
-  s.m = 1;
-  s.fach_MeasurementOccasionInfo.inter_freq_TDD_meas_ind = 1;
-  s.measurementControlSysInfo = big.mc;
-  ASSERT_EQ(sib11(s), 1);
-  const umts_sib11_info before = result->sib11;
-  std::string out;
-  EXPECT_EQ(whole(umts_sib_sib11, Bytes(40, 0xFF), &out), 0);
-  EXPECT_NE(out.find("umts_convert_sib11:asn decoding failed\n"), std::string::npos);
-  EXPECT_EQ(out.find("Decoded SysInfoType11"), std::string::npos);
-  EXPECT_EQ(std::memcmp(&result->sib11, &before, sizeof before), 0);
-  EXPECT_TRUE(logged("2:decode_system_info_msg:umts_convert_sib11 failed"));
-
-  SysInfoType11 small{};
-  Pool p;
-  small.measurementControlSysInfo.use_of_HCS.t = 1;
-  p.alloc(small.measurementControlSysInfo.use_of_HCS.u.hcs_not_used)->cellSelectQualityMeasure.t = 1;
-  p.alloc(small.measurementControlSysInfo.use_of_HCS.u.hcs_not_used->cellSelectQualityMeasure.u.cpich_RSCP);
-  ASSERT_EQ(sib11(small), 1);
-  umts_sib11_info expected{};
-  expected.measurementControlSysInfo.use_of_HCS.choice_tag = 1;
-  expected.measurementControlSysInfo.use_of_HCS.u.hcs_not_used.cellSelectQualityMeasure.choice_tag = 1;
-  EXPECT_EQ(std::memcmp(&result->sib11, &expected, sizeof expected), 0);
-
-  result->sib12.presence_bitmask = 3;
-  result->sib11bis.presence_bitmask = 5;
-  EXPECT_EQ(whole(umts_sib_sib12, Bytes(40, 0xFF)), 0);
-  EXPECT_EQ(whole(umts_sib_sib11bis, Bytes(40, 0xFF)), 0);
-  EXPECT_EQ(result->sib12.presence_bitmask, 3);
-  EXPECT_EQ(result->sib11bis.presence_bitmask, 5);
-}
-
 // The sample cell's SIB11 form over the BCH, with 12 cells and with the 32 of the schema's
 // bound: the segments, joined bit by bit, give the record of the whole SIB.
 TEST_F(ConvertSib11, OverTheBchInSeveralBlocks) {

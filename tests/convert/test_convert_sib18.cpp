@@ -215,19 +215,6 @@ TEST_F(ConvertSib18, WholeAndOverBchGivesTheValuesBuilt) {
   }
 }
 
-TEST_F(ConvertSib18, FailedDecodingKeepsThePreviousRecord) {
-  Sib18 b;
-  kCases[2].build(b);
-  ASSERT_EQ(whole(umts_sib_sib18, encode(asn1PE_UMTS_SysInfoType18, b.s)), 1);
-  const umts_sib18_info before = result->sib18;
-  std::string out;
-  EXPECT_EQ(whole(umts_sib_sib18, {0x90, 0x3E}, &out), 0);  // a cell whose first MCC digit is 15
-  EXPECT_EQ(out, "umts_convert_sib18: asn decoding failed\n");
-  EXPECT_TRUE(logged("2:decode_system_info_msg:umts_convert_sib18 failed"));
-  EXPECT_EQ(result->presence_bitmask, 0);
-  EXPECT_EQ(std::memcmp(&result->sib18, &before, sizeof before), 0);
-}
-
 // The extension's filler refuses a null value with its message, leaving the record alone.
 TEST_F(ConvertSib18, NullExtensionValueIsRefused) {
   umts_sysinfotype18_v6b0_nce record;
