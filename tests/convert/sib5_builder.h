@@ -1,4 +1,4 @@
-// A SysInfoType5 built in code, shared by the SIB5 tests.
+// A SysInfoType5 built in code, for the SIB5 conversion tests.
 #ifndef UMTS_TEST_SIB5_BUILDER_H
 #define UMTS_TEST_SIB5_BUILDER_H
 
@@ -43,7 +43,6 @@ struct Sib5Builder {
   DedicatedDynamicTF_InfoList dedicatedList[8];
   DedicatedDynamicTF_Info dedicatedInfo[8];
   OctetModeRLC_SizeInfoType1 octet1[8];
-  SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd v860Fdd;
   rtxDListNode nodes[256];
   unsigned usedNodes = 0;
 
@@ -193,28 +192,6 @@ struct Sib5Builder {
     c.pich_Info.u.fdd = &pich[i];
     pich[i] = {static_cast<uint8_t>(2 + i), 1, 1};
     add(s.sCCPCH_SystemInformationList, c);
-  }
-
-  auto& v590() { return s.v4b0NonCriticalExtensions.v590NonCriticalExtensions; }
-  auto& v650() { return v590().v650NonCriticalExtensions; }
-  auto& v680() { return v650().v680NonCriticalExtensions; }
-  auto& v690() { return v680().v690NonCriticalExtensions; }
-  auto& v770() { return v690().v770NonCriticalExtensions; }
-  auto& v860() { return v770().v860NonCriticalExtensions; }
-  auto& v890() { return v860().v890NonCriticalExtensions; }
-  auto& v8b0() { return v890().v8b0NonCriticalExtensions; }
-  auto& v8d0() { return v8b0().v8d0NonCriticalExtensions; }
-  // Levels present down to `depth`: 0 none, 1 v4b0 ... 10 v8d0, 11 nonCriticalExtensions.
-  // The levels from v690 on carry their extension always; v4b0 to v680 get theirs too.
-  void chain(int depth) {
-    if (depth >= 1) s.m |= 4u;
-    uint32_t* opt[] = {&s.v4b0NonCriticalExtensions.m, &v590().m, &v650().m, &v680().m};
-    for (int i = 0; i < 4 && i + 1 <= depth; i++) *opt[i] |= 1u | (depth > i + 1 ? 2u : 0u);
-    uint32_t* always[] = {&v690().m, &v770().m, &v860().m, &v890().m, &v8b0().m, &v8d0().m};
-    for (int i = 0; i < 6; i++)
-      if (depth > i + 5) *always[i] |= 1u;
-    v860().sysInfoType5_v860ext.modeSpecificInfo.t = 1;  // a mandatory choice of its level
-    v860().sysInfoType5_v860ext.modeSpecificInfo.u.fdd = &v860Fdd;
   }
 
   std::vector<uint8_t> encode(uint32_t* bits = nullptr) const { return frametest::encode(asn1PE_UMTS_SysInfoType5, s, bits); }

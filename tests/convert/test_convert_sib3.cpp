@@ -23,14 +23,6 @@ struct Sib3Builder {
   RAT_TDD_Info tddRats[15];
   N_CR_T_CRMaxHyst hyst[2];
   CellBarred_barred barred;
-  DomainSpecificAccessRestriction_v670ext_restriction restrictions[4];
-  DomainSpecificAccessRestrictionList_v670ext operators;
-  DomainSpecificAccessRestrictionParam_v670ext forAll;
-  DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd deferredFdd;
-  DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd deferredTdd;
-  LocationRegistrationAccessClassBarredList registrations[2];
-  PagingPermissionWithAccessControlList pagingOperators;
-  PagingPermissionWithAccessControlParameters pagingForAll;
   rtxDListNode nodes[120];
   unsigned usedNodes = 0;
   unsigned usedParams = 0;
@@ -69,22 +61,6 @@ struct Sib3Builder {
       add(list, p);
     }
   }
-  SysInfoType3_v4b0NonCriticalExtensions& v4b0() { return s.v4b0NonCriticalExtensions; }
-  auto& v590() { return v4b0().v590NonCriticalExtension; }
-  auto& v5c0() { return v590().v5c0NoncriticalExtension; }
-  auto& v670() { return v5c0().v670NonCriticalExtension; }
-  auto& v770() { return v670().v770NonCriticalExtension; }
-  auto& v830() { return v770().v830NonCriticalExtension; }
-  auto& v860() { return v830().v860NonCriticalExtension; }
-  auto& v870() { return v860().v870NonCriticalExtension; }
-  auto& v900() { return v870().v900NonCriticalExtension; }
-  // Extension levels present down to `depth`: 0 none, 1 v4b0 ... 9 v900, 10 nonCriticalExtensions.
-  void chain(int depth) {
-    uint32_t* words[] = {&s.m, &v4b0().m, &v590().m, &v5c0().m, &v670().m, &v770().m, &v830().m, &v860().m,
-                         &v870().m, &v900().m};
-    for (int i = 0; i < depth; i++) *words[i] |= 1u;
-  }
-
   std::vector<uint8_t> encode(uint32_t* bits = nullptr) const {
     return frametest::encode(asn1PE_UMTS_SysInfoType3, s, bits);
   }
