@@ -5,6 +5,7 @@
 
 #include "frame_test_util.h"
 #include "umts_sib_convert.h"
+#include "umts_sib_json.h"
 
 using namespace frametest;
 
@@ -399,6 +400,25 @@ TEST_F(ConvertSib16, FailedDecodeIsConvertedPartly) {
   EXPECT_EQ(at<umts_sib16_srb_information_setup>(*out, kEntry0).rb_Identity, 4);
   EXPECT_EQ(c.rb_InformationList.count, 0);
   EXPECT_EQ(out->preDefinedRadioConfiguration.open_list_room[UMTS_SIB16_OPEN_LIST_ROOM - 1], 0);  // cleared
+}
+
+// The record's JSON, its length asked first, opens with the timer and the two lists' counts
+// that the conversion wrote.
+TEST_F(ConvertSib16, JsonOfTheRecord) {
+  static Sib16Builder b;
+  b.srbAndRb(1, 1, 2, 2);
+  Host host;
+  ASSERT_EQ(host.convert(b.encode(), out), 0);
+  const size_t length = umts_sib16_json(out, nullptr, 0);
+  std::vector<char> text(length + 1);
+  EXPECT_EQ(umts_sib16_json(out, text.data(), text.size()), length);
+  const std::string json(text.data());
+  EXPECT_EQ(json.size(), length);
+  EXPECT_EQ(json.rfind("{\"presence_bitmask\":0,\"preDefinedRadioConfiguration\":{\"predefinedRB_Configuration\":"
+                       "{\"re_EstablishmentTimer\":1,\"srb_InformationList\":{\"count\":1},\"rb_InformationList\":{\"count\":1}}",
+                       0),
+            0u)
+      << json.substr(0, 200);
 }
 
 }  // namespace
