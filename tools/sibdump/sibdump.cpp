@@ -65,8 +65,13 @@ const char kUsage[] =
     "                     errors, above 5 also traces; written to standard error. Default 0.\n"
     "  --udp [[ADDRESS:]PORT]  listen for GSMTAP datagrams (as a phone-to-GSMTAP bridge sends\n"
     "                     them) on ADDRESS:PORT, default " SIBDUMP_UDP_DEFAULT "; records are written\n"
-    "                     as they are decoded until SIGINT (Ctrl-C) or SIGTERM, then a count\n"
-    "                     summary per cell goes to standard error\n"
+    "                     as they are decoded (written out whenever the socket goes quiet)\n"
+    "                     until SIGINT (Ctrl-C) or SIGTERM, then a count summary per cell\n"
+    "                     goes to standard error, with the datagrams that the kernel dropped\n"
+    "                     because they came while the receive buffer was full\n"
+    "  --udp-buffer SIZE  the receive buffer that --udp asks for, in bytes or with K or M\n"
+    "                     (KiB, MiB); default 16M. Above net.core.rmem_max it takes\n"
+    "                     CAP_NET_ADMIN; what is granted when less is said.\n"
     "  --summary[=FORMAT] instead of the records, one summary per cell once the input ends\n"
     "                     (for --udp: once interrupted): identity, access, cell selection\n"
     "                     and reselection, the broadcast schedule, common channels and\n"
@@ -113,6 +118,7 @@ struct Options {
   bool log_level_set = false;
   bool udp = false;
   const char* udp_address = nullptr; /* null: the default */
+  size_t udp_buffer = 0;             /* 0: the default */
   const char* summary = nullptr;     /* "text", "json" or "html"; null: records */
 };
 
@@ -185,6 +191,19 @@ bool parse_args(int argc, char** argv, Options* opt) {
         std::fprintf(stderr, "sibdump: --summary takes text, json or html, not '%s'\n", opt->summary);
         return false;
       }
+    } else if (take_value("--udp-buffer")) {
+      if (value == nullptr) return false;
+      char* end = nullptr;
+      errno = 0;
+      const unsigned long long size = std::strtoull(value, &end, 10);
+      const unsigned long long unit = *end == 'K' || *end == 'k' ? 1ull << 10 : *end == 'M' || *end == 'm' ? 1ull << 20 : 1;
+      if (unit != 1) end++;
+      if (*value < '0' || *value > '9' || *end != '\0' || errno != 0 || size == 0 || size > (1ull << 30) / unit) {
+        std::fprintf(stderr, "sibdump: --udp-buffer needs a size of 1 byte to 1024M (e.g. 65536, 512K, 16M), not '%s'\n",
+                     value);
+        return false;
+      }
+      opt->udp_buffer = static_cast<size_t>(size * unit);
     } else if (take_value("--asn1-text")) {
       if (value == nullptr) return false;
       opt->asn1_text = value;
@@ -217,6 +236,10 @@ bool parse_args(int argc, char** argv, Options* opt) {
   }
   if (opt->udp && (!opt->inputs.empty() || opt->sibs)) {
     std::fprintf(stderr, "sibdump: --udp reads no file and no --sibs\n");
+    return false;
+  }
+  if (opt->udp_buffer != 0 && !opt->udp) {
+    std::fprintf(stderr, "sibdump: --udp-buffer goes with --udp\n");
     return false;
   }
   return true;
@@ -913,12 +936,18 @@ int main(int argc, char** argv) {
       d.summaries = &summaries;
     }
     RecordOutput output = record_output(d);
-    /* Live records reach the stream as each datagram is decoded. */
-    output.flush = [&lines, json] {
+    /* Live records reach the stream whenever the socket goes quiet. */
+    output.flush = [&lines, json, &out] {
       lines.write_out();
       std::fflush(json);
+      if (out.text != nullptr) std::fflush(out.text);
     };
-    status = run_udp(opt.udp_address, set, output, out.text);
+    UdpInput input;
+    input.address = opt.udp_address;
+    input.buffer = opt.udp_buffer;
+    input.dropped = [&summaries](uint64_t dropped) { summaries.set_dropped(dropped); };
+    summaries.set_dropped(0);
+    status = run_udp(input, set, output, out.text);
     lines.write_out();
     if (opt.summary != nullptr) summaries.finish(cells);
     umts_sib_set_free(set);
