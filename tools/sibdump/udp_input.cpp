@@ -256,6 +256,17 @@ class Receiver {
 #endif
 };
 
+/* Whether two senders have the same address (their ports aside). */
+bool same_host(const sockaddr_storage& a, const sockaddr_storage& b) {
+  if (a.ss_family != b.ss_family) return false;
+  if (a.ss_family == AF_INET)
+    return reinterpret_cast<const sockaddr_in&>(a).sin_addr.s_addr == reinterpret_cast<const sockaddr_in&>(b).sin_addr.s_addr;
+  if (a.ss_family == AF_INET6)
+    return std::memcmp(&reinterpret_cast<const sockaddr_in6&>(a).sin6_addr, &reinterpret_cast<const sockaddr_in6&>(b).sin6_addr,
+                       sizeof(in6_addr)) == 0;
+  return false;
+}
+
 /* "16384 KiB", "208 KiB", "512 bytes" */
 std::string size_text(size_t bytes) {
   if (bytes % 1024 != 0) return std::to_string(bytes) + " bytes";
@@ -310,13 +321,14 @@ int run_udp(const UdpInput& input, umts_sib_set* set, const RecordOutput& output
       dropped = now;
       if (input.dropped) input.dropped(dropped);
     };
+    /* The sender's address as text, made again only when the sender changes. */
     sockaddr_storage last_from;
     std::memset(&last_from, 0, sizeof last_from);
     std::string source;
     auto take = [&](int n) {
       for (int i = 0; i < n; i++) {
         note_dropped(receiver.dropped_before(i));
-        if (std::memcmp(&receiver.from(i), &last_from, sizeof last_from) != 0) {
+        if (source.empty() || !same_host(receiver.from(i), last_from)) {
           last_from = receiver.from(i);
           source = address_text(last_from, false);
         }
@@ -330,13 +342,13 @@ int run_udp(const UdpInput& input, umts_sib_set* set, const RecordOutput& output
         feed.datagram(received, receiver.time_us(i), d);
       }
     };
-    const timespec now = {0, 0};
+    const timespec no_wait = {0, 0};
     while (!g_stop) {
       const int n = receiver.receive();
       if (n > 0) {
         take(n);
         /* A stop signal that came during the batch is taken here. */
-        ppoll(nullptr, 0, &now, &waiting);
+        ppoll(nullptr, 0, &no_wait, &waiting);
         continue;
       }
       if (n < 0 && errno != EINTR) {
