@@ -7,6 +7,7 @@
 #include <netinet/in.h>
 #include <signal.h>
 #include <sys/socket.h>
+#include <sys/time.h>
 #include <sys/wait.h>
 
 #include <cstdlib>
@@ -70,6 +71,20 @@ TEST(LiveDrops, OverfilledReceiveBufferIsCountedExactly) {
     if (sendto(fd, d.data(), d.size(), 0, reinterpret_cast<sockaddr*>(&to), sizeof to) == static_cast<ssize_t>(d.size()))
       sent++;
   }
+  /* A datagram to this test's own socket, received back: the loopback device has delivered
+     those sent before it, so that each is now queued or dropped. */
+  const int probe = socket(AF_INET, SOCK_DGRAM, 0);
+  sockaddr_in self = to;
+  self.sin_port = 0;
+  socklen_t self_length = sizeof self;
+  const timeval limit = {60, 0};
+  ASSERT_EQ(bind(probe, reinterpret_cast<sockaddr*>(&self), sizeof self), 0);
+  getsockname(probe, reinterpret_cast<sockaddr*>(&self), &self_length);
+  setsockopt(probe, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
+  char byte = 0;
+  sendto(fd, &byte, 1, 0, reinterpret_cast<sockaddr*>(&self), sizeof self);
+  EXPECT_EQ(recv(probe, &byte, 1, 0), 1);
+  close(probe);
   close(fd);
   kill(c.pid, SIGCONT);
   kill(c.pid, SIGINT);
