@@ -199,7 +199,7 @@ void BM_Sibdump_Udp(benchmark::State& state) {
     run_time = now_s() - start_s;
     close(s.err);
     read_count = count_before(err, " datagrams read");
-    dropped = count_before(err, " datagrams dropped by the kernel");
+    dropped = count_before(err, " datagrams dropped by the kernel before they were read");
     if (read_count < 0) {
       state.SkipWithError(("no counts from sibdump: " + err).c_str());
       return;

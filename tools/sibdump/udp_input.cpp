@@ -315,11 +315,20 @@ int run_udp(const UdpInput& input, umts_sib_set* set, const RecordOutput& output
     CellFeed feed(set, output, "udp " + bound, "datagram", stderr, text);
     std::unique_ptr<Receiver> batches(new Receiver(fd)); /* 4 MiB: room for the largest datagrams */
     Receiver& receiver = *batches;
+    /* Drops are said as they grow, at most once a second, and counted at the end. */
     uint64_t dropped = 0;
-    auto note_dropped = [&](uint64_t now) {
+    uint64_t said_at_s = 0;
+    auto note_dropped = [&](uint64_t now, bool at_end) {
       if (now == dropped) return;
       dropped = now;
       if (input.dropped) input.dropped(dropped);
+      timespec t;
+      clock_gettime(CLOCK_MONOTONIC, &t);
+      const uint64_t second = static_cast<uint64_t>(t.tv_sec) + 1;
+      if (at_end || second == said_at_s) return;
+      said_at_s = second;
+      std::fprintf(stderr, "sibdump: udp %s: %llu datagrams dropped by the kernel so far: the receive buffer (%s) was full\n",
+                   bound.c_str(), static_cast<unsigned long long>(dropped), size_text(granted).c_str());
     };
     /* The sender's address as text, made again only when the sender changes. */
     sockaddr_storage last_from;
@@ -327,7 +336,7 @@ int run_udp(const UdpInput& input, umts_sib_set* set, const RecordOutput& output
     std::string source;
     auto take = [&](int n) {
       for (int i = 0; i < n; i++) {
-        note_dropped(receiver.dropped_before(i));
+        note_dropped(receiver.dropped_before(i), false);
         if (source.empty() || !same_host(receiver.from(i), last_from)) {
           last_from = receiver.from(i);
           source = address_text(last_from, false);
@@ -373,7 +382,7 @@ int run_udp(const UdpInput& input, umts_sib_set* set, const RecordOutput& output
       take(n);
       left -= std::min(left, static_cast<size_t>(n));
     }
-    note_dropped(receiver.dropped_now());
+    note_dropped(receiver.dropped_now(), true);
     if (output.flush) output.flush();
     std::fprintf(stderr, "sibdump: %s; counts of this run:\n", g_stop ? "interrupted" : "stopped");
     feed.summary(stderr, received);
