@@ -316,12 +316,11 @@ bool parse_hex(const char* text, size_t length, uint8_t* out, size_t capacity, s
 /* JSON lines gathered in one buffer and written in large pieces. */
 class JsonLines {
  public:
-  explicit JsonLines(FILE* out) : out_(out), buf_(static_cast<char*>(std::malloc(kInitial))), cap_(kInitial) {}
-  ~JsonLines() { std::free(buf_); }
+  explicit JsonLines(FILE* out) : out_(out) { own_.reserve(kInitial); }
   JsonLines(const JsonLines&) = delete;
   JsonLines& operator=(const JsonLines&) = delete;
 
-  bool ok() const { return buf_ != nullptr; }
+  bool ok() const { return own_.data != nullptr; }
 
   /* Members that start every line ("input":"<name>",), or empty. */
   void set_prefix(std::string prefix) { prefix_ = std::move(prefix); }
@@ -358,17 +357,18 @@ class JsonLines {
   /* The text of `write` (a JSON writer of the library), then }\n. */
   template <class Write>
   void put_json(Write write) {
-    size_t room = cap_ - len_;
-    size_t need = write(buf_ + len_, room);
+    TextBuffer& b = **where_;
+    size_t room = b.cap - b.len;
+    size_t need = write(b.data + b.len, room);
     if (need >= room) {
       /* A record larger than the room left: write out what is gathered, grow if needed. */
       write_out();
-      reserve(need + 3);
-      need = write(buf_ + len_, cap_ - len_);
+      b.reserve(need + 3);
+      need = write(b.data + b.len, b.cap - b.len);
     }
-    len_ += need;
+    b.len += need;
     put("}\n", 2);
-    if (len_ >= kWriteAt) write_out();
+    if (b.len >= kWriteAt) write_out();
   }
 
   /* {"line":N,"block":"<name>","record": */
@@ -393,41 +393,34 @@ class JsonLines {
     put("\",\"record\":", 11);
   }
 
+  /* The lines go to the buffer at `*where` (which may change between lines) and stay there
+     for its owner to write, instead of going to the stream. */
+  void gather_in(TextBuffer* const* where) {
+    where_ = where;
+    out_ = nullptr;
+  }
+
   /* Everything gathered goes to the stream. */
   void write_out() {
-    if (len_ > 0) std::fwrite(buf_, 1, len_, out_);
-    len_ = 0;
+    if (out_ == nullptr) return;
+    if (own_.len > 0) std::fwrite(own_.data, 1, own_.len, out_);
+    own_.len = 0;
   }
 
  private:
   static constexpr size_t kInitial = 1u << 20;
   static constexpr size_t kWriteAt = 1u << 19;
 
-  void reserve(size_t more) {
-    if (cap_ - len_ >= more) return;
-    size_t cap = cap_;
-    while (cap - len_ < more) cap *= 2;
-    char* grown = static_cast<char*>(std::realloc(buf_, cap));
-    if (grown == nullptr) {
-      std::fprintf(stderr, "sibdump: out of memory\n");
-      std::exit(2);
-    }
-    buf_ = grown;
-    cap_ = cap;
-  }
   void put(const char* s, size_t n) {
-    if (cap_ - len_ < n) {
-      write_out();
-      reserve(n);
-    }
-    std::memcpy(buf_ + len_, s, n);
-    len_ += n;
+    TextBuffer& b = **where_;
+    if (b.cap - b.len < n) write_out();
+    b.append(s, n);
   }
 
-  FILE* out_;
-  char* buf_;
-  size_t cap_;
-  size_t len_ = 0;
+  FILE* out_; /* null: the lines stay in the buffer */
+  TextBuffer own_;
+  TextBuffer* own_at_ = &own_;
+  TextBuffer* const* where_ = &own_at_;
   std::string prefix_;
 };
 
@@ -699,6 +692,7 @@ int run_parallel_capture(const Options& opt, FILE* in, const char* name, const O
     std::unique_ptr<Worker> w(new Worker);
     w->set = new_set();
     w->json.reset(new JsonLines(wo.records()));
+    w->json->gather_in(wo.records_buffer());
     w->json->set_prefix(prefix);
     w->dumper.reset(new Dumper(*w->json, name, w->set));
     Dumper& d = *w->dumper;
@@ -717,7 +711,7 @@ int run_parallel_capture(const Options& opt, FILE* in, const char* name, const O
   };
   int status;
   {
-    ParallelFeed feed(jobs, make_feed, [&workers](unsigned w) { workers[w]->json->write_out(); }, out.json,
+    ParallelFeed feed(jobs, make_feed, out.json,
                       out.text, out.messages, "frame");
     status = run_capture(in, name, feed, out.messages);
   }
