@@ -38,14 +38,14 @@ volatile sig_atomic_t g_stop = 0;
 void on_signal(int) { g_stop = 1; }
 
 /* "[ADDRESS:]PORT", "[IPv6]:PORT"; the address defaults to 127.0.0.1. */
-bool split_address(const std::string& spec, std::string* host, std::string* port) {
-  const size_t colon = spec.rfind(':');
+bool split_address(const std::string& where, std::string* host, std::string* port) {
+  const size_t colon = where.rfind(':');
   if (colon == std::string::npos) {
     *host = "127.0.0.1";
-    *port = spec;
+    *port = where;
   } else {
-    *host = spec.substr(0, colon);
-    *port = spec.substr(colon + 1);
+    *host = where.substr(0, colon);
+    *port = where.substr(colon + 1);
     if (host->size() >= 2 && (*host)[0] == '[' && host->back() == ']') *host = host->substr(1, host->size() - 2);
   }
   if (host->empty() || port->empty() || port->size() > 5 ||
@@ -70,10 +70,10 @@ std::string address_text(const sockaddr_storage& a, bool with_port) {
   return (a.ss_family == AF_INET6 ? "[" + std::string(host) + "]" : std::string(host)) + ":" + std::to_string(port);
 }
 
-int open_socket(const char* spec, std::string* bound) {
+int open_socket(const char* where, std::string* bound) {
   std::string host, port;
-  if (!split_address(spec, &host, &port)) {
-    std::fprintf(stderr, "sibdump: --udp needs [ADDRESS:]PORT, not '%s'\n", spec);
+  if (!split_address(where, &host, &port)) {
+    std::fprintf(stderr, "sibdump: --udp needs [ADDRESS:]PORT, not '%s'\n", where);
     return -1;
   }
   addrinfo hints;
@@ -84,7 +84,7 @@ int open_socket(const char* spec, std::string* bound) {
   addrinfo* found = nullptr;
   const int gai = getaddrinfo(host.c_str(), port.c_str(), &hints, &found);
   if (gai != 0) {
-    std::fprintf(stderr, "sibdump: --udp %s: %s\n", spec, gai_strerror(gai));
+    std::fprintf(stderr, "sibdump: --udp %s: %s\n", where, gai_strerror(gai));
     return -1;
   }
   int fd = -1;
@@ -103,7 +103,7 @@ int open_socket(const char* spec, std::string* bound) {
   }
   freeaddrinfo(found);
   if (fd < 0) {
-    std::fprintf(stderr, "sibdump: cannot listen on %s: %s\n", spec, std::strerror(last_errno));
+    std::fprintf(stderr, "sibdump: cannot listen on %s: %s\n", where, std::strerror(last_errno));
     return -1;
   }
   sockaddr_storage local;
@@ -276,9 +276,9 @@ std::string size_text(size_t bytes) {
 }  // namespace
 
 int run_udp(const UdpInput& input, umts_sib_set* set, const RecordOutput& output, FILE* text) {
-  const char* spec = input.address != nullptr ? input.address : SIBDUMP_UDP_DEFAULT;
+  const char* where = input.address != nullptr ? input.address : SIBDUMP_UDP_DEFAULT;
   std::string bound;
-  const int fd = open_socket(spec, &bound);
+  const int fd = open_socket(where, &bound);
   if (fd < 0) return 2;
   const size_t asked = input.buffer != 0 ? input.buffer : SIBDUMP_UDP_BUFFER;
   const size_t granted = ask_receive_buffer(fd, asked);
