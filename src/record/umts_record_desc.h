@@ -90,7 +90,8 @@ const umts_record_desc* const* umts_all_record_descs(size_t* count);
    first offset its alignment allows after the one before (so nothing overlaps and nothing
    is left out), the record's size the end of its last field rounded to its alignment (for
    a union: every member at offset 0, size that of the largest member rounded); kinds and
-   entry sizes consistent; optional fields backed by a presence_bitmask placed first; count
+   entry sizes consistent; optional fields backed by a presence_bitmask placed first, fields
+   held by their tag (UMTS_BY_TAG) records that begin with their choice_tag; count
    and tag fields integers of the same record; union member tags distinct and not negative.
    Returns the number of problems and writes them, one per line, to *report when not null. */
 size_t umts_record_desc_check(const umts_record_desc* desc, std::string* report);
