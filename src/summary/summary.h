@@ -73,6 +73,13 @@ class CellRecords {
      which the library does not keep, are collected here through the codec, placed by the
      schedule of the cell's MIB, SB1 and SB2 (its segments come as extensionType). */
   void take_block(const uint8_t* block, size_t length);
+  /* The cell's decoder state after a call (umts_sib_decoder_state): the SIBs whose segments
+     it is still collecting, each with the segments received of how many. */
+  void take_collection(const umts_decoder_ctxt* state);
+  /* Segments received of a SIB that the cell's decoder began but has not completed, and of
+     how many (0 and 0 when none is in collection). */
+  unsigned segments_received(umts_sib_id id) const { return partial_[id].first; }
+  unsigned segments_total(umts_sib_id id) const { return partial_[id].second; }
   /* The MIB of `set` has another value tag than the cell's: what was collected belongs to the
      cell's former configuration. */
   bool configuration_changes(const umts_sib_set* set) const;
@@ -94,6 +101,7 @@ class CellRecords {
   umts_sib_set* records_; /* zeroed, then each sub-record copied in */
   uint32_t seen_ = 0;
   unsigned long conversions_[umts_sib_count] = {};
+  std::pair<unsigned, unsigned> partial_[umts_sib_count] = {};
 
   /* SIB19 under collection: its bits so far, the segments it has and will have. */
   struct Collection {

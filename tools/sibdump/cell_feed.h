@@ -24,8 +24,10 @@
 struct RecordOutput {
   std::function<size_t(const std::string& head)> write;
   std::function<void()> flush;
-  /* Each transport block after its records, with the same head; may be empty. */
-  std::function<void(const std::string& head, const uint8_t* block, size_t length)> block = nullptr;
+  /* Each transport block after its records, with the same head and the state of the cell's
+     decoder (the SIBs in collection); may be empty. */
+  std::function<void(const std::string& head, const uint8_t* block, size_t length, const umts_decoder_ctxt* state)>
+      block = nullptr;
 };
 
 /* Counts of one cell. */

@@ -553,9 +553,12 @@ size_t write_records(Dumper& d, const std::string& head) {
 RecordOutput record_output(Dumper& d) {
   RecordOutput output{[&d](const std::string& head) { return write_records(d, head); }, nullptr};
   if (d.cells != nullptr)
-    output.block = [&d](const std::string& head, const uint8_t* block, size_t length) {
+    output.block = [&d](const std::string& head, const uint8_t* block, size_t length, const umts_decoder_ctxt* state) {
       const std::string key = cell_key(head);
-      if (d.cells->has(key)) d.cells->cell(key, cell_label(key)).take_block(block, length);
+      if (!d.cells->has(key)) return;
+      CellRecords& cell = d.cells->cell(key, cell_label(key));
+      cell.take_block(block, length);
+      cell.take_collection(state);
     };
   return output;
 }
@@ -581,7 +584,11 @@ void process_line(Dumper& d, bool sibs, unsigned long line, char* text, size_t l
     d.set->presence_bitmask = 0;
     umts_sib_decoder_feed_block(d.decoder, bytes, d.set, static_cast<uint32_t>(octets));
     write_records(d, line);
-    if (d.cells != nullptr && d.cells->has("")) d.cells->cell("", d.input_name).take_block(bytes, octets);
+    if (d.cells != nullptr && d.cells->has("")) {
+      CellRecords& cell = d.cells->cell("", d.input_name);
+      cell.take_block(bytes, octets);
+      cell.take_collection(umts_sib_decoder_state(d.decoder));
+    }
     return;
   }
 
