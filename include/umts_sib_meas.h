@@ -548,18 +548,21 @@
   F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)           \
   F(UNION, umts_removed_inter_freq_cell_list_u, u, 1, UMTS_ALWAYS, choice_tag)
 
-/* In the ECN0 form bit 1 stays clear: there the choice_tag of frequencyInfo tells whether a
-   frequency came. */
-#define UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, cell)                    \
+/* `frequency`: how the cell tells that frequencyInfo came: bit 1, or in the ECN0 form, where
+   bit 1 stays clear, the choice_tag of frequencyInfo (UMTS_BY_TAG). */
+#define UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, cell, frequency)         \
   F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)             \
   F(SCALAR, uint8_t, interFreqCellID, 1, 0, _)                         \
-  F(RECORD, umts_frequency_info, frequencyInfo, 1, 1, _)               \
+  F(RECORD, umts_frequency_info, frequencyInfo, 1, frequency, _)       \
   F(RECORD, cell, cellInfo, 1, UMTS_ALWAYS, _)
 
-#define umts_new_inter_freq_cell_si_rscp_FIELDS(F) UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_rscp)
-#define umts_new_inter_freq_cell_si_ecno_FIELDS(F) UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_ecno)
-#define umts_new_inter_freq_cell_si_hcs_rscp_FIELDS(F) UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_hcs_rscp)
-#define umts_new_inter_freq_cell_si_hcs_ecno_FIELDS(F) UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_hcs_ecno)
+#define umts_new_inter_freq_cell_si_rscp_FIELDS(F) UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_rscp, 1)
+#define umts_new_inter_freq_cell_si_ecno_FIELDS(F) \
+  UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_ecno, UMTS_BY_TAG)
+#define umts_new_inter_freq_cell_si_hcs_rscp_FIELDS(F) \
+  UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_hcs_rscp, 1)
+#define umts_new_inter_freq_cell_si_hcs_ecno_FIELDS(F) \
+  UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_hcs_ecno, 1)
 
 #define umts_new_inter_freq_cell_si_list_rscp_FIELDS(F) UMTS_CELL_LIST_FIELDS(F, umts_new_inter_freq_cell_si_rscp, 32)
 #define umts_new_inter_freq_cell_si_list_ecno_FIELDS(F) UMTS_CELL_LIST_FIELDS(F, umts_new_inter_freq_cell_si_ecno, 32)
@@ -908,13 +911,13 @@
 
 /* Every LCR form sets bit 1 when frequencyInfo came. */
 #define umts_new_inter_freq_cell_si_rscp_lcr_r4_FIELDS(F) \
-  UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_rscp_lcr_r4)
+  UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_rscp_lcr_r4, 1)
 #define umts_new_inter_freq_cell_si_ecno_lcr_r4_FIELDS(F) \
-  UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_ecno_lcr_r4)
+  UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_ecno_lcr_r4, 1)
 #define umts_new_inter_freq_cell_si_hcs_rscp_lcr_r4_FIELDS(F) \
-  UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_hcs_rscp_lcr_r4)
+  UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_hcs_rscp_lcr_r4, 1)
 #define umts_new_inter_freq_cell_si_hcs_ecno_lcr_r4_FIELDS(F) \
-  UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_hcs_ecno_lcr_r4)
+  UMTS_NEW_INTER_FREQ_CELL_SI_FIELDS(F, umts_cell_info_si_hcs_ecno_lcr_r4, 1)
 
 #define umts_new_inter_freq_cell_si_list_rscp_lcr_r4_FIELDS(F) \
   UMTS_CELL_LIST_FIELDS(F, umts_new_inter_freq_cell_si_rscp_lcr_r4, 32)

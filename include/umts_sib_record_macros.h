@@ -25,7 +25,10 @@
  *                 the ones in use
  *         BYTES   `dim` raw octets of `type` uint8_t
  *   cond  UMTS_ALWAYS, or the bit of the record's presence_bitmask that says that the field
- *         holds a value; in a union, the choice tag of the member
+ *         holds a value; in a union, the choice tag of the member; or UMTS_BY_TAG for a
+ *         nested RECORD that holds a value when its own choice_tag (its first field) is not
+ *         0, whatever bit the record may have for it (a frequency converted for every cell
+ *         of a list, with no bit set)
  *   aux   the count or tag field named above, `_` otherwise
  */
 #ifndef UMTS_SIB_RECORD_MACROS_H
@@ -34,6 +37,7 @@
 #include <stdint.h>
 
 #define UMTS_ALWAYS (-1)
+#define UMTS_BY_TAG (-2)
 
 #define UMTS_FIELD_DECL(kind, type, name, dim, cond, aux) UMTS_FIELD_DECL_##kind(type, name, dim)
 #define UMTS_FIELD_DECL_SCALAR(type, name, dim) type name;

@@ -347,6 +347,9 @@
   F(SCALAR, uint32_t, choice_tag, 1, UMTS_ALWAYS, _)     \
   F(UNION, umts_measurement_feedback_info_u, u, 1, UMTS_ALWAYS, choice_tag)
 
+/* The three member records of an E-DCH resource have no presence_bitmask: the message
+   carries every one of their members (none is optional), and each is copied as it came,
+   ul_DPCCHscramblingCode with the rest. */
 #define umts_e_rgch_information_FIELDS(F)                        \
   F(SCALAR, uint8_t, signatureSequence, 1, UMTS_ALWAYS, _)       \
   F(SCALAR, uint8_t, rg_CombinationIndex, 1, UMTS_ALWAYS, _)

@@ -362,6 +362,9 @@
   F(RECORD, umts_subchannel_size_bits, size16, 1, 5, _)
 #define umts_subchannel_size_r7_FIELDS(F) UMTS_CHOICE_FIELDS(F, umts_subchannel_size_r7_u)
 
+/* channelisationCodeIndices has 16 bits here (code indices 15 to 0): it is kept as a bit string
+   of four octets, both octets of the codes copied, where the base class has one octet (the
+   second octet, codes 7 to 0, would be lost). */
 #define umts_access_service_class_tdd_r7_FIELDS(F)                                    \
   F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)                           \
   F(RECORD, umts_bit_string32, channelisationCodeIndices, 1, 0, _)                   \

@@ -8,6 +8,7 @@
  *   for each transport block b of n octets:
  *     umts_sib_decoder(b, set, n);
  *     umts_summary_take(s, "", "my cell", set, b, n);
+ *     umts_summary_take_collection(s, "", &g_umts_ctxt);  // SIBs received in part
  *   char* json = umts_summary_text(s, "json");   // one object per cell and line
  *   ...
  *   umts_summary_text_free(json);
@@ -40,6 +41,12 @@ void umts_summary_free(umts_summary* summary);
    one, 0 otherwise, -1 for a null argument or without memory. */
 int umts_summary_take(umts_summary* summary, const char* cell, const char* label, const umts_sib_set* set,
                       const uint8_t* block, size_t length);
+
+/* After umts_summary_take: the SIBs that the cell's decoder is still collecting (`state`:
+   umts_sib_decoder_state of the cell's instance, or &g_umts_ctxt) are told in the cell's
+   summary with the segments received ("SIB5 incomplete: 3 of 13 segments received") until
+   they are completed. Returns 0, or -1 for a null argument or a cell not yet taken. */
+int umts_summary_take_collection(umts_summary* summary, const char* cell, const umts_decoder_ctxt* state);
 
 /* The summaries of the ended configurations and of every cell as it stands, in `format`:
    "text", "json" (one object per line) or "html" (one self-contained page). A new string,

@@ -152,6 +152,8 @@ class Library:
         dll.umts_sib_decoder_print_flush.argtypes = [decp]
         dll.umts_sib_set_size.restype = size_t
         dll.umts_sib_set_size.argtypes = []
+        dll.umts_sib_decoder_state.restype = ctypes.c_void_p
+        dll.umts_sib_decoder_state.argtypes = [decp]
         dll.umts_sib_name.restype = ctypes.c_char_p
         dll.umts_sib_name.argtypes = [ctypes.c_int]
         dll.umts_sib_id_of_name.restype = ctypes.c_int
@@ -206,6 +208,8 @@ class Library:
             dll.umts_summary_take.restype = ctypes.c_int
             dll.umts_summary_take.argtypes = [ctypes.c_void_p, ctypes.c_char_p, ctypes.c_char_p, ctypes.c_void_p,
                                               ctypes.c_char_p, ctypes.c_size_t]
+            dll.umts_summary_take_collection.restype = ctypes.c_int
+            dll.umts_summary_take_collection.argtypes = [ctypes.c_void_p, ctypes.c_char_p, ctypes.c_void_p]
             dll.umts_summary_text.restype = ctypes.c_void_p
             dll.umts_summary_text.argtypes = [ctypes.c_void_p, ctypes.c_char_p]
             dll.umts_summary_text_free.restype = None
@@ -441,7 +445,10 @@ class Decoder:
         records = self.records()
         self.received.update(records)
         if self._summary:
-            lib.summary_dll().umts_summary_take(self._summary, b"", b"", self._set_address, data, len(data))
+            summaries = lib.summary_dll()
+            summaries.umts_summary_take(self._summary, b"", b"", self._set_address, data, len(data))
+            # The SIBs begun and not completed: the summary tells their segments received.
+            summaries.umts_summary_take_collection(self._summary, b"", lib._dll.umts_sib_decoder_state(self._instance))
         message = None
         if status != 1:
             message = (f"umts_sib_decoder returned {status} for a transport block of {len(data)} octets "

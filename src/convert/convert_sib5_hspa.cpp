@@ -381,7 +381,9 @@ void convert_measurement_feedback_info_r7(const Measurement_Feedback_Info_r7* sr
 }
 
 /* s_offset and f_dpch_ChannelisationCodeNumber are always carried: bits 0 and 1 always set;
-   e_RGCH_Information's option bit 0 is kept as bit 2. */
+   e_RGCH_Information's option bit 0 is kept as bit 2. The members of e_RGCH_Information,
+   e_hich_Info and ul_DPCH_CodeInfoForCommonEDCH are never optional in the message: they are
+   copied without a bit of their own, the DPCCH scrambling code as well as its type. */
 void convert_common_edch_resource_info_list(const rtxDList* src, umts_common_e_dch_resource_info_list* dst) {
   dst->count = static_cast<uint8_t>(src->count);
   umts_for_each_node<Common_E_DCH_ResourceInfoList>(src, 32u, [dst](const Common_E_DCH_ResourceInfoList* res, uint32_t i) {

@@ -151,6 +151,8 @@ void convert_access_service_class_tdd_subchannel_size_size4(const AccessServiceC
   }
 }
 
+/* Its 8 bits would be copied as 8 octets: held to the field's four (umts_copy_bit_string),
+   nothing behind the decoded string is read and nothing behind the field written. */
 void convert_access_service_class_tdd_subchannel_size_size8(const AccessServiceClass_TDD_subchannelSize_size8* src,
                                                             umts_subchannel_size_bits* dst) {
   if (src->m & 1u) {

@@ -140,14 +140,9 @@ class Plans {
 
 void clear(const Plan* plan, uint8_t* record, uint32_t size);
 
-/* The entries of a list that its count says are in use, within its bound. A list whose bound
-   its count cannot hold (256 under 8 bits: tfci-Range, the common E-RNTI groups) reads 0 when
-   full: such a count of 0 takes the whole list. */
+/* The entries of a list that its count says are in use (as the JSON shows them). */
 uint64_t entries_in_use(const Walk& w, const uint8_t* base) {
-  uint64_t count = umts_record_load_unsigned(base + w.aux_offset, w.aux_size);
-  if (count > w.dim) count = w.dim;
-  if (count == 0 && w.aux_size < sizeof count && w.dim > (uint64_t{1} << (8 * w.aux_size)) - 1) count = w.dim;
-  return count;
+  return umts_record_list_entries(umts_record_load_unsigned(base + w.aux_offset, w.aux_size), w.aux_size, w.dim);
 }
 
 void clear_walk(const Walk& w, uint8_t* base) {

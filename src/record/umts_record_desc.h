@@ -12,12 +12,15 @@
  *   - SCALAR is a number, BOOL true/false, BYTES a string of two lower-case hex digits per
  *     octet, RECORD an object;
  *   - ARRAY is a list of its first `count` entries (count read from the field named by the
- *     array's aux, never more than the dimension);
+ *     array's aux, never more than the dimension; umts_record_list_entries);
  *   - UNION is an object holding the one member whose cond equals the tag field named by
  *     the union's aux, e.g. "u":{"gsm_MAP":{...}}; when no member has that tag the field is
  *     left out;
  *   - a field with cond >= 0 outside a union is written only when bit `cond` of the
- *     record's presence_bitmask is set.
+ *     record's presence_bitmask is set; a field with cond UMTS_BY_TAG only when its
+ *     choice_tag is not 0.
+ * A record's JSON thus shows every value that the record holds: the parts that it leaves out
+ * are zero (umts_record_field_held and umts_record_entries_held tell which parts it shows).
  */
 #ifndef UMTS_RECORD_DESC_H
 #define UMTS_RECORD_DESC_H
@@ -50,7 +53,7 @@ typedef struct umts_field_desc {
   uint32_t dim;         /* entries of an ARRAY, octets of BYTES, 1 otherwise */
   uint8_t elem_signed;  /* integer entries: 1 when the type is signed */
   const umts_record_desc* elem_desc; /* RECORD, UNION, ARRAY of records; null for integers */
-  int32_t cond;         /* UMTS_ALWAYS, the presence bit, or in a union the member's tag */
+  int32_t cond;         /* UMTS_ALWAYS, the presence bit, UMTS_BY_TAG, or in a union the member's tag */
   const char* aux_name; /* ARRAY: the count field; UNION: the tag field; null otherwise */
   int32_t aux_offset;   /* offset of that field in the enclosing record, -1 without one */
   uint32_t aux_size;
@@ -87,7 +90,8 @@ const umts_record_desc* const* umts_all_record_descs(size_t* count);
    first offset its alignment allows after the one before (so nothing overlaps and nothing
    is left out), the record's size the end of its last field rounded to its alignment (for
    a union: every member at offset 0, size that of the largest member rounded); kinds and
-   entry sizes consistent; optional fields backed by a presence_bitmask placed first; count
+   entry sizes consistent; optional fields backed by a presence_bitmask placed first, fields
+   held by their tag (UMTS_BY_TAG) records that begin with their choice_tag; count
    and tag fields integers of the same record; union member tags distinct and not negative.
    Returns the number of problems and writes them, one per line, to *report when not null. */
 size_t umts_record_desc_check(const umts_record_desc* desc, std::string* report);
@@ -101,6 +105,27 @@ uint64_t umts_record_load_unsigned(const void* p, uint32_t size);
 
 /* The member of union description `desc` whose tag is `tag`, or null. */
 const umts_field_desc* umts_record_union_member(const umts_record_desc* desc, uint64_t tag);
+
+/* Whether field `f` of the record at `record` (of description `desc`, not a union) holds a
+   value, which its JSON then shows: by its presence bit, its choice tag (UMTS_BY_TAG) or, for
+   a union, a member for its tag. */
+bool umts_record_field_held(const umts_record_desc* desc, const umts_field_desc& f, const void* record);
+
+/* The entries in use of a list of `dim` entries whose count field of `count_size` octets
+   reads `count`: the count, within the bound; a list whose bound the count cannot hold (256
+   under 8 bits: tfci-Range, the common E-RNTI groups) reads 0 when full, and a count of 0
+   then stands for the whole list. */
+inline uint64_t umts_record_list_entries(uint64_t count, uint32_t count_size, uint64_t dim) {
+  if (count > dim) return dim;
+  if (count == 0 && count_size < 8 && dim > (uint64_t{1} << (8 * count_size)) - 1) return dim;
+  return count;
+}
+
+/* The entries that array field `f` of the record at `record` holds. */
+inline uint64_t umts_record_entries_held(const umts_field_desc& f, const void* record) {
+  return umts_record_list_entries(
+      umts_record_load_unsigned(static_cast<const uint8_t*>(record) + f.aux_offset, f.aux_size), f.aux_size, f.dim);
+}
 
 /* Records, unions and list entries up to this size are cleared whole by
    umts_record_clear_written, which costs less than reading their description. A conversion

@@ -125,6 +125,18 @@ const umts_field_desc* union_member(const umts_record_desc* desc, uint64_t tag) 
   return nullptr;
 }
 
+/* Whether field `f` of a record holds a value by what marks it: its presence bit, or its
+   own choice tag (UMTS_BY_TAG); always, for the other fields. */
+bool held_by_mark(const umts_record_desc* desc, const umts_field_desc& f, const uint8_t* record) {
+  if (f.cond == UMTS_BY_TAG) {
+    const umts_field_desc& tag = f.elem_desc->fields[0];
+    return load_unsigned(record + f.offset + tag.offset, tag.elem_size) != 0;
+  }
+  if (f.cond < 0) return true;
+  if (desc->presence_offset < 0 || static_cast<uint32_t>(f.cond) >= desc->presence_size * 8u) return false;
+  return ((load_unsigned(record + desc->presence_offset, desc->presence_size) >> f.cond) & 1u) != 0;
+}
+
 void put_record(JsonOut& out, const umts_record_desc* desc, const uint8_t* record);
 
 void put_hex(JsonOut& out, const uint8_t* p, uint32_t n) {
@@ -174,8 +186,7 @@ void put_value(JsonOut& out, const umts_field_desc& f, const uint8_t* base, cons
       out.put('}');
       break;
     case umts_field_array: {
-      uint64_t count = load_unsigned(base + f.aux_offset, f.aux_size);
-      if (count > f.dim) count = f.dim;
+      const uint64_t count = umts_record_entries_held(f, base);
       out.put('[');
       for (uint64_t i = 0; i < count; i++) {
         if (i != 0) out.put(',');
@@ -196,15 +207,10 @@ void put_record(JsonOut& out, const umts_record_desc* desc, const uint8_t* recor
   out.put('{');
   /* A union reached without its tag has no member to show. */
   if (!desc->is_union) {
-    const bool has_presence = desc->presence_offset >= 0;
-    const uint64_t presence = has_presence ? load_unsigned(record + desc->presence_offset, desc->presence_size) : 0;
-    const uint32_t presence_bits = desc->presence_size * 8u;
     bool first = true;
     for (uint32_t i = 0; i < desc->field_count; i++) {
       const umts_field_desc& f = desc->fields[i];
-      if (f.cond >= 0 && (!has_presence || static_cast<uint32_t>(f.cond) >= presence_bits ||
-                          ((presence >> f.cond) & 1u) == 0))
-        continue;
+      if (!held_by_mark(desc, f, record)) continue;
       const umts_field_desc* member = nullptr;
       if (f.kind == umts_field_union) {
         member = union_member(f.elem_desc, load_unsigned(record + f.aux_offset, f.aux_size));
@@ -256,6 +262,12 @@ const umts_field_desc* umts_record_union_member(const umts_record_desc* desc, ui
   return union_member(desc, tag);
 }
 
+bool umts_record_field_held(const umts_record_desc* desc, const umts_field_desc& f, const void* record) {
+  const uint8_t* r = static_cast<const uint8_t*>(record);
+  if (!held_by_mark(desc, f, r)) return false;
+  return f.kind != umts_field_union || union_member(f.elem_desc, load_unsigned(r + f.aux_offset, f.aux_size)) != nullptr;
+}
+
 size_t umts_json_write_record(const umts_record_desc* desc, const void* record, char* buf, size_t size) {
   char none = 0;
   if (buf == nullptr || size == 0) {
@@ -276,12 +288,18 @@ size_t umts_json_write_record(const umts_record_desc* desc, const void* record, 
    writer of any description (and the reference that the tests compare these with). */
 namespace direct {
 
-template <int Cond, class R>
-inline bool present(const R& r) {
-  if constexpr (Cond < 0) {
+/* Whether field `field` of record `r` holds a value by what marks it (held_by_mark). */
+template <int Cond, class R, class T>
+inline bool present(const R& r, const T& field) {
+  if constexpr (Cond == UMTS_BY_TAG) {
     (void)r;
+    return field.choice_tag != 0;
+  } else if constexpr (Cond < 0) {
+    (void)r;
+    (void)field;
     return true;
   } else {
+    (void)field;
     return ((static_cast<uint64_t>(r.presence_bitmask) >> Cond) & 1u) != 0;
   }
 }
@@ -353,8 +371,7 @@ inline void put_entry(JsonOut& out, const T& e) {
 #define UMTS_JSON_VALUE_UNION(type, name, dim, aux) json_of(out, r.name, static_cast<uint64_t>(r.aux));
 #define UMTS_JSON_VALUE_ARRAY(type, name, dim, aux)                                 \
   {                                                                                 \
-    uint64_t count = static_cast<uint64_t>(r.aux);                                  \
-    if (count > (dim)) count = (dim);                                               \
+    const uint64_t count = umts_record_list_entries(static_cast<uint64_t>(r.aux), sizeof r.aux, (dim)); \
     out.put('[');                                                                   \
     for (uint64_t i = 0; i < count; i++) {                                          \
       if (i != 0) out.put(',');                                                     \
@@ -373,7 +390,7 @@ inline void put_entry(JsonOut& out, const T& e) {
 #define UMTS_JSON_SHOWN_UNION(type, name, aux) has_member(r.name, static_cast<uint64_t>(r.aux))
 
 #define UMTS_JSON_FIELD(kind, type, name, dim, cond, aux)                     \
-  if (present<(cond)>(r) && UMTS_JSON_SHOWN_##kind(type, name, aux)) {        \
+  if (present<(cond)>(r, r.name) && UMTS_JSON_SHOWN_##kind(type, name, aux)) { \
     UMTS_JSON_KEY(name);                                                      \
     UMTS_JSON_VALUE_##kind(type, name, dim, aux)                              \
   }
@@ -511,6 +528,13 @@ size_t umts_record_desc_check(const umts_record_desc* desc, std::string* report)
       if (f.offset != round_up(end, f.align))
         note(report, problems, desc, f.name, "not at the offset that follows the field before it");
       end = f.offset + f.size;
+      if (f.cond == UMTS_BY_TAG &&
+          (f.kind != umts_field_record || f.elem_desc == nullptr || f.elem_desc->field_count == 0 ||
+           f.elem_desc->fields[0].kind != umts_field_scalar || f.elem_desc->fields[0].offset != 0 ||
+           std::strcmp(f.elem_desc->fields[0].name, "choice_tag") != 0))
+        note(report, problems, desc, f.name, "held by its tag but not a record that begins with choice_tag");
+      else if (f.cond < UMTS_ALWAYS && f.cond != UMTS_BY_TAG)
+        note(report, problems, desc, f.name, "unknown presence rule");
       if (f.cond >= 0) {
         optional = true;
         if (desc->presence_offset < 0 || static_cast<uint32_t>(f.cond) >= desc->presence_size * 8u)

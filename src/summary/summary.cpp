@@ -82,8 +82,20 @@ bool CellRecords::configuration_changes(const umts_sib_set* set) const {
          set->mib.mib_ValueTag != records_->mib.mib_ValueTag;
 }
 
+void CellRecords::take_collection(const umts_decoder_ctxt* state) {
+  for (uint32_t i = 0; i < umts_sib_count; i++) {
+    const umts_sib_slot& slot = state->slots[i];
+    const bool begun = slot.total_segments != 0 && slot.remaining_segments != 0 &&
+                       slot.remaining_segments < slot.total_segments;
+    partial_[i] = begun ? std::make_pair(static_cast<unsigned>(slot.total_segments - slot.remaining_segments),
+                                         static_cast<unsigned>(slot.total_segments))
+                        : std::make_pair(0u, 0u);
+  }
+}
+
 void CellRecords::reset() {
   umts_record_clear_written(describe_umts_sib_set(), records_);
+  std::fill(std::begin(partial_), std::end(partial_), std::make_pair(0u, 0u));
   seen_ = 0;
   std::fill(std::begin(conversions_), std::end(conversions_), 0ul);
   sib19_part_ = Collection();
@@ -117,22 +129,17 @@ SummaryNode named(const char* name, uint32_t ordinal) {
   return SummaryNode::object().add("name", name).add("coded", static_cast<unsigned long>(ordinal));
 }
 
-const char* block_missing(umts_sib_id id) {
-  switch (id) {
-    case umts_sib_mib: return "no MIB received";
-    case umts_sib_sib1: return "SIB1 not received";
-    case umts_sib_sib2: return "SIB2 not received";
-    case umts_sib_sib3: return "SIB3 not received";
-    case umts_sib_sib5: return "SIB5 not received";
-    case umts_sib_sib7: return "SIB7 not received";
-    case umts_sib_sib11: return "SIB11 not received";
-    case umts_sib_sib11bis: return "SIB11bis not received";
-    case umts_sib_sib12: return "SIB12 not received";
-    case umts_sib_sib18: return "SIB18 not received";
-    case umts_sib_sb1: return "SB1 not received";
-    case umts_sib_sb2: return "SB2 not received";
-    default: return "not received";
-  }
+/* Why block `id` is missing from the cell: not received, or received in part (a SIB whose
+   first segments came and whose last did not: "SIB5 incomplete: 3 of 13 segments received"). */
+std::string block_missing(const CellRecords& cell, umts_sib_id id) {
+  static const char* const kNames[umts_sib_count] = {"MIB",  "SIB1",  "SIB2",     "SIB3",  "SIB5", "SIB7",
+                                                     "SIB11", "SIB11bis", "SIB12", "SIB18", "SB1",  "SB2"};
+  if (static_cast<uint32_t>(id) >= umts_sib_count) return "not received";
+  if (cell.segments_total(id) != 0)
+    return std::string(kNames[id]) + " incomplete: " + std::to_string(cell.segments_received(id)) + " of " +
+           std::to_string(cell.segments_total(id)) + " segments received";
+  if (id == umts_sib_mib) return "no MIB received";
+  return std::string(kNames[id]) + " not received";
 }
 
 std::string digits(const uint8_t* d, uint32_t count) {
@@ -245,6 +252,10 @@ SummaryNode schedule_entry(const CellRecords& cell, const char* name, const umts
   if (std::strcmp(name, "systemInfoType19") == 0) e.add("seen", !cell.sib19().empty());
   else if (slot == umts_sib_count) e.add("seen", SummaryNode());
   else e.add("seen", cell.has(slot));
+  /* Begun but not completed: how many of its segments came, of how many its first segment
+     announced (which may differ from the schedule's count when the cell changed the SIB). */
+  if (slot != umts_sib_count && !cell.has(slot) && cell.segments_total(slot) != 0)
+    e.add("segments_received", cell.segments_received(slot)).add("segments_total", cell.segments_total(slot));
   return e;
 }
 
@@ -600,7 +611,7 @@ SummaryNode summary_identity(const CellRecords& cell) {
   SummaryNode n = SummaryNode::object();
   /* PLMN: the MIB's PLMN-Type. */
   if (!cell.has(umts_sib_mib)) {
-    n.add("plmn", missing(block_missing(umts_sib_mib)));
+    n.add("plmn", missing(block_missing(cell, umts_sib_mib)));
   } else {
     const umts_plmn_type& t = r.mib.plmn_Type;
     if (t.choice_tag == 1) n.add("plmn", plmn_text(t.u.gsm_MAP));
@@ -610,7 +621,7 @@ SummaryNode summary_identity(const CellRecords& cell) {
   /* LAC: the first two octets of the common GSM-MAP NAS information; RAC: the first octet
      of the PS domain's. */
   if (!cell.has(umts_sib_sib1)) {
-    n.add("lac", missing(block_missing(umts_sib_sib1))).add("rac", missing(block_missing(umts_sib_sib1)));
+    n.add("lac", missing(block_missing(cell, umts_sib_sib1))).add("rac", missing(block_missing(cell, umts_sib_sib1)));
   } else {
     const umts_nas_system_gsm_map_info& common = r.sib1.cn_CommonGSM_MAP_NAS_SysInfo;
     if (common.count >= 2) n.add("lac", (static_cast<unsigned>(common.octets[0]) << 8) | common.octets[1]);
@@ -626,7 +637,7 @@ SummaryNode summary_identity(const CellRecords& cell) {
   }
   /* Cell identity: 28 bits, the top 12 the RNC-Id, the low 16 the C-Id. */
   if (!cell.has(umts_sib_sib3)) {
-    n.add("cell_identity", missing(block_missing(umts_sib_sib3)));
+    n.add("cell_identity", missing(block_missing(cell, umts_sib_sib3)));
   } else {
     const uint8_t* d = r.sib3.cellIdentity.data;
     const uint32_t id = (static_cast<uint32_t>(d[0]) << 20) | (static_cast<uint32_t>(d[1]) << 12) |
@@ -637,7 +648,7 @@ SummaryNode summary_identity(const CellRecords& cell) {
                                .add("c_id", static_cast<unsigned long>(id & 0xFFFFu)));
   }
   if (!cell.has(umts_sib_sib2)) {
-    n.add("ura_identities", missing(block_missing(umts_sib_sib2)));
+    n.add("ura_identities", missing(block_missing(cell, umts_sib_sib2)));
   } else {
     SummaryNode ura = SummaryNode::list();
     const umts_ura_identity_list& l = r.sib2.ura_IdentityList;
@@ -647,7 +658,7 @@ SummaryNode summary_identity(const CellRecords& cell) {
   }
   /* Frequency band: SIB5's v4b0 extension, and its second indicator from v650. */
   if (!cell.has(umts_sib_sib5)) {
-    n.add("frequency_band", missing(block_missing(umts_sib_sib5)));
+    n.add("frequency_band", missing(block_missing(cell, umts_sib_sib5)));
   } else {
     const umts_sib5_info& s = r.sib5;
     const umts_sib5_v4b0_nces& v4b0 = s.v4b0NonCriticalExtensions;
@@ -673,7 +684,7 @@ SummaryNode summary_identity(const CellRecords& cell) {
 }
 
 SummaryNode summary_access(const CellRecords& cell) {
-  if (!cell.has(umts_sib_sib3)) return missing(block_missing(umts_sib_sib3));
+  if (!cell.has(umts_sib_sib3)) return missing(block_missing(cell, umts_sib_sib3));
   const umts_cell_access_restriction& a = cell.records().sib3.cellAccessRestriction;
   SummaryNode n = SummaryNode::object();
   const bool barred = a.cellBarred.choice_tag == 1;
@@ -701,7 +712,7 @@ SummaryNode summary_access(const CellRecords& cell) {
 }
 
 SummaryNode summary_selection(const CellRecords& cell) {
-  if (!cell.has(umts_sib_sib3)) return missing(block_missing(umts_sib_sib3));
+  if (!cell.has(umts_sib_sib3)) return missing(block_missing(cell, umts_sib_sib3));
   const umts_sib3_info& s3 = cell.records().sib3;
   const umts_cell_select_reselect_info_sib_3_4& s = s3.cellSelectReselectInfo;
   SummaryNode n = SummaryNode::object();
@@ -758,7 +769,7 @@ SummaryNode summary_selection(const CellRecords& cell) {
 
 SummaryNode summary_schedule(const CellRecords& cell) {
   SummaryNode list = SummaryNode::list();
-  if (!cell.has(umts_sib_mib)) return missing(block_missing(umts_sib_mib));
+  if (!cell.has(umts_sib_mib)) return missing(block_missing(cell, umts_sib_mib));
   const umts_mib_info& mib = cell.records().mib;
   /* The MIB itself: every eighth frame, at SFN mod 8 = 0. */
   SummaryNode m = SummaryNode::object();
@@ -779,7 +790,7 @@ SummaryNode summary_schedule(const CellRecords& cell) {
 }
 
 SummaryNode summary_common_channels(const CellRecords& cell) {
-  if (!cell.has(umts_sib_sib5)) return missing(block_missing(umts_sib_sib5));
+  if (!cell.has(umts_sib_sib5)) return missing(block_missing(cell, umts_sib_sib5));
   const umts_sib5_info& s = cell.records().sib5;
   SummaryNode n = SummaryNode::object();
   n.add("prach_count", static_cast<unsigned>(s.prach_SystemInformationList.count));
@@ -819,7 +830,7 @@ SummaryNode summary_common_channels(const CellRecords& cell) {
 }
 
 SummaryNode summary_neighbours(const CellRecords& cell) {
-  if (!cell.has(umts_sib_sib11)) return missing(block_missing(umts_sib_sib11));
+  if (!cell.has(umts_sib_sib11)) return missing(block_missing(cell, umts_sib_sib11));
   const umts_measurement_control_sys_info& m = cell.records().sib11.measurementControlSysInfo;
   SummaryNode intra = SummaryNode::list(), inter = SummaryNode::list(), gsm = SummaryNode::list();
   SummaryNode n = SummaryNode::object();
@@ -896,14 +907,28 @@ bool sib19_scheduled_at(const CellRecords& cell, unsigned sfn, unsigned segment)
 
 /* ---- Where the summaries go -------------------------------------------------------------- */
 
+namespace {
+
+const char kDropped[] = "datagrams_dropped_by_kernel";
+
+}  // namespace
+
 void SummaryWriter::write(const SummaryNode& summary) {
   any_ = true;
+  SummaryNode live;
+  if (live_) {
+    live = summary;
+    auto at = live.members.begin();
+    while (at != live.members.end() && at->first != "blocks_received") ++at;
+    live.members.insert(at == live.members.end() ? at : at + 1, {kDropped, SummaryNode(static_cast<unsigned long>(dropped_))});
+  }
+  const SummaryNode& n = live_ ? live : summary;
   if (format_ == "html") {
-    page_.push_back(summary);
+    page_.push_back(n);
   } else if (format_ == "json") {
-    std::fprintf(out_, "%s\n", summary_json(summary).c_str());
+    std::fprintf(out_, "%s\n", summary_json(n).c_str());
   } else {
-    std::fprintf(out_, "%s%s", wrote_text_ ? "\n" : "", summary_text(summary).c_str());
+    std::fprintf(out_, "%s%s", wrote_text_ ? "\n" : "", summary_text(n).c_str());
     wrote_text_ = true;
   }
   std::fflush(out_);
@@ -918,11 +943,16 @@ void SummaryWriter::finish(const CellCollection& cells) {
 void SummaryWriter::finish(const std::vector<const CellRecords*>& cells) {
   for (const CellRecords* cell : cells) write(cell_summary(*cell));
   if (!any_) {
-    if (format_ == "json") std::fprintf(out_, "{\"cell\":null,\"missing\":\"no block of any cell was converted\"}\n");
-    else if (format_ == "text") std::fprintf(out_, "no block of any cell was converted\n");
+    const std::string dropped = std::to_string(dropped_);
+    if (format_ == "json")
+      std::fprintf(out_, "{\"cell\":null,\"missing\":\"no block of any cell was converted\"%s}\n",
+                   live_ ? (",\"" + std::string(kDropped) + "\":" + dropped).c_str() : "");
+    else if (format_ == "text")
+      std::fprintf(out_, "no block of any cell was converted\n%s",
+                   live_ ? (std::string(kDropped) + ": " + dropped + "\n").c_str() : "");
   }
   if (format_ == "html") {
-    const std::string page = summary_html(page_);
+    const std::string page = summary_html(page_, live_ && page_.empty() ? std::to_string(dropped_) : std::string());
     std::fwrite(page.data(), 1, page.size(), out_);
   }
   std::fflush(out_);

@@ -73,6 +73,13 @@ class CellRecords {
      which the library does not keep, are collected here through the codec, placed by the
      schedule of the cell's MIB, SB1 and SB2 (its segments come as extensionType). */
   void take_block(const uint8_t* block, size_t length);
+  /* The cell's decoder state after a call (umts_sib_decoder_state): the SIBs whose segments
+     it is still collecting, each with the segments received of how many. */
+  void take_collection(const umts_decoder_ctxt* state);
+  /* Segments received of a SIB that the cell's decoder began but has not completed, and of
+     how many (0 and 0 when none is in collection). */
+  unsigned segments_received(umts_sib_id id) const { return partial_[id].first; }
+  unsigned segments_total(umts_sib_id id) const { return partial_[id].second; }
   /* The MIB of `set` has another value tag than the cell's: what was collected belongs to the
      cell's former configuration. */
   bool configuration_changes(const umts_sib_set* set) const;
@@ -94,6 +101,7 @@ class CellRecords {
   umts_sib_set* records_; /* zeroed, then each sub-record copied in */
   uint32_t seen_ = 0;
   unsigned long conversions_[umts_sib_count] = {};
+  std::pair<unsigned, unsigned> partial_[umts_sib_count] = {};
 
   /* SIB19 under collection: its bits so far, the segments it has and will have. */
   struct Collection {
@@ -154,8 +162,9 @@ std::string summary_text(const SummaryNode& cell);
    for a value that takes several lines. */
 bool summary_value_text(const SummaryNode& node, std::string* out);
 /* One self-contained HTML page of the cells' summaries: their tables and a drawing of the
-   broadcast schedule across the 4096-frame SFN cycle. */
-std::string summary_html(const std::vector<SummaryNode>& cells);
+   broadcast schedule across the 4096-frame SFN cycle. A page of no cell from live input says
+   `dropped`, the datagrams that the kernel dropped (a cell's summary says it itself). */
+std::string summary_html(const std::vector<SummaryNode>& cells, const std::string& dropped = std::string());
 
 /* Where summaries go: text and JSON as each is made, so that a live stream shows a cell's
    summary when its configuration changes; a page whole at the end. */
@@ -168,6 +177,13 @@ class SummaryWriter {
   void finish(const CellCollection& cells);
   /* The same, of cells in the order given. */
   void finish(const std::vector<const CellRecords*>& cells);
+  /* Live input: the datagrams that the kernel dropped so far (of every cell: a dropped
+     datagram names none). Each summary written from now on says it, after the blocks
+     received. */
+  void set_dropped(uint64_t dropped) {
+    dropped_ = dropped;
+    live_ = true;
+  }
 
  private:
   FILE* out_;
@@ -175,6 +191,8 @@ class SummaryWriter {
   std::vector<SummaryNode> page_; /* html: every summary, for the one page */
   bool any_ = false;
   bool wrote_text_ = false;
+  bool live_ = false;
+  uint64_t dropped_ = 0;
 };
 
 #endif /* UMTS_TOOLS_SUMMARY_H */

@@ -31,6 +31,12 @@ int umts_summary_take(umts_summary* summary, const char* cell, const char* label
   }
 }
 
+int umts_summary_take_collection(umts_summary* summary, const char* cell, const umts_decoder_ctxt* state) {
+  if (summary == nullptr || cell == nullptr || state == nullptr || !summary->cells.has(cell)) return -1;
+  summary->cells.cell(cell, "").take_collection(state);
+  return 0;
+}
+
 char* umts_summary_text(const umts_summary* summary, const char* format) {
   if (summary == nullptr || format == nullptr) return nullptr;
   if (std::strcmp(format, "text") != 0 && std::strcmp(format, "json") != 0 && std::strcmp(format, "html") != 0)

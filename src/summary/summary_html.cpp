@@ -149,6 +149,7 @@ struct ScheduleRow {
   int rep;
   std::vector<int> frames;
   bool seen;
+  std::string not_seen; /* the label's note when not seen: " (not seen)", " (3 of 13 segments)" */
 };
 
 std::vector<ScheduleRow> schedule_rows(const SummaryNode& schedule) {
@@ -162,8 +163,13 @@ std::vector<ScheduleRow> schedule_rows(const SummaryNode& schedule) {
     if (sib == nullptr || rep == nullptr || rep->kind != SummaryNode::Int || rep->integer <= 0 || frames == nullptr)
       continue;
     if (!drawn.insert(sib->text).second) continue; /* announced twice: drawn once */
-    ScheduleRow row{sib->text, static_cast<int>(rep->integer), {}, seen != nullptr && seen->kind == SummaryNode::Bool && seen->flag};
+    ScheduleRow row{sib->text, static_cast<int>(rep->integer), {}, seen != nullptr && seen->kind == SummaryNode::Bool && seen->flag, {}};
     for (const SummaryNode& f : frames->items) row.frames.push_back(static_cast<int>(f.integer));
+    const SummaryNode* received = e.find("segments_received");
+    const SummaryNode* count = e.find("segments_total");
+    row.not_seen = received != nullptr && count != nullptr
+                       ? " (" + std::to_string(received->integer) + " of " + std::to_string(count->integer) + " segments)"
+                       : " (not seen)";
     rows.push_back(row);
   }
   return rows;
@@ -192,7 +198,7 @@ std::string schedule_svg(const std::vector<ScheduleRow>& rows, int span, double 
     const int y = static_cast<int>(r) * kRow;
     const char* colour = row.seen ? kColours[r % (sizeof kColours / sizeof kColours[0])] : "#bbb";
     std::snprintf(buf, sizeof buf, "<text x=\"4\" y=\"%d\">%s%s</text>", y + 13, escape(row.sib).c_str(),
-                  row.seen ? "" : " (not seen)");
+                  row.seen ? "" : row.not_seen.c_str());
     out += buf;
     for (int start = 0; start < span; start += row.rep) {
       for (size_t s = 0; s < row.frames.size(); s++) {
@@ -231,6 +237,10 @@ std::string cell_html(const SummaryNode& cell, size_t index) {
   std::string received;
   if (blocks != nullptr) summary_value_text(*blocks, &received);
   out += "<p>Blocks received: " + escape(received) + "</p>";
+  const SummaryNode* dropped = cell.find("datagrams_dropped_by_kernel");
+  if (dropped != nullptr && dropped->kind == SummaryNode::Int)
+    out += "<p>Datagrams dropped by the kernel before they were read (of every cell of the input, until this "
+           "summary): " + std::to_string(dropped->integer) + "</p>";
   const SummaryNode* ended = cell.find("ended_by");
   if (ended != nullptr && ended->kind == SummaryNode::Text) out += "<p>Configuration ended: " + escape(ended->text) + "</p>";
   out += section_html("Identity", cell.find("identity"));
@@ -246,12 +256,14 @@ std::string cell_html(const SummaryNode& cell, size_t index) {
 
 }  // namespace
 
-std::string summary_html(const std::vector<SummaryNode>& cells) {
+std::string summary_html(const std::vector<SummaryNode>& cells, const std::string& dropped) {
   std::string out =
       "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\"><title>UMTS cell summary</title><style>";
   out += kStyle;
   out += "</style></head><body><h1>UMTS cell summary</h1>";
   if (cells.empty()) out += "<p class=\"missing\">No block of any cell was converted.</p>";
+  if (cells.empty() && !dropped.empty())
+    out += "<p>Datagrams dropped by the kernel before they were read: " + escape(dropped) + "</p>";
   for (size_t i = 0; i < cells.size(); i++) out += cell_html(cells[i], i);
   /* Marks the page as loaded: a check in a browser reads it back. */
   out += "<script>document.body.setAttribute('data-cells', String(document.querySelectorAll('section.cell').length));"

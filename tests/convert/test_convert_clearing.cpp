@@ -7,7 +7,8 @@
 // tests/data/extension_vectors.txt, every extension level present), one after another in
 // both orders, and the sample cell's SIBs.
 // The same records check the JSON writers compiled from the field lists against the writer
-// that reads the run-time descriptions.
+// that reads the run-time descriptions, and that the JSON shows every value of the record:
+// each non-zero byte lies in a part that the JSON writes.
 #include <gtest/gtest.h>
 
 #include <cctype>
@@ -73,19 +74,74 @@ std::vector<Encoding> randomEncodings() {
   return out;
 }
 
-// The sample cell's SIBs, whole.
+// The sample cells' SIBs, whole: the FDD cell's, then the 1.28 Mcps cell's.
 std::vector<Encoding> sampleEncodings() {
   std::vector<Encoding> out;
-  std::ifstream in(UMTS_SAMPLES_DIR "/fdd_cell_sibs.txt");
-  std::string line;
-  while (std::getline(in, line)) {
-    std::istringstream fields(line);
-    std::string name, hex;
-    if (line.empty() || line[0] == '#' || !(fields >> name >> hex)) continue;
-    const umts_sib_id id = umts_sib_id_of_name(name.c_str(), name.size());
-    if (id != umts_sib_count) out.push_back({id, fromHex(hex)});
+  for (const char* file : {"/fdd_cell_sibs.txt", "/tdd128_cell_sibs.txt"}) {
+    std::ifstream in(std::string(UMTS_SAMPLES_DIR) + file);
+    std::string line;
+    while (std::getline(in, line)) {
+      std::istringstream fields(line);
+      std::string name, hex;
+      if (line.empty() || line[0] == '#' || !(fields >> name >> hex)) continue;
+      const umts_sib_id id = umts_sib_id_of_name(name.c_str(), name.size());
+      if (id != umts_sib_count) out.push_back({id, fromHex(hex)});
+    }
   }
   return out;
+}
+
+// Where the record at `r` holds a non-zero byte that its JSON does not show (outside every
+// field, list entry and union member that the writer writes): "path +offset"; empty when the
+// JSON shows every value.
+std::string unshown(const umts_record_desc* d, const uint8_t* r, const std::string& path);
+
+std::string nonZero(const uint8_t* p, size_t from, size_t to, const std::string& path) {
+  static const uint8_t zeros[4096] = {};
+  for (size_t at = from; at < to; at += sizeof zeros) {
+    const size_t n = to - at < sizeof zeros ? to - at : sizeof zeros;
+    if (std::memcmp(p + at, zeros, n) == 0) continue;
+    for (size_t i = at;; i++)
+      if (p[i] != 0) return path + " +" + std::to_string(i);
+  }
+  return "";
+}
+
+// Field `f` of the record or union at `base`, which the JSON writes.
+std::string unshownIn(const umts_field_desc& f, const uint8_t* base, const std::string& path) {
+  const uint8_t* p = base + f.offset;
+  size_t used = f.size;
+  std::string inner;
+  if (f.kind == umts_field_record) {
+    inner = unshown(f.elem_desc, p, path);
+  } else if (f.kind == umts_field_union) {
+    const umts_field_desc* m =
+        umts_record_union_member(f.elem_desc, umts_record_load_unsigned(base + f.aux_offset, f.aux_size));
+    used = m != nullptr ? m->size : 0;
+    if (m != nullptr) inner = unshownIn(*m, p, path + "." + m->name);
+  } else if (f.kind == umts_field_array) {
+    used = umts_record_entries_held(f, base) * f.elem_size;
+    for (size_t i = 0; f.elem_desc != nullptr && i * f.elem_size < used && inner.empty(); i++)
+      inner = unshown(f.elem_desc, p + i * f.elem_size, path + "[" + std::to_string(i) + "]");
+  }
+  return !inner.empty() ? inner : nonZero(p, used, f.size, path);
+}
+
+std::string unshown(const umts_record_desc* d, const uint8_t* r, const std::string& path) {
+  // The one entry that a common dynamic list is written into keeps what its earlier elements
+  // wrote beyond the last one's counts and tags: remnants, not values of the record.
+  if (std::strcmp(d->name, "umts_common_dynamic_tf_info_dynamic_tti") == 0) return "";
+  size_t end = 0;
+  for (uint32_t i = 0; i < d->field_count; i++) {
+    const umts_field_desc& f = d->fields[i];
+    std::string at = nonZero(r, end, f.offset, path + " padding");
+    if (at.empty())
+      at = umts_record_field_held(d, f, r) ? unshownIn(f, r, path + "." + f.name)
+                                           : nonZero(r + f.offset, 0, f.size, path + "." + f.name + " (left out)");
+    if (!at.empty()) return at;
+    end = f.offset + f.size;
+  }
+  return nonZero(r, end, d->size, path + " padding");
 }
 
 // The field of the set that holds block `id`.
@@ -123,6 +179,8 @@ class LibrarySetClearing : public FrameTest {
     // A copy by what was written (as the summary keeps each cell's records) reads as the record.
     const umts_field_desc* f = blockField(id);
     ASSERT_NE(f, nullptr);
+    EXPECT_EQ(unshown(f->elem_desc, reinterpret_cast<const uint8_t*>(own) + f->offset, f->name), "")
+        << what << ": a value that the JSON does not show";
     uint8_t* copy = reinterpret_cast<uint8_t*>(copied) + f->offset;
     umts_record_copy_written(f->elem_desc, copy, reinterpret_cast<const uint8_t*>(own) + f->offset);
     EXPECT_EQ(std::memcmp(copy, reinterpret_cast<const uint8_t*>(result) + f->offset, f->size), 0)
@@ -169,6 +227,25 @@ TEST_F(LibrarySetClearing, SampleCellAfterRandomEncodings) {
   // And back: the sample's small lists over the random ones' long lists, then the random
   // ones over the sample's.
   for (const Encoding& e : randomEncodings()) convertBoth(e, "random encoding after the samples");
+}
+
+// The ECN0 form of the inter-frequency list holds each cell's frequency with its bit clear:
+// the JSON shows it by its tag (the sample cell's first SIB11: its first cell, UARFCN 10663).
+TEST_F(LibrarySetClearing, Ecn0InterFrequencyCellsShowTheirFrequency) {
+  ASSERT_NE(own, nullptr);
+  const Encoding sib11 = sampleEncodings()[7];
+  ASSERT_EQ(sib11.id, umts_sib_sib11);
+  convertBoth(sib11, "sample SIB11");
+  const auto& quality = own->sib11.measurementControlSysInfo.use_of_HCS.u.hcs_not_used.cellSelectQualityMeasure;
+  ASSERT_EQ(quality.choice_tag, 2u);
+  const auto& cell = quality.u.cpich_Ec_N0.interFreqMeasurementSysInfo.interFreqCellInfoSI_List.newInterFreqCellList.entries[0];
+  EXPECT_EQ(cell.presence_bitmask & 2u, 0u);
+  std::vector<char> json(1 << 16);
+  umts_sib_record_json(own, umts_sib_sib11, json.data(), json.size());
+  EXPECT_NE(std::string(json.data()).find("\"interFreqCellID\":0,\"frequencyInfo\":{\"choice_tag\":1,\"u\":{\"fdd\":{"
+                                          "\"presence_bitmask\":1,\"uarfcn_UL\":9713,\"uarfcn_DL\":10663}}}"),
+            std::string::npos)
+      << json.data();
 }
 
 // The set holds zeros wherever no conversion wrote, and a failed conversion leaves the record

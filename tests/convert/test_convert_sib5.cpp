@@ -401,6 +401,17 @@ TEST(ConvertPrach, TddAlternatives) {
   EXPECT_EQ(b.presence_bitmask, 0);
   EXPECT_EQ(b.subchannelSize.u.size4.subchannels.numbits, 2u);
   EXPECT_EQ(b.subchannelSize.u.size4.subchannels.data[0], 0xC0);
+  // size8: its 8 bits, told as 8 octets, are held to the four of the field: nothing behind the
+  // decoded string is read, nothing behind the field written.
+  struct { AccessServiceClass_TDD_subchannelSize_size8 s; uint8_t behind[8]; } s8;
+  std::memset(&s8, 0xEE, sizeof s8);
+  s8.s.m = 1;
+  s8.s.subchannels = bitString<AccessServiceClass_TDD_subchannelSize_size8_subchannels>({0x81}, 8);
+  struct { umts_subchannel_size_bits bits; uint8_t behind[8]; } f8{};
+  convert_access_service_class_tdd_subchannel_size_size8(&s8.s, &f8.bits);
+  EXPECT_EQ(f8.bits.subchannels.numbits, 8u);
+  EXPECT_EQ(octets(f8.bits.subchannels), (Bytes{0x81, 0, 0, 0}));
+  EXPECT_TRUE(allZero(f8.behind));
 
   // The TDD RACH: timeslot, code list, midamble; the tdd P-CCPCH and an unknown tag of it.
   TDD_PRACH_CCodeList_sf16 sf16{3, {1, 4, 7}};

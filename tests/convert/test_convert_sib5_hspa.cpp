@@ -128,7 +128,8 @@ struct EdchFddParts {
 // conversion does more than copy: the MAC-d flows' multiplexing list (8 bits told as 8
 // octets, held to its field), the preamble's three members always there (bits 0 to 2) and its
 // options (bits 3 to 10), the E-DPDCH options four places up, the resources' two members
-// always there (bits 0 and 1) and rg_CombinationIndex.
+// always there (bits 0 and 1), rg_CombinationIndex, and the DPCCH scrambling code, which the
+// message always carries, copied without a bit of its own.
 template <class Head, class Fdd>
 void checkEdch(const Head& head, const Fdd& f, unsigned k, unsigned nFlows, unsigned nResources) {
   EXPECT_EQ(head.ul_InterferenceForCommonEDCH, -100 + static_cast<int>(k));

@@ -67,8 +67,9 @@ std::string run_gsmtap(const uint8_t* data, size_t size) {
                         return lines;
                       },
                       nullptr};
-  output.block = [&](const std::string& head, const uint8_t* block, size_t length) {
+  output.block = [&](const std::string& head, const uint8_t* block, size_t length, const umts_decoder_ctxt* state) {
     if (umts_summary_take(summary, head.c_str(), "fuzz", noRecords(), block, length) < 0) problem = "summary refused a block";
+    umts_summary_take_collection(summary, head.c_str(), state);
   };
   {
     CellFeed feed(set, output, "fuzz", "frame", discard());

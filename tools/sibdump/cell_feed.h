@@ -19,12 +19,15 @@
 
 /* Where the records go: `write` writes one JSON line per sub-record whose presence bit the
    last call set, each starting with `head` (JSON members, without braces), and returns how
-   many it wrote; `flush` ends each datagram (live input), or is empty. */
+   many it wrote; `flush` writes out what is gathered (the live input calls it whenever the
+   socket goes quiet), or is empty. */
 struct RecordOutput {
   std::function<size_t(const std::string& head)> write;
   std::function<void()> flush;
-  /* Each transport block after its records, with the same head; may be empty. */
-  std::function<void(const std::string& head, const uint8_t* block, size_t length)> block = nullptr;
+  /* Each transport block after its records, with the same head and the state of the cell's
+     decoder (the SIBs in collection); may be empty. */
+  std::function<void(const std::string& head, const uint8_t* block, size_t length, const umts_decoder_ctxt* state)>
+      block = nullptr;
 };
 
 /* Counts of one cell. */
