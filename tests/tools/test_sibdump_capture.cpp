@@ -4,24 +4,10 @@
  * datagrams over the loopback address.
  */
 #include <gtest/gtest.h>
-#include <poll.h>
-#include <signal.h>
-#include <sys/socket.h>
-#include <sys/wait.h>
-#include <netinet/in.h>
-#include <arpa/inet.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <chrono>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
-#include <fstream>
 #include <map>
-#include <sstream>
-#include <string>
-#include <vector>
 
 #include "capture_choice.h"
 #include "capture_writer.h"
@@ -29,89 +15,16 @@
 #include "json_check.h"
 #include "sibdump_child.h"
 #include "sibdump_inputs.h"
+#include "tools_test_util.h"
 #include "umts_rrc_rt.h"
 #include "umts_sib_decoder.h"
 
 namespace {
 
-using capture::Bytes;
+using namespace tt;
 using gsmtap::Link;
 
-const std::string kSibdump = SIBDUMP_PATH;
 const std::string kMkcaptures = MKCAPTURES_PATH;
-const std::string kSamples = UMTS_SAMPLES_DIR;
-constexpr uint64_t kT0 = 1767225600ull * 1000000u; /* 2026-01-01T00:00:00Z */
-
-std::string temp_dir() {
-  static std::string dir;
-  if (dir.empty()) {
-    std::string pattern = ::testing::TempDir() + "sibdump_capture_XXXXXX";
-    std::vector<char> buf(pattern.begin(), pattern.end());
-    buf.push_back('\0');
-    if (mkdtemp(buf.data()) != nullptr) dir = buf.data();
-  }
-  return dir;
-}
-
-std::string read_file(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::stringstream s;
-  s << in.rdbuf();
-  return s.str();
-}
-
-std::vector<std::string> lines_of(const std::string& text) {
-  std::vector<std::string> lines;
-  std::istringstream in(text);
-  for (std::string l; std::getline(in, l);) lines.push_back(l);
-  return lines;
-}
-
-Bytes hex_bytes(const std::string& hex) {
-  Bytes b;
-  for (size_t i = 0; i + 1 < hex.size(); i += 2) b.push_back(static_cast<uint8_t>(std::stoul(hex.substr(i, 2), nullptr, 16)));
-  return b;
-}
-
-/* The transport blocks of the sample cycle, and its SIBs whole as (name, bytes). */
-const std::vector<Bytes>& sample_blocks() {
-  static std::vector<Bytes> blocks;
-  if (blocks.empty())
-    for (const std::string& l : lines_of(read_file(kSamples + "/fdd_cell.bch")))
-      if (!l.empty() && l[0] != '#') blocks.push_back(hex_bytes(l));
-  return blocks;
-}
-
-std::vector<std::pair<std::string, Bytes>> sample_sibs() {
-  std::vector<std::pair<std::string, Bytes>> sibs;
-  for (const std::string& l : lines_of(read_file(kSamples + "/fdd_cell_sibs.txt"))) {
-    if (l.empty() || l[0] == '#') continue;
-    const size_t blank = l.find(' ');
-    sibs.emplace_back(l.substr(0, blank), hex_bytes(l.substr(blank + 1)));
-  }
-  return sibs;
-}
-
-struct Outcome {
-  int status;
-  std::string out;
-  std::string err;
-};
-
-Outcome run_sibdump(const std::string& args) {
-  const std::string err_path = temp_dir() + "/stderr.txt";
-  const std::string cmd = "'" + kSibdump + "' " + args + " 2>'" + err_path + "'";
-  Outcome r{-1, "", ""};
-  FILE* p = popen(cmd.c_str(), "r");
-  if (p == nullptr) return r;
-  char buf[4096];
-  size_t n;
-  while ((n = std::fread(buf, 1, sizeof buf, p)) > 0) r.out.append(buf, n);
-  const int status = pclose(p);
-  r.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-  r.err = read_file(err_path);
-  return r;
-}
 
 Outcome run_on(const std::string& name, const Bytes& file) {
   const std::string path = temp_dir() + "/" + name;
@@ -188,7 +101,6 @@ std::vector<capture::Frame> cycle_frames(Link link, const capture::Route& route 
   return frames;
 }
 
-bool has(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
 /* ---- GSMTAP and the layers around it ------------------------------------------------------ */
 
@@ -354,14 +266,9 @@ TEST_F(Capture, SamplesGiveTheHexRecords) {
     EXPECT_EQ(r.status, 0) << how << ": " << r.err;
     EXPECT_EQ(records_by_block(parse_lines(r.out)), hex_records()) << how;
   }
-  const std::string piped = "cat '" + kSamples + "/fdd_cell.pcapng' | '" + kSibdump + "'";
-  FILE* p = popen(piped.c_str(), "r");
-  ASSERT_NE(p, nullptr);
-  std::string out;
-  char buf[4096];
-  for (size_t n; (n = std::fread(buf, 1, sizeof buf, p)) > 0;) out.append(buf, n);
-  EXPECT_EQ(pclose(p), 0);
-  EXPECT_EQ(records_by_block(parse_lines(out)), hex_records());
+  const Outcome piped = run_shell("cat '" + kSamples + "/fdd_cell.pcapng' | '" + kSibdump + "'");
+  EXPECT_EQ(piped.status, 0) << piped.err;
+  EXPECT_EQ(records_by_block(parse_lines(piped.out)), hex_records());
 
   /* The MIB's block is the first, the SIB3's the fourth (at 60 ms). */
   const std::vector<Line> lines = parse_lines(run_sibdump("'" + kSamples + "/fdd_cell.pcap'").out);
@@ -487,16 +394,9 @@ TEST_F(Capture, CellsAreCollectedApart) {
 /* What the first `count` blocks of the cycle give through the hex path. */
 std::map<std::string, std::vector<std::string>> hex_records_of_first(size_t count) {
   std::string text;
-  for (size_t k = 0; k < count; k++) {
-    for (uint8_t b : sample_blocks()[k]) {
-      char h[3];
-      std::snprintf(h, sizeof h, "%02x", b);
-      text += h;
-    }
-    text += "\n";
-  }
+  for (size_t k = 0; k < count; k++) text += hex_of(sample_blocks()[k]) + "\n";
   const std::string path = temp_dir() + "/first.bch";
-  std::ofstream(path) << text;
+  write_file(path, text);
   return records_by_block(parse_lines(run_sibdump("'" + path + "'").out));
 }
 
@@ -637,55 +537,27 @@ TEST_F(Capture, DamagedFramesAreReportedAndSkipped) {
    the records arrive as they are decoded (before the end of the run), the bad one is named,
    and an interruption ends the run with the counts. */
 TEST(Live, DatagramsOverLoopback) {
-  Child c = spawn_sibdump(kSibdump, {"--udp", "127.0.0.1:0"});
-  ASSERT_GT(c.pid, 0);
-  std::string err, out;
-  ASSERT_TRUE(read_until(c.err, &err, [](const std::string& t) { return t.find(" (interrupt to stop)\n") != std::string::npos; }))
-      << err;
-  const std::string prefix = "sibdump: listening for GSMTAP on 127.0.0.1:";
-  ASSERT_EQ(err.rfind(prefix, 0), 0u) << err;
-  const int port = std::atoi(err.c_str() + prefix.size());
-  ASSERT_GT(port, 0);
-
-  const int fd = socket(AF_INET, SOCK_DGRAM, 0);
-  ASSERT_GE(fd, 0);
-  sockaddr_in to;
-  std::memset(&to, 0, sizeof to);
-  to.sin_family = AF_INET;
-  to.sin_port = htons(static_cast<uint16_t>(port));
-  to.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  auto send_datagram = [&](const Bytes& d) {
-    EXPECT_EQ(sendto(fd, d.data(), d.size(), 0, reinterpret_cast<sockaddr*>(&to), sizeof to),
-              static_cast<ssize_t>(d.size()));
-  };
+  LiveSibdump live(kSibdump);
+  ASSERT_GT(live.port, 0) << live.err;
   for (size_t k = 0; k < sample_blocks().size(); k++) {
     capture::GsmtapMessage m;
     m.arfcn = 10700;
     m.message = sample_blocks()[k];
-    send_datagram(capture::gsmtap_datagram(m));
+    EXPECT_TRUE(live.send(capture::gsmtap_datagram(m)));
     if (k == 2) {
       Bytes bad = capture::gsmtap_datagram(m);
       bad[0] = 3; /* version */
-      send_datagram(bad);
+      EXPECT_TRUE(live.send(bad));
     }
   }
-  close(fd);
   const size_t expected_lines = hex_record_count();
-  EXPECT_TRUE(read_until(c.out, &out, [&](const std::string& t) {
+  EXPECT_TRUE(read_until(live.c.out, &live.out, [&](const std::string& t) {
     return static_cast<size_t>(std::count(t.begin(), t.end(), '\n')) >= expected_lines;
-  })) << out;
-
-  kill(c.pid, SIGINT);
-  read_until(c.err, &err, [](const std::string&) { return false; }); /* to the end */
-  read_until(c.out, &out, [](const std::string&) { return false; });
-  int status = 0;
-  waitpid(c.pid, &status, 0);
-  close(c.out);
-  close(c.err);
-  ASSERT_TRUE(WIFEXITED(status));
-  EXPECT_EQ(WEXITSTATUS(status), 1); /* one bad datagram */
-
-  const std::vector<Line> lines = parse_lines(out);
+  })) << live.out;
+  EXPECT_EQ(live.stop(), 1); /* one bad datagram */
+  const std::string& err = live.err;
+  const int port = live.port;
+  const std::vector<Line> lines = parse_lines(live.out);
   EXPECT_EQ(records_by_block(lines), hex_records());
   for (const Line& l : lines) EXPECT_TRUE(has(l.head, "\"source\":\"127.0.0.1\",\"arfcn\":10700")) << l.head;
   const std::string where = "sibdump: udp 127.0.0.1:" + std::to_string(port) + ": datagram 4: ";
@@ -696,17 +568,6 @@ TEST(Live, DatagramsOverLoopback) {
                                          n_of(sample_blocks().size()) + " blocks, 0 SIBs, " + n_of(hex_record_count()) +
                                          " records written, 0 skipped, 0 not GSMTAP, 1 bad datagrams"})
     EXPECT_TRUE(has(err, message)) << message << "\n" << err;
-}
-
-TEST(Live, AddressErrors) {
-  for (const char* args : {"--udp nowhere", "--udp 127.0.0.1:99999", "--udp 127.0.0.1:", "--udp x.bch:1 extra"}) {
-    const Outcome r = run_sibdump(args);
-    EXPECT_EQ(r.status, 2) << args;
-    EXPECT_TRUE(r.out.empty()) << args;
-    EXPECT_FALSE(r.err.empty()) << args;
-  }
-  EXPECT_TRUE(has(run_sibdump("--udp nowhere").err, "--udp needs [ADDRESS:]PORT, not 'nowhere'"));
-  EXPECT_TRUE(has(run_sibdump("--udp --sibs").err, "--udp reads no file and no --sibs"));
 }
 
 }  // namespace

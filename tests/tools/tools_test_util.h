@@ -1,0 +1,113 @@
+/*
+ * Helpers of the tool tests: files, hex, the sample cell, sibdump run through the shell and
+ * the codec's encoder.
+ */
+#ifndef UMTS_TESTS_TOOLS_TEST_UTIL_H
+#define UMTS_TESTS_TOOLS_TEST_UTIL_H
+
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace tt {
+
+using Bytes = std::vector<uint8_t>;
+inline const std::string kSibdump = SIBDUMP_PATH;
+inline const std::string kSamples = UMTS_SAMPLES_DIR;
+constexpr uint64_t kT0 = 1767225600ull * 1000000u; /* 2026-01-01T00:00:00Z */
+
+/* The program's own directory, removed when it ends. */
+inline std::string temp_dir() {
+  static const std::string* dir = nullptr;
+  if (dir == nullptr) {
+    char name[] = "/tmp/umts_tools_test_XXXXXX";
+    dir = new std::string(mkdtemp(name) != nullptr ? name : "/tmp");
+    std::atexit([] {
+      if (*dir != "/tmp" && std::system(("rm -rf '" + *dir + "'").c_str()) != 0) std::perror("rm");
+    });
+  }
+  return *dir;
+}
+
+inline std::string read_file(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::ostringstream s;
+  s << in.rdbuf();
+  return s.str();
+}
+inline void write_file(const std::string& path, const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
+
+inline std::vector<std::string> lines_of(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream in(text);
+  for (std::string l; std::getline(in, l);) lines.push_back(l);
+  return lines;
+}
+
+inline bool has(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
+
+inline Bytes hex_bytes(const std::string& hex) {
+  Bytes b;
+  for (size_t i = 0; i + 1 < hex.size(); i += 2) b.push_back(static_cast<uint8_t>(std::stoul(hex.substr(i, 2), nullptr, 16)));
+  return b;
+}
+inline std::string hex_of(const Bytes& b) {
+  std::string out;
+  char digits[3];
+  for (uint8_t x : b) out += (std::snprintf(digits, sizeof digits, "%02x", x), digits);
+  return out;
+}
+
+struct Outcome {
+  int status;
+  std::string out;
+  std::string err;
+};
+
+/* A shell command, its standard output and error. */
+inline Outcome run_shell(const std::string& command) {
+  const std::string err_path = temp_dir() + "/stderr.txt";
+  Outcome r{-1, "", ""};
+  FILE* p = popen((command + " 2>'" + err_path + "'").c_str(), "r");
+  if (p == nullptr) return r;
+  char buf[4096];
+  for (size_t n; (n = std::fread(buf, 1, sizeof buf, p)) > 0;) r.out.append(buf, n);
+  const int status = pclose(p);
+  r.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  r.err = read_file(err_path);
+  return r;
+}
+inline Outcome run_sibdump(const std::string& args) { return run_shell("'" + kSibdump + "' " + args); }
+
+/* The transport blocks of the sample cycle; its SIBs whole as (name, bytes). */
+inline const std::vector<Bytes>& sample_blocks() {
+  static std::vector<Bytes> blocks;
+  if (blocks.empty())
+    for (const std::string& l : lines_of(read_file(kSamples + "/fdd_cell.bch")))
+      if (!l.empty() && l[0] != '#') blocks.push_back(hex_bytes(l));
+  return blocks;
+}
+inline std::vector<std::pair<std::string, Bytes>> sample_sibs() {
+  std::vector<std::pair<std::string, Bytes>> sibs;
+  for (const std::string& l : lines_of(read_file(kSamples + "/fdd_cell_sibs.txt"))) {
+    const size_t blank = l.find(' ');
+    if (!l.empty() && l[0] != '#' && blank != std::string::npos) sibs.emplace_back(l.substr(0, blank), hex_bytes(l.substr(blank + 1)));
+  }
+  return sibs;
+}
+/* The first SIB of the sample named `name`. */
+inline Bytes sample_sib(const std::string& name) {
+  for (const auto& s : sample_sibs())
+    if (s.first == name) return s.second;
+  return {};
+}
+
+}  // namespace tt
+
+#endif /* UMTS_TESTS_TOOLS_TEST_UTIL_H */
