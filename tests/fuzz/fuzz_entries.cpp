@@ -65,15 +65,12 @@ umts_sib_set* librarySet() {
   return record;
 }
 
-// Where each block's record lies in the set, by slot.
+// Where each block's record lies in the set: after the presence word, by slot.
 struct RecordSpan {
   size_t offset, size;
 };
-#define UMTS_FUZZ_SPAN(member) {offsetof(umts_sib_set, member), sizeof(umts_sib_set::member)}
-const RecordSpan kRecordSpans[umts_sib_count] = {
-    UMTS_FUZZ_SPAN(mib),  UMTS_FUZZ_SPAN(sib1),     UMTS_FUZZ_SPAN(sib2),  UMTS_FUZZ_SPAN(sib3),
-    UMTS_FUZZ_SPAN(sib5), UMTS_FUZZ_SPAN(sib7),     UMTS_FUZZ_SPAN(sib11), UMTS_FUZZ_SPAN(sib11bis),
-    UMTS_FUZZ_SPAN(sib12), UMTS_FUZZ_SPAN(sib18), UMTS_FUZZ_SPAN(sb1), UMTS_FUZZ_SPAN(sb2)};
+#define UMTS_FUZZ_SPAN(kind, type, name, dim, cond, aux) {offsetof(umts_sib_set, name), sizeof(type)},
+const RecordSpan kRecordSpans[umts_sib_count + 1] = {umts_sib_set_FIELDS(UMTS_FUZZ_SPAN)};
 #undef UMTS_FUZZ_SPAN
 
 void resetContext() {
@@ -162,7 +159,7 @@ std::string run_sib_msg(const uint8_t* data, size_t size) {
   umts_sib_set* own = librarySet();
   if (problem.empty() && own != nullptr && id < umts_sib_count) {
     const uint8_t again = umts_sib_msg_decoder(static_cast<umts_sib_id>(id), copy.get(), own, static_cast<uint32_t>(n));
-    const RecordSpan span = kRecordSpans[id];
+    const RecordSpan span = kRecordSpans[id + 1];
     if (again != status) problem = "the library's set gave another status";
     else if (std::memcmp(reinterpret_cast<const uint8_t*>(own) + span.offset,
                          reinterpret_cast<const uint8_t*>(result) + span.offset, span.size) != 0)
