@@ -191,8 +191,9 @@ TEST(Sibdump, HelpAndUsageErrors) {
   }
 }
 
-/* The library's own standard output never mixes with the JSON. */
-TEST(Sibdump, LibraryTextGoesApart) {
+/* The library's own standard output never mixes with the JSON; --log-level reaches the
+   library's log. */
+TEST(Sibdump, LibraryTextAndLogGoApart) {
   const std::string input = "'" + kSamples + "/fdd_cell.bch'";
   const Outcome plain = run(kSibdump, input);
   const std::string text_path = temp_dir() + "/asn1.txt";
@@ -207,20 +208,19 @@ TEST(Sibdump, LibraryTextGoesApart) {
   EXPECT_EQ(to_stderr.out, plain.out);
   EXPECT_NE(to_stderr.err.find("UMTS_BCCH_BCH_Message"), std::string::npos);
   EXPECT_EQ(plain.err.find("UMTS_BCCH_BCH_Message"), std::string::npos);
+
+  const std::string sibs = "--sibs '" + kSamples + "/fdd_cell_sibs.txt'";
+  EXPECT_EQ(run(kSibdump, sibs).err.find("ASN context initialised"), std::string::npos);
+  EXPECT_NE(run(kSibdump, "--log-level 6 " + sibs).err.find("ASN context initialised"), std::string::npos);
+  EXPECT_EQ(run(kSibdump, "--log-level=2 " + sibs).err.find("ASN context initialised"), std::string::npos);
 }
 
-TEST(Sibdump, LogLevelReachesTheLibrary) {
-  const std::string input = "--sibs '" + kSamples + "/fdd_cell_sibs.txt'";
-  EXPECT_EQ(run(kSibdump, input).err.find("ASN context initialised"), std::string::npos);
-  EXPECT_NE(run(kSibdump, "--log-level 6 " + input).err.find("ASN context initialised"), std::string::npos);
-  EXPECT_EQ(run(kSibdump, "--log-level=2 " + input).err.find("ASN context initialised"), std::string::npos);
-}
-
-/* The committed samples are what mksamples writes. */
+/* The committed samples are what mksamples writes, the captures what mkcaptures writes. */
 TEST(Samples, AreUpToDate) {
   const Outcome r = run(kMksamples, "'" + temp_dir() + "' '" + temp_dir() + "/bch_cycle.bch'");
   ASSERT_EQ(r.status, 0) << r.err;
-  for (const char* name : {"/fdd_cell.bch", "/fdd_cell_sibs.txt", "/tdd128_cell_sibs.txt"})
+  ASSERT_EQ(run(MKCAPTURES_PATH, "'" + temp_dir() + "'").status, 0);
+  for (const char* name : {"/fdd_cell.bch", "/fdd_cell_sibs.txt", "/tdd128_cell_sibs.txt", "/fdd_cell.pcap", "/fdd_cell.pcapng"})
     EXPECT_EQ(read_file(temp_dir() + name), read_file(kSamples + name)) << name << ": run 'make samples'";
   EXPECT_EQ(read_file(temp_dir() + "/bch_cycle.bch"), read_file(std::string(UMTS_SOURCE_DIR) + "/bench/bch_cycle.bch"))
       << "bench/bch_cycle.bch: run 'make samples'";

@@ -24,8 +24,6 @@ namespace {
 using namespace tt;
 using gsmtap::Link;
 
-const std::string kMkcaptures = MKCAPTURES_PATH;
-
 Outcome run_on(const std::string& name, const Bytes& file) {
   const std::string path = temp_dir() + "/" + name;
   EXPECT_TRUE(capture::write_file(path, file));
@@ -82,25 +80,6 @@ size_t hex_record_count() {
   return n;
 }
 std::string n_of(size_t n) { return std::to_string(n); }
-
-capture::Frame gsmtap_frame(Link link, uint64_t time_us, const Bytes& message, uint16_t arfcn = 10700,
-                            uint8_t sub_type = gsmtap::kSubBcchBch, const capture::Route& route = capture::Route(),
-                            uint8_t type = gsmtap::kTypeUmtsRrc) {
-  capture::GsmtapMessage m;
-  m.type = type;
-  m.sub_type = sub_type;
-  m.arfcn = arfcn;
-  m.message = message;
-  return {time_us, capture::udp_frame(link, route, capture::gsmtap_datagram(m)), 0};
-}
-
-std::vector<capture::Frame> cycle_frames(Link link, const capture::Route& route = capture::Route()) {
-  std::vector<capture::Frame> frames;
-  for (size_t k = 0; k < sample_blocks().size(); k++)
-    frames.push_back(gsmtap_frame(link, kT0 + 20000 * k, sample_blocks()[k], 10700, gsmtap::kSubBcchBch, route));
-  return frames;
-}
-
 
 /* ---- GSMTAP and the layers around it ------------------------------------------------------ */
 
@@ -242,7 +221,7 @@ class Capture : public ::testing::Test {
 };
 
 /* The committed sample captures give the hex sample's records, each line with its frame and
-   time; the captures are what mkcaptures writes from samples/fdd_cell.bch. */
+   time. */
 TEST_F(Capture, SamplesGiveTheHexRecords) {
   for (const char* name : {"fdd_cell.pcap", "fdd_cell.pcapng"}) {
     const Outcome r = run_sibdump("'" + kSamples + "/" + name + "'");
@@ -278,13 +257,6 @@ TEST_F(Capture, SamplesGiveTheHexRecords) {
     }
   }
 
-  const std::string dir = temp_dir() + "/samples";
-  ASSERT_EQ(std::system(("mkdir -p '" + dir + "' && cp '" + kSamples + "/fdd_cell.bch' '" + dir + "/' && '" +
-                         kMkcaptures + "' '" + dir + "' >/dev/null")
-                            .c_str()),
-            0);
-  for (const char* name : {"/fdd_cell.pcap", "/fdd_cell.pcapng"})
-    EXPECT_EQ(read_file(dir + name), read_file(kSamples + name)) << name << ": run 'make samples'";
 }
 
 TEST_F(Capture, EveryLinkLayerInBothFormats) {

@@ -1,6 +1,6 @@
 /*
- * Helpers of the tool tests: files, hex, the sample cell, sibdump run through the shell and
- * the codec's encoder.
+ * Helpers of the tool tests: files, hex, the sample cell as blocks, SIBs and captured
+ * frames, and sibdump run through the shell.
  */
 #ifndef UMTS_TESTS_TOOLS_TEST_UTIL_H
 #define UMTS_TESTS_TOOLS_TEST_UTIL_H
@@ -10,10 +10,13 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <set>
 #include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "capture_writer.h"
 
 namespace tt {
 
@@ -106,6 +109,29 @@ inline Bytes sample_sib(const std::string& name) {
   for (const auto& s : sample_sibs())
     if (s.first == name) return s.second;
   return {};
+}
+
+/* A captured frame of one GSMTAP message. */
+inline capture::Frame gsmtap_frame(gsmtap::Link link, uint64_t time_us, const Bytes& message, uint16_t arfcn = 10700,
+                                   uint8_t sub_type = gsmtap::kSubBcchBch, const capture::Route& route = capture::Route(),
+                                   uint8_t type = gsmtap::kTypeUmtsRrc) {
+  capture::GsmtapMessage m;
+  m.type = type;
+  m.sub_type = sub_type;
+  m.arfcn = arfcn;
+  m.message = message;
+  return {time_us, capture::udp_frame(link, route, capture::gsmtap_datagram(m)), 0};
+}
+
+/* The sample cycle's blocks 20 ms apart from `t0`, except the blocks `left_out` (0-based). */
+inline std::vector<capture::Frame> cycle_frames(gsmtap::Link link, const capture::Route& route = capture::Route(),
+                                                uint16_t arfcn = 10700, uint64_t t0 = kT0,
+                                                const std::set<size_t>& left_out = {}) {
+  std::vector<capture::Frame> frames;
+  for (size_t k = 0; k < sample_blocks().size(); k++)
+    if (!left_out.count(k))
+      frames.push_back(gsmtap_frame(link, t0 + 20000 * k, sample_blocks()[k], arfcn, gsmtap::kSubBcchBch, route));
+  return frames;
 }
 
 }  // namespace tt
