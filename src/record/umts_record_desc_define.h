@@ -8,8 +8,9 @@
  *                             records may refer to each other in any order;
  *   LIST(UMTS_DESC_DEFINE)    defines umts_desc_<name> from name##_FIELDS.
  *
- * Everything is a constant: the descriptions cost nothing at start-up. A RECORD, UNION or
- * ARRAY entry whose type has no description fails to compile.
+ * Everything is a constant: the descriptions cost nothing at start-up. The field arrays stay
+ * inside the library (hidden), so that loading it looks up no symbol for each of them. A
+ * RECORD, UNION or ARRAY entry whose type has no description fails to compile.
  */
 #ifndef UMTS_RECORD_DESC_DEFINE_H
 #define UMTS_RECORD_DESC_DEFINE_H
@@ -92,7 +93,7 @@ struct presence_of<T, std::void_t<decltype(T::presence_bitmask)>> {
 
 #define UMTS_DESC_DEFINE(kind, rec)                                                            \
   namespace umts_desc_detail {                                                                 \
-  struct fields_##rec {                                                                        \
+  struct __attribute__((visibility("hidden"))) fields_##rec {                                  \
     typedef rec self;                                                                          \
     static constexpr umts_field_desc list[] = {rec##_FIELDS(UMTS_DESC_FIELD)};                 \
   };                                                                                           \

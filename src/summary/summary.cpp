@@ -896,14 +896,28 @@ bool sib19_scheduled_at(const CellRecords& cell, unsigned sfn, unsigned segment)
 
 /* ---- Where the summaries go -------------------------------------------------------------- */
 
+namespace {
+
+const char kDropped[] = "datagrams_dropped_by_kernel";
+
+}  // namespace
+
 void SummaryWriter::write(const SummaryNode& summary) {
   any_ = true;
+  SummaryNode live;
+  if (live_) {
+    live = summary;
+    auto at = live.members.begin();
+    while (at != live.members.end() && at->first != "blocks_received") ++at;
+    live.members.insert(at == live.members.end() ? at : at + 1, {kDropped, SummaryNode(static_cast<unsigned long>(dropped_))});
+  }
+  const SummaryNode& n = live_ ? live : summary;
   if (format_ == "html") {
-    page_.push_back(summary);
+    page_.push_back(n);
   } else if (format_ == "json") {
-    std::fprintf(out_, "%s\n", summary_json(summary).c_str());
+    std::fprintf(out_, "%s\n", summary_json(n).c_str());
   } else {
-    std::fprintf(out_, "%s%s", wrote_text_ ? "\n" : "", summary_text(summary).c_str());
+    std::fprintf(out_, "%s%s", wrote_text_ ? "\n" : "", summary_text(n).c_str());
     wrote_text_ = true;
   }
   std::fflush(out_);
@@ -918,11 +932,16 @@ void SummaryWriter::finish(const CellCollection& cells) {
 void SummaryWriter::finish(const std::vector<const CellRecords*>& cells) {
   for (const CellRecords* cell : cells) write(cell_summary(*cell));
   if (!any_) {
-    if (format_ == "json") std::fprintf(out_, "{\"cell\":null,\"missing\":\"no block of any cell was converted\"}\n");
-    else if (format_ == "text") std::fprintf(out_, "no block of any cell was converted\n");
+    const std::string dropped = std::to_string(dropped_);
+    if (format_ == "json")
+      std::fprintf(out_, "{\"cell\":null,\"missing\":\"no block of any cell was converted\"%s}\n",
+                   live_ ? (",\"" + std::string(kDropped) + "\":" + dropped).c_str() : "");
+    else if (format_ == "text")
+      std::fprintf(out_, "no block of any cell was converted\n%s",
+                   live_ ? (std::string(kDropped) + ": " + dropped + "\n").c_str() : "");
   }
   if (format_ == "html") {
-    const std::string page = summary_html(page_);
+    const std::string page = summary_html(page_, live_ && page_.empty() ? std::to_string(dropped_) : std::string());
     std::fwrite(page.data(), 1, page.size(), out_);
   }
   std::fflush(out_);

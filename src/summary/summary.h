@@ -154,8 +154,9 @@ std::string summary_text(const SummaryNode& cell);
    for a value that takes several lines. */
 bool summary_value_text(const SummaryNode& node, std::string* out);
 /* One self-contained HTML page of the cells' summaries: their tables and a drawing of the
-   broadcast schedule across the 4096-frame SFN cycle. */
-std::string summary_html(const std::vector<SummaryNode>& cells);
+   broadcast schedule across the 4096-frame SFN cycle. A page of no cell from live input says
+   `dropped`, the datagrams that the kernel dropped (a cell's summary says it itself). */
+std::string summary_html(const std::vector<SummaryNode>& cells, const std::string& dropped = std::string());
 
 /* Where summaries go: text and JSON as each is made, so that a live stream shows a cell's
    summary when its configuration changes; a page whole at the end. */
@@ -168,6 +169,13 @@ class SummaryWriter {
   void finish(const CellCollection& cells);
   /* The same, of cells in the order given. */
   void finish(const std::vector<const CellRecords*>& cells);
+  /* Live input: the datagrams that the kernel dropped so far (of every cell: a dropped
+     datagram names none). Each summary written from now on says it, after the blocks
+     received. */
+  void set_dropped(uint64_t dropped) {
+    dropped_ = dropped;
+    live_ = true;
+  }
 
  private:
   FILE* out_;
@@ -175,6 +183,8 @@ class SummaryWriter {
   std::vector<SummaryNode> page_; /* html: every summary, for the one page */
   bool any_ = false;
   bool wrote_text_ = false;
+  bool live_ = false;
+  uint64_t dropped_ = 0;
 };
 
 #endif /* UMTS_TOOLS_SUMMARY_H */

@@ -231,6 +231,10 @@ std::string cell_html(const SummaryNode& cell, size_t index) {
   std::string received;
   if (blocks != nullptr) summary_value_text(*blocks, &received);
   out += "<p>Blocks received: " + escape(received) + "</p>";
+  const SummaryNode* dropped = cell.find("datagrams_dropped_by_kernel");
+  if (dropped != nullptr && dropped->kind == SummaryNode::Int)
+    out += "<p>Datagrams dropped by the kernel before they were read (of every cell of the input, until this "
+           "summary): " + std::to_string(dropped->integer) + "</p>";
   const SummaryNode* ended = cell.find("ended_by");
   if (ended != nullptr && ended->kind == SummaryNode::Text) out += "<p>Configuration ended: " + escape(ended->text) + "</p>";
   out += section_html("Identity", cell.find("identity"));
@@ -246,12 +250,14 @@ std::string cell_html(const SummaryNode& cell, size_t index) {
 
 }  // namespace
 
-std::string summary_html(const std::vector<SummaryNode>& cells) {
+std::string summary_html(const std::vector<SummaryNode>& cells, const std::string& dropped) {
   std::string out =
       "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\"><title>UMTS cell summary</title><style>";
   out += kStyle;
   out += "</style></head><body><h1>UMTS cell summary</h1>";
   if (cells.empty()) out += "<p class=\"missing\">No block of any cell was converted.</p>";
+  if (cells.empty() && !dropped.empty())
+    out += "<p>Datagrams dropped by the kernel before they were read: " + escape(dropped) + "</p>";
   for (size_t i = 0; i < cells.size(); i++) out += cell_html(cells[i], i);
   /* Marks the page as loaded: a check in a browser reads it back. */
   out += "<script>document.body.setAttribute('data-cells', String(document.querySelectorAll('section.cell').length));"

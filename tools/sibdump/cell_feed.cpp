@@ -109,7 +109,6 @@ void CellFeed::datagram(unsigned long number, uint64_t time_us, const gsmtap::Da
                      "\",\"source\":\"" + d.source + "\",\"arfcn\":" + std::to_string(arfcn);
   cell.counts.records += output_.write(head);
   if (block && output_.block) output_.block(head, data, length);
-  if (output_.flush) output_.flush();
 }
 
 void CellFeed::decode(Cell& cell, bool transport_block, int sib_id, const uint8_t* data, size_t length) {

@@ -19,7 +19,8 @@
 
 /* Where the records go: `write` writes one JSON line per sub-record whose presence bit the
    last call set, each starting with `head` (JSON members, without braces), and returns how
-   many it wrote; `flush` ends each datagram (live input), or is empty. */
+   many it wrote; `flush` writes out what is gathered (the live input calls it whenever the
+   socket goes quiet), or is empty. */
 struct RecordOutput {
   std::function<size_t(const std::string& head)> write;
   std::function<void()> flush;

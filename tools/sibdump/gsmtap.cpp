@@ -27,6 +27,23 @@ std::string text(const char* format, size_t a, size_t b = 0) {
 constexpr uint16_t kEtherIpv4 = 0x0800, kEtherIpv6 = 0x86DD, kEtherVlan = 0x8100, kEtherQinQ = 0x88A8;
 constexpr uint8_t kProtoUdp = 17;
 
+/* a.b.c.d into `out` (16 octets), as inet_ntop writes it: every frame of a capture needs its
+   sender's address, and inet_ntop formats IPv4 through the C library's printf. */
+void ipv4_text(const uint8_t* a, char* out) {
+  for (int i = 0; i < 4; i++) {
+    unsigned v = a[i];
+    if (v >= 100) {
+      *out++ = static_cast<char>('0' + v / 100);
+      v %= 100;
+      *out++ = static_cast<char>('0' + v / 10);
+    } else if (v >= 10) {
+      *out++ = static_cast<char>('0' + v / 10);
+    }
+    *out++ = static_cast<char>('0' + v % 10);
+    *out++ = i < 3 ? '.' : '\0';
+  }
+}
+
 /* The IP packet (v4 or v6 by its first nibble, or `only` when nonzero) at `ip`, with `avail`
    octets captured of it. */
 Unwrap unwrap_ip(const uint8_t* ip, size_t avail, int only, Datagram* d, std::string* why) {
@@ -55,7 +72,7 @@ Unwrap unwrap_ip(const uint8_t* ip, size_t avail, int only, Datagram* d, std::st
       *why = text("IPv4 packet of %zu octets cut to %zu", total, avail);
       return Unwrap::damaged;
     }
-    inet_ntop(AF_INET, ip + 12, address, sizeof address);
+    ipv4_text(ip + 12, address);
     udp = ip + header;
     udp_avail = total - header;
   } else if (version == 6) {

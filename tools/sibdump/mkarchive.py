@@ -135,7 +135,7 @@ class CellMaker:
         return [s[name] for _, name, _ in CYCLE]
 
 
-def spec_text(parts: List[Tuple[int, List[Tuple[str, int, List[Sib]]]]], start: float = START) -> str:
+def cells_text(parts: List[Tuple[int, List[Tuple[str, int, List[Sib]]]]], start: float = START) -> str:
     """mkcaptures --cells input: parts of (cycles, [(source, arfcn, sibs)])."""
     lines = [f"start {start:.6f}"]
     for cycles, cells in parts:
@@ -146,13 +146,13 @@ def spec_text(parts: List[Tuple[int, List[Tuple[str, int, List[Sib]]]]], start: 
     return "\n".join(lines) + "\n"
 
 
-def write_capture(path: Path, spec: str) -> None:
-    spec_path = path.with_name(path.name + ".spec")
-    spec_path.write_text(spec)
+def write_capture(path: Path, cells: str) -> None:
+    cells_path = path.with_name(path.name + ".cells")
+    cells_path.write_text(cells)
     try:
-        subprocess.run([str(MKCAPTURES), "--cells", str(spec_path), str(path)], check=True)
+        subprocess.run([str(MKCAPTURES), "--cells", str(cells_path), str(path)], check=True)
     finally:
-        spec_path.unlink()
+        cells_path.unlink()
 
 
 #: The cells of the tests' folder: (PLMN, LAC, cell identity, UARFCN) by name.
@@ -186,15 +186,15 @@ def test_folder(folder: Path) -> Dict[str, object]:
     c = m.make(lac=C[1], cell_identity=C[2], intra=(315, 328))
     d = m.make(cell_identity=D[2])
     folder.mkdir(parents=True, exist_ok=True)
-    write_capture(folder / "a_b.pcap", spec_text([(2, [("10.0.0.1", 10700, a), ("10.0.0.2", 10700, b3)])]))
-    write_capture(folder / "a_b_later.pcapng", spec_text(
+    write_capture(folder / "a_b.pcap", cells_text([(2, [("10.0.0.1", 10700, a), ("10.0.0.2", 10700, b3)])]))
+    write_capture(folder / "a_b_later.pcapng", cells_text(
         [(1, [("10.0.0.1", 10700, a), ("10.0.0.2", 10700, b3)]), (1, [("10.0.0.1", 10700, a), ("10.0.0.2", 10700, b4)])],
         START + 3600))
     damaged = folder / "c_damaged.pcap"
-    write_capture(damaged, spec_text([(3, [("10.0.0.3", 10663, c)])], START + 60))
+    write_capture(damaged, cells_text([(3, [("10.0.0.3", 10663, c)])], START + 60))
     data = damaged.read_bytes()
     damaged.write_bytes(data[:len(data) * 2 // 3 + 5])
-    write_capture(folder / "d.bch", spec_text([(1, [("10.0.0.4", 0, d)])]))
+    write_capture(folder / "d.bch", cells_text([(1, [("10.0.0.4", 0, d)])]))
     (folder / "notes.pcap").write_text("not a capture: the notes of a drive test\n")
     return {"code_of_a": code_of_a, "code_of_b": CODE_OF_B}
 
@@ -206,7 +206,7 @@ def bench_folder(folder: Path, files: int, cycles: int = 10) -> None:
               m.make(lac=0x4E21 + i // 4, cell_identity=0x01A2B00 + i)) for i in range(8)]
     folder.mkdir(parents=True, exist_ok=True)
     for n in range(files):  # the same cells, each file an hour after the one before
-        write_capture(folder / f"capture_{n:03d}.pcap", spec_text([(cycles, cells)], START + 3600 * n))
+        write_capture(folder / f"capture_{n:03d}.pcap", cells_text([(cycles, cells)], START + 3600 * n))
 
 
 if __name__ == "__main__":

@@ -11,9 +11,9 @@
  * GSMTAP frame number is the SFN of the block (two frames per TTI), the ARFCN the cell's
  * downlink UARFCN, 10700.
  *
- *   mkcaptures --cells SPEC OUTPUT
+ *   mkcaptures --cells CELLS OUTPUT
  *                    writes OUTPUT (.pcap, .pcapng, or .bch: the transport blocks as hex
- *                    text, for a SPEC of one cell) with the cells that SPEC describes, each
+ *                    text, for CELLS of one cell) with the cells that CELLS describes, each
  *                    cell's whole SIBs cut into transport blocks by the BCH segmenter:
  *
  *     start SECONDS          time of the first frame (UTC, seconds since 1970; default
@@ -88,16 +88,16 @@ bool read_blocks(const std::string& path, std::vector<capture::Bytes>* blocks) {
 }
 
 /* One cell of a --cells part: where its datagrams come from, and its blocks. */
-struct SpecCell {
+struct PlannedCell {
   std::string source;
   uint16_t arfcn = 0;
   std::vector<capture::Bytes> sibs;
   std::vector<umts_bch_sib> in;
   std::vector<capture::Bytes> blocks;
 };
-struct SpecPart {
+struct PlannedPart {
   unsigned cycles = 1;
-  std::vector<SpecCell> cells;
+  std::vector<PlannedCell> cells;
 };
 
 bool hex_octets(const std::string& text, capture::Bytes* out) {
@@ -110,13 +110,13 @@ bool hex_octets(const std::string& text, capture::Bytes* out) {
   return true;
 }
 
-int spec_error(const std::string& path, unsigned line, const std::string& why) {
+int cells_error(const std::string& path, unsigned line, const std::string& why) {
   std::fprintf(stderr, "mkcaptures: %s:%u: %s\n", path.c_str(), line, why.c_str());
   return 1;
 }
 
 /* Cuts a cell's SIBs into transport blocks (the MIB in a block of its own). */
-bool cut_cell(SpecCell& cell) {
+bool cut_cell(PlannedCell& cell) {
   for (size_t i = 0; i < cell.in.size(); i++) cell.in[i].data = cell.sibs[i].data();
   std::vector<umts_bch_block> blocks(4096);
   uint32_t count = 0, failed = 0;
@@ -138,11 +138,11 @@ void set_sfn_prime(capture::Bytes& block, uint32_t sfn_prime) {
   block[1] = static_cast<uint8_t>(first);
 }
 
-int write_cells(const std::string& spec_path, const std::string& output) {
-  std::ifstream in(spec_path);
-  if (!in) return spec_error(spec_path, 0, "cannot open");
+int write_cells(const std::string& cells_path, const std::string& output) {
+  std::ifstream in(cells_path);
+  if (!in) return cells_error(cells_path, 0, "cannot open");
   uint64_t start_us = kStartUs;
-  std::vector<SpecPart> parts;
+  std::vector<PlannedPart> parts;
   unsigned number = 0;
   for (std::string line; std::getline(in, line);) {
     number++;
@@ -153,29 +153,29 @@ int write_cells(const std::string& spec_path, const std::string& output) {
     if (!(words >> word)) continue;
     if (word == "start") {
       double seconds = 0;
-      if (!(words >> seconds) || seconds < 0) return spec_error(spec_path, number, "start takes seconds since 1970");
+      if (!(words >> seconds) || seconds < 0) return cells_error(cells_path, number, "start takes seconds since 1970");
       start_us = static_cast<uint64_t>(seconds * 1e6 + 0.5);
     } else if (word == "part") {
       parts.emplace_back();
       std::string cycles;
       if (words >> cycles) parts.back().cycles = static_cast<unsigned>(std::strtoul(cycles.c_str(), nullptr, 10));
-      if (parts.back().cycles == 0) return spec_error(spec_path, number, "part takes a cycle count of 1 or more");
+      if (parts.back().cycles == 0) return cells_error(cells_path, number, "part takes a cycle count of 1 or more");
     } else if (word == "cell") {
       if (parts.empty()) parts.emplace_back();
-      SpecCell cell;
+      PlannedCell cell;
       unsigned arfcn = 0;
-      if (!(words >> cell.source >> arfcn) || arfcn > 0x3FFF) return spec_error(spec_path, number, "cell takes SOURCE ARFCN");
+      if (!(words >> cell.source >> arfcn) || arfcn > 0x3FFF) return cells_error(cells_path, number, "cell takes SOURCE ARFCN");
       cell.arfcn = static_cast<uint16_t>(arfcn);
       parts.back().cells.push_back(cell);
     } else {
-      if (parts.empty() || parts.back().cells.empty()) return spec_error(spec_path, number, "a SIB before any cell");
-      SpecCell& cell = parts.back().cells.back();
+      if (parts.empty() || parts.back().cells.empty()) return cells_error(cells_path, number, "a SIB before any cell");
+      PlannedCell& cell = parts.back().cells.back();
       umts_bch_sib sib{};
       std::string hex;
       sib.sib_type = static_cast<uint32_t>(std::strtoul(word.c_str(), nullptr, 10));
       capture::Bytes bytes;
       if (!(words >> sib.numbits >> hex) || !hex_octets(hex, &bytes) || sib.numbits == 0 || sib.numbits > bytes.size() * 8)
-        return spec_error(spec_path, number, "expected SIB-TYPE BITS HEX");
+        return cells_error(cells_path, number, "expected SIB-TYPE BITS HEX");
       sib.own_block = sib.sib_type == 0 ? 1 : 0;
       cell.sibs.push_back(bytes);
       cell.in.push_back(sib);
@@ -185,16 +185,16 @@ int write_cells(const std::string& spec_path, const std::string& output) {
   std::vector<capture::Bytes> text_blocks;
   std::string text_cell;
   uint64_t round = 0;
-  for (SpecPart& part : parts) {
+  for (PlannedPart& part : parts) {
     size_t longest = 0;
-    for (SpecCell& cell : part.cells) {
+    for (PlannedCell& cell : part.cells) {
       if (!cut_cell(cell)) return 1;
       longest = std::max(longest, cell.blocks.size());
     }
     for (unsigned c = 0; c < part.cycles; c++) {
       for (size_t k = 0; k < longest; k++, round++) {
         for (size_t i = 0; i < part.cells.size(); i++) {
-          const SpecCell& cell = part.cells[i];
+          const PlannedCell& cell = part.cells[i];
           if (k >= cell.blocks.size()) continue;
           capture::Bytes block = cell.blocks[k];
           set_sfn_prime(block, static_cast<uint32_t>(round % 2048));
@@ -205,7 +205,7 @@ int write_cells(const std::string& spec_path, const std::string& output) {
           capture::GsmtapMessage m;
           m.arfcn = cell.arfcn;
           m.frame_number = static_cast<uint32_t>(2 * round % 4096);
-          m.message = block;
+          m.message = std::move(block);
           capture::Route route;
           route.source = cell.source;
           frames.push_back({start_us + round * kTtiUs + i * 100,
@@ -224,7 +224,7 @@ int write_cells(const std::string& spec_path, const std::string& output) {
       std::fprintf(stderr, "mkcaptures: %s: a text file of transport blocks holds one cell only\n", output.c_str());
       return 1;
     }
-    std::string text = "# Transport blocks of one cell, written by mkcaptures --cells from " + spec_path + "\n";
+    std::string text = "# Transport blocks of one cell, written by mkcaptures --cells from " + cells_path + "\n";
     static const char digits[] = "0123456789abcdef";
     for (const capture::Bytes& b : text_blocks) {
       for (uint8_t o : b) {
@@ -252,7 +252,7 @@ int main(int argc, char** argv) {
   if (argc != 2) {
     std::fprintf(stderr,
                  "Usage: mkcaptures DIR\nReads DIR/fdd_cell.bch, writes DIR/fdd_cell.pcap and DIR/fdd_cell.pcapng.\n"
-                 "       mkcaptures --cells SPEC OUTPUT\nWrites the cells of SPEC (see the source) to OUTPUT "
+                 "       mkcaptures --cells CELLS OUTPUT\nWrites the cells of CELLS (see the source) to OUTPUT "
                  "(.pcap, .pcapng or .bch).\n");
     return 2;
   }

@@ -7,11 +7,17 @@
  */
 #include "parallel_feed.h"
 
+#include <sys/uio.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <climits>
 #include <condition_variable>
 #include <cstring>
 #include <map>
 #include <mutex>
 #include <thread>
+#include <unordered_map>
 
 namespace {
 
@@ -30,15 +36,28 @@ FILE* append_stream(void* cookie, ssize_t (*append)(void*, const char*, size_t))
   return f;
 }
 
-void put(FILE* out, const std::string& s, size_t from, size_t to) {
-  if (out != nullptr && to > from) std::fwrite(s.data() + from, 1, to - from, out);
+void put(FILE* out, const char* s, size_t from, size_t to) {
+  if (out != nullptr && to > from) std::fwrite(s + from, 1, to - from, out);
 }
 
 }  // namespace
 
+void TextBuffer::reserve(size_t more) {
+  if (cap - len >= more) return;
+  size_t grown = cap == 0 ? 4096 : cap;
+  while (grown - len < more) grown *= 2;
+  char* p = static_cast<char*>(std::realloc(data, grown));
+  if (p == nullptr) {
+    std::fprintf(stderr, "sibdump: out of memory\n");
+    std::exit(2);
+  }
+  data = p;
+  cap = grown;
+}
+
 ssize_t WorkerOutput::append_records(void* cookie, const char* buf, size_t size) {
   WorkerOutput* o = static_cast<WorkerOutput*>(cookie);
-  o->buffers_[o->current_].records.append(buf, size);
+  o->records_->append(buf, size);
   return static_cast<ssize_t>(size);
 }
 
@@ -72,25 +91,35 @@ struct ParallelFeed::Item {
   size_t offset, length; /* the datagram's octets in the batch's arena */
   std::string source;    /* the sender; for kBad the message */
   uint16_t source_port, destination_port;
-  /* Where the worker's buffers ended after this frame. */
-  size_t records_end, text_end, messages_end;
 };
 
 struct ParallelFeed::Shared {
   unsigned workers = 1;
   std::vector<std::unique_ptr<WorkerOutput>> outs;
   std::vector<std::unique_ptr<CellFeed>> feeds;
-  std::function<void(unsigned)> flush_records;
   FILE* records = nullptr;
   FILE* text = nullptr;
   FILE* messages = nullptr;
   const char* unit = "frame";
   unsigned long not_gsmtap = 0;
 
-  std::map<CellKey, unsigned> owner; /* each cell's worker */
+  struct KeyHash {
+    size_t operator()(const CellKey& k) const { return std::hash<std::string>()(k.first) * 31u + k.second; }
+  };
+  std::unordered_map<CellKey, unsigned, KeyHash> owner; /* each cell's worker */
   unsigned next_worker = 0;
-  std::vector<Item> items[2];
+  std::vector<Item> items[2]; /* the workers only read them */
+  /* Each worker's frames of each batch, by their places in the batch. */
+  std::vector<std::vector<uint32_t>> shares[2];
+  /* The cells last looked up, before `owner` is searched. */
+  struct Recent {
+    CellKey key;
+    unsigned worker;
+  };
+  std::vector<Recent> recent;
+  size_t recent_next = 0;
   std::vector<uint8_t> arena[2];
+  std::vector<iovec> pieces; /* write_records_only's list, kept for its room */
   int gathering = 0; /* the batch that frames are gathered in */
 
   std::vector<std::thread> threads;
@@ -103,12 +132,10 @@ struct ParallelFeed::Shared {
 };
 
 ParallelFeed::ParallelFeed(unsigned workers, const std::function<std::unique_ptr<CellFeed>(WorkerOutput& out)>& make_feed,
-                           std::function<void(unsigned)> flush_records, FILE* records, FILE* text, FILE* messages,
-                           const char* unit)
+                           FILE* records, FILE* text, FILE* messages, const char* unit)
     : shared_(new Shared) {
   Shared& s = *shared_;
   s.workers = workers == 0 ? 1 : workers;
-  s.flush_records = std::move(flush_records);
   s.records = records;
   s.text = text;
   s.messages = messages;
@@ -117,7 +144,10 @@ ParallelFeed::ParallelFeed(unsigned workers, const std::function<std::unique_ptr
     s.outs.emplace_back(new WorkerOutput);
     s.feeds.push_back(make_feed(*s.outs.back()));
   }
-  for (int b = 0; b < 2; b++) s.items[b].reserve(kBatchFrames);
+  for (int b = 0; b < 2; b++) {
+    s.items[b].reserve(kBatchFrames);
+    s.shares[b].resize(s.workers);
+  }
   for (unsigned w = 0; w < s.workers; w++) {
     s.threads.emplace_back([this, w] {
       Shared& sh = *shared_;
@@ -151,14 +181,37 @@ ParallelFeed::~ParallelFeed() {
   s.feeds.clear();
 }
 
-unsigned ParallelFeed::worker_of(const CellKey& key) {
+unsigned ParallelFeed::worker_of(const std::string& source, uint16_t arfcn) {
   Shared& s = *shared_;
+  /* A capture comes from a few cells at a time: they are found among the last ones. */
+  constexpr size_t kRecent = 16;
+  for (const Shared::Recent& r : s.recent)
+    if (r.key.second == arfcn && r.key.first == source) return r.worker;
+  CellKey key(source, arfcn);
+  unsigned w;
   auto it = s.owner.find(key);
-  if (it != s.owner.end()) return it->second;
-  const unsigned w = s.next_worker;
-  s.next_worker = (s.next_worker + 1) % s.workers;
-  s.owner.emplace(key, w);
+  if (it != s.owner.end()) {
+    w = it->second;
+  } else {
+    w = s.next_worker;
+    s.next_worker = (s.next_worker + 1) % s.workers;
+    s.owner.emplace(key, w);
+  }
+  if (s.recent.size() < kRecent) {
+    s.recent.push_back(Shared::Recent{std::move(key), w});
+  } else {
+    s.recent[s.recent_next] = Shared::Recent{std::move(key), w};
+    s.recent_next = (s.recent_next + 1) % kRecent;
+  }
   return w;
+}
+
+void ParallelFeed::add(Item&& item) {
+  Shared& s = *shared_;
+  std::vector<Item>& items = s.items[s.gathering];
+  s.shares[s.gathering][item.worker].push_back(static_cast<uint32_t>(items.size()));
+  items.push_back(std::move(item));
+  if (items.size() >= kBatchFrames) next_batch();
 }
 
 void ParallelFeed::datagram(unsigned long number, uint64_t time_us, const gsmtap::Datagram& d) {
@@ -170,20 +223,17 @@ void ParallelFeed::datagram(unsigned long number, uint64_t time_us, const gsmtap
   std::string why;
   unsigned worker = 0;
   if (gsmtap::parse_header(d.payload, d.length, &h, &message_at, &why))
-    worker = worker_of(CellKey(d.source, gsmtap::arfcn_number(h.arfcn)));
+    worker = worker_of(d.source, gsmtap::arfcn_number(h.arfcn));
   std::vector<uint8_t>& arena = s.arena[s.gathering];
-  s.items[s.gathering].push_back(Item{Item::kDatagram, number, time_us, worker, arena.size(), d.length, d.source,
-                                      d.source_port, d.destination_port, 0, 0, 0});
+  const size_t offset = arena.size();
   arena.insert(arena.end(), d.payload, d.payload + d.length);
-  if (s.items[s.gathering].size() >= kBatchFrames) next_batch();
+  add(Item{Item::kDatagram, number, time_us, worker, offset, d.length, d.source, d.source_port, d.destination_port});
 }
 
 void ParallelFeed::not_gsmtap() { shared_->not_gsmtap++; }
 
 void ParallelFeed::bad(unsigned long number, const std::string& why) {
-  Shared& s = *shared_;
-  s.items[s.gathering].push_back(Item{Item::kBad, number, 0, 0, 0, 0, why, 0, 0, 0, 0, 0});
-  if (s.items[s.gathering].size() >= kBatchFrames) next_batch();
+  add(Item{Item::kBad, number, 0, 0, 0, 0, why, 0, 0});
 }
 
 void ParallelFeed::finish() {
@@ -224,58 +274,116 @@ void ParallelFeed::decode_share(unsigned worker, int batch) {
   WorkerOutput& out = *s.outs[worker];
   CellFeed& feed = *s.feeds[worker];
   out.current_ = batch;
-  std::vector<Item>& items = s.items[batch];
+  out.records_ = &out.buffers_[batch].records;
+  const std::vector<Item>& items = s.items[batch];
   const std::vector<uint8_t>& arena = s.arena[batch];
   WorkerOutput::Buffers& buffers = out.buffers_[batch];
-  for (size_t i = 0; i < items.size(); i++) {
-    Item& item = items[i];
-    if (item.worker != worker) continue;
+  gsmtap::Datagram d;
+  for (const uint32_t i : s.shares[batch][worker]) {
+    const Item& item = items[i];
     out.item_ = i;
     if (item.kind == Item::kBad) {
       feed.bad(item.number, item.source);
     } else {
-      gsmtap::Datagram d;
       d.payload = arena.data() + item.offset;
       d.length = item.length;
       d.source = item.source;
       d.source_port = item.source_port;
       d.destination_port = item.destination_port;
       feed.datagram(item.number, item.time_us, d);
-      s.flush_records(worker);
     }
-    item.records_end = buffers.records.size();
-    item.text_end = buffers.text.size();
-    item.messages_end = buffers.messages.size();
+    buffers.ends.push_back(WorkerOutput::Ends{buffers.records.len, buffers.text.size(), buffers.messages.size()});
   }
 }
 
 void ParallelFeed::write_batch(int batch) {
   Shared& s = *shared_;
-  std::vector<size_t> records_at(s.workers, 0), text_at(s.workers, 0), messages_at(s.workers, 0), deferred_at(s.workers, 0);
+  if (write_records_only(batch)) return;
+  std::vector<size_t> done(s.workers, 0), deferred_at(s.workers, 0);
+  WorkerOutput::Ends zero = {0, 0, 0};
+  std::vector<const WorkerOutput::Ends*> at(s.workers, &zero);
   std::vector<Item>& items = s.items[batch];
   for (size_t i = 0; i < items.size(); i++) {
-    const Item& item = items[i];
-    const unsigned w = item.worker;
+    const unsigned w = items[i].worker;
     WorkerOutput::Buffers& b = s.outs[w]->buffers_[batch];
+    const WorkerOutput::Ends& end = b.ends[done[w]++];
     /* The text may be going where the messages go (standard error): what came before first. */
-    if (item.messages_end > messages_at[w] && s.text != nullptr) std::fflush(s.text);
-    put(s.messages, b.messages, messages_at[w], item.messages_end);
-    put(s.records, b.records, records_at[w], item.records_end);
-    put(s.text, b.text, text_at[w], item.text_end);
-    messages_at[w] = item.messages_end;
-    records_at[w] = item.records_end;
-    text_at[w] = item.text_end;
+    if (end.messages > at[w]->messages && s.text != nullptr) std::fflush(s.text);
+    put(s.messages, b.messages.data(), at[w]->messages, end.messages);
+    put(s.records, b.records.data, at[w]->records, end.records);
+    put(s.text, b.text.data(), at[w]->text, end.text);
+    at[w] = &end;
     for (size_t& k = deferred_at[w]; k < b.deferred.size() && b.deferred[k].first == i; k++) b.deferred[k].second();
   }
+  clear_batch(batch);
+}
+
+/* The usual batch has records and nothing else: its records go to the stream's file as they
+   lie in the workers' buffers, a frame's piece after the other, in a few gathered writes
+   rather than a copy of each piece into the stream's buffer and a write for every few
+   frames. Returns false, having written nothing, for any other batch or a stream that is no
+   file. */
+bool ParallelFeed::write_records_only(int batch) {
+  Shared& s = *shared_;
+  if (s.records == nullptr) return false;
+  for (auto& out : s.outs) {
+    const WorkerOutput::Buffers& b = out->buffers_[batch];
+    if (!b.text.empty() || !b.messages.empty() || !b.deferred.empty()) return false;
+  }
+  const int fd = fileno(s.records);
+  if (fd < 0) return false;
+  std::vector<iovec>& pieces = s.pieces;
+  pieces.clear();
+  std::vector<size_t> records_at(s.workers, 0), done(s.workers, 0);
+  for (const Item& item : s.items[batch]) {
+    const unsigned w = item.worker;
+    const WorkerOutput::Buffers& b = s.outs[w]->buffers_[batch];
+    const size_t end = b.ends[done[w]++].records;
+    if (end == records_at[w]) continue;
+    char* from = b.records.data + records_at[w];
+    const size_t length = end - records_at[w];
+    records_at[w] = end;
+    if (!pieces.empty() && static_cast<char*>(pieces.back().iov_base) + pieces.back().iov_len == from)
+      pieces.back().iov_len += length;
+    else
+      pieces.push_back(iovec{from, length});
+  }
+  /* What the stream holds goes first. */
+  std::fflush(s.records);
+  size_t next = 0;
+  while (next < pieces.size()) {
+    const int count = static_cast<int>(std::min<size_t>(pieces.size() - next, IOV_MAX));
+    const ssize_t n = writev(fd, &pieces[next], count);
+    if (n < 0 && errno == EINTR) continue;
+    if (n <= 0) {
+      /* The stream writes the rest and keeps the error, as it would have. */
+      for (; next < pieces.size(); next++) std::fwrite(pieces[next].iov_base, 1, pieces[next].iov_len, s.records);
+      break;
+    }
+    size_t written = static_cast<size_t>(n);
+    while (written > 0 && written >= pieces[next].iov_len) written -= pieces[next++].iov_len;
+    if (written > 0) {
+      pieces[next].iov_base = static_cast<char*>(pieces[next].iov_base) + written;
+      pieces[next].iov_len -= written;
+    }
+  }
+  clear_batch(batch);
+  return true;
+}
+
+void ParallelFeed::clear_batch(int batch) {
+  Shared& s = *shared_;
   for (auto& out : s.outs) {
     WorkerOutput::Buffers& b = out->buffers_[batch];
-    b.records.clear();
+    b.records.len = 0;
     b.text.clear();
     b.messages.clear();
     b.deferred.clear();
+    b.ends.clear();
   }
-  items.clear();
+  s.items[batch].clear();
   s.arena[batch].clear();
+  for (std::vector<uint32_t>& share : s.shares[batch]) share.clear();
 }
 
 void ParallelFeed::summary(FILE* out, unsigned long frames) const {

@@ -14,6 +14,8 @@
 
 #include <stdint.h>
 #include <stdio.h>
+#include <cstdlib>
+#include <cstring>
 
 #include <functional>
 #include <memory>
@@ -21,6 +23,23 @@
 #include <vector>
 
 #include "cell_feed.h"
+
+/* Text gathered in one block of memory that grows as needed. */
+struct TextBuffer {
+  char* data = nullptr;
+  size_t len = 0, cap = 0;
+  TextBuffer() = default;
+  ~TextBuffer() { std::free(data); }
+  TextBuffer(const TextBuffer&) = delete;
+  TextBuffer& operator=(const TextBuffer&) = delete;
+  /* Makes room for `more` octets after `len` (the process ends when memory is out). */
+  void reserve(size_t more);
+  void append(const char* s, size_t n) {
+    if (cap - len < n) reserve(n);
+    std::memcpy(data + len, s, n);
+    len += n;
+  }
+};
 
 /* What one worker writes while it decodes a batch: two sets of buffers, one for the batch
    being decoded and one for the batch before it, which the calling thread writes out
@@ -36,14 +55,23 @@ class WorkerOutput {
   FILE* records() const { return records_stream_; }
   FILE* text() const { return text_stream_; }
   FILE* messages() const { return messages_stream_; }
+  /* Where records() gathers the records of the batch being decoded: a writer that puts its
+     text there itself, without the stream, saves a copy. */
+  TextBuffer* const* records_buffer() const { return &records_; }
   /* `action` runs on the calling thread after the output of the frame being decoded. */
   void defer(std::function<void()> action) { buffers_[current_].deferred.emplace_back(item_, std::move(action)); }
 
  private:
   friend class ParallelFeed;
+  /* Where the buffers ended after a frame. */
+  struct Ends {
+    size_t records, text, messages;
+  };
   struct Buffers {
-    std::string records, text, messages;
+    TextBuffer records;
+    std::string text, messages;
     std::vector<std::pair<size_t, std::function<void()>>> deferred;
+    std::vector<Ends> ends; /* one for each frame of the worker's share, in order */
   };
   static ssize_t append_records(void* cookie, const char* buf, size_t size);
   static ssize_t append_text(void* cookie, const char* buf, size_t size);
@@ -51,6 +79,7 @@ class WorkerOutput {
 
   Buffers buffers_[2];
   int current_ = 0; /* the buffers of the batch being decoded */
+  TextBuffer* records_ = &buffers_[0].records;
   FILE* records_stream_;
   FILE* text_stream_;
   FILE* messages_stream_;
@@ -60,12 +89,10 @@ class WorkerOutput {
 class ParallelFeed : public FrameSink {
  public:
   /* `make_feed(out)` builds a worker's CellFeed, writing its records, text and messages to
-     the streams of `out`; `flush_records()` runs after each worker decoded a frame and hands
-     what the feed's output gathered to out.records(). Each batch's output goes to `records`,
-     `text` (null: none) and `messages`. */
+     the streams of `out` (or its records to out.records_buffer()) by the end of each frame.
+     Each batch's output goes to `records`, `text` (null: none) and `messages`. */
   ParallelFeed(unsigned workers, const std::function<std::unique_ptr<CellFeed>(WorkerOutput& out)>& make_feed,
-               std::function<void(unsigned worker)> flush_records, FILE* records, FILE* text, FILE* messages,
-               const char* unit);
+               FILE* records, FILE* text, FILE* messages, const char* unit);
   ~ParallelFeed() override;
   ParallelFeed(const ParallelFeed&) = delete;
   ParallelFeed& operator=(const ParallelFeed&) = delete;
@@ -87,7 +114,10 @@ class ParallelFeed : public FrameSink {
   void wait_for_workers();
   void decode_share(unsigned worker, int batch);
   void write_batch(int batch);
-  unsigned worker_of(const CellKey& key);
+  bool write_records_only(int batch);
+  void clear_batch(int batch);
+  unsigned worker_of(const std::string& source, uint16_t arfcn);
+  void add(Item&& item);
 
   std::unique_ptr<Shared> shared_;
 };

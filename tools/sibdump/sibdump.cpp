@@ -65,8 +65,13 @@ const char kUsage[] =
     "                     errors, above 5 also traces; written to standard error. Default 0.\n"
     "  --udp [[ADDRESS:]PORT]  listen for GSMTAP datagrams (as a phone-to-GSMTAP bridge sends\n"
     "                     them) on ADDRESS:PORT, default " SIBDUMP_UDP_DEFAULT "; records are written\n"
-    "                     as they are decoded until SIGINT (Ctrl-C) or SIGTERM, then a count\n"
-    "                     summary per cell goes to standard error\n"
+    "                     as they are decoded (written out whenever the socket goes quiet)\n"
+    "                     until SIGINT (Ctrl-C) or SIGTERM, then a count summary per cell\n"
+    "                     goes to standard error, with the datagrams that the kernel dropped\n"
+    "                     because they came while the receive buffer was full\n"
+    "  --udp-buffer SIZE  the receive buffer that --udp asks for, in bytes or with K or M\n"
+    "                     (KiB, MiB); default 16M. Above net.core.rmem_max it takes\n"
+    "                     CAP_NET_ADMIN; what is granted when less is said.\n"
     "  --summary[=FORMAT] instead of the records, one summary per cell once the input ends\n"
     "                     (for --udp: once interrupted): identity, access, cell selection\n"
     "                     and reselection, the broadcast schedule, common channels and\n"
@@ -113,6 +118,7 @@ struct Options {
   bool log_level_set = false;
   bool udp = false;
   const char* udp_address = nullptr; /* null: the default */
+  size_t udp_buffer = 0;             /* 0: the default */
   const char* summary = nullptr;     /* "text", "json" or "html"; null: records */
 };
 
@@ -185,6 +191,19 @@ bool parse_args(int argc, char** argv, Options* opt) {
         std::fprintf(stderr, "sibdump: --summary takes text, json or html, not '%s'\n", opt->summary);
         return false;
       }
+    } else if (take_value("--udp-buffer")) {
+      if (value == nullptr) return false;
+      char* end = nullptr;
+      errno = 0;
+      const unsigned long long size = std::strtoull(value, &end, 10);
+      const unsigned long long unit = *end == 'K' || *end == 'k' ? 1ull << 10 : *end == 'M' || *end == 'm' ? 1ull << 20 : 1;
+      if (unit != 1) end++;
+      if (*value < '0' || *value > '9' || *end != '\0' || errno != 0 || size == 0 || size > (1ull << 30) / unit) {
+        std::fprintf(stderr, "sibdump: --udp-buffer needs a size of 1 byte to 1024M (e.g. 65536, 512K, 16M), not '%s'\n",
+                     value);
+        return false;
+      }
+      opt->udp_buffer = static_cast<size_t>(size * unit);
     } else if (take_value("--asn1-text")) {
       if (value == nullptr) return false;
       opt->asn1_text = value;
@@ -217,6 +236,10 @@ bool parse_args(int argc, char** argv, Options* opt) {
   }
   if (opt->udp && (!opt->inputs.empty() || opt->sibs)) {
     std::fprintf(stderr, "sibdump: --udp reads no file and no --sibs\n");
+    return false;
+  }
+  if (opt->udp_buffer != 0 && !opt->udp) {
+    std::fprintf(stderr, "sibdump: --udp-buffer goes with --udp\n");
     return false;
   }
   return true;
@@ -293,12 +316,11 @@ bool parse_hex(const char* text, size_t length, uint8_t* out, size_t capacity, s
 /* JSON lines gathered in one buffer and written in large pieces. */
 class JsonLines {
  public:
-  explicit JsonLines(FILE* out) : out_(out), buf_(static_cast<char*>(std::malloc(kInitial))), cap_(kInitial) {}
-  ~JsonLines() { std::free(buf_); }
+  explicit JsonLines(FILE* out) : out_(out) { own_.reserve(kInitial); }
   JsonLines(const JsonLines&) = delete;
   JsonLines& operator=(const JsonLines&) = delete;
 
-  bool ok() const { return buf_ != nullptr; }
+  bool ok() const { return own_.data != nullptr; }
 
   /* Members that start every line ("input":"<name>",), or empty. */
   void set_prefix(std::string prefix) { prefix_ = std::move(prefix); }
@@ -335,17 +357,18 @@ class JsonLines {
   /* The text of `write` (a JSON writer of the library), then }\n. */
   template <class Write>
   void put_json(Write write) {
-    size_t room = cap_ - len_;
-    size_t need = write(buf_ + len_, room);
+    TextBuffer& b = **where_;
+    size_t room = b.cap - b.len;
+    size_t need = write(b.data + b.len, room);
     if (need >= room) {
       /* A record larger than the room left: write out what is gathered, grow if needed. */
       write_out();
-      reserve(need + 3);
-      need = write(buf_ + len_, cap_ - len_);
+      b.reserve(need + 3);
+      need = write(b.data + b.len, b.cap - b.len);
     }
-    len_ += need;
+    b.len += need;
     put("}\n", 2);
-    if (len_ >= kWriteAt) write_out();
+    if (b.len >= kWriteAt) write_out();
   }
 
   /* {"line":N,"block":"<name>","record": */
@@ -370,41 +393,34 @@ class JsonLines {
     put("\",\"record\":", 11);
   }
 
+  /* The lines go to the buffer at `*where` (which may change between lines) and stay there
+     for its owner to write, instead of going to the stream. */
+  void gather_in(TextBuffer* const* where) {
+    where_ = where;
+    out_ = nullptr;
+  }
+
   /* Everything gathered goes to the stream. */
   void write_out() {
-    if (len_ > 0) std::fwrite(buf_, 1, len_, out_);
-    len_ = 0;
+    if (out_ == nullptr) return;
+    if (own_.len > 0) std::fwrite(own_.data, 1, own_.len, out_);
+    own_.len = 0;
   }
 
  private:
   static constexpr size_t kInitial = 1u << 20;
   static constexpr size_t kWriteAt = 1u << 19;
 
-  void reserve(size_t more) {
-    if (cap_ - len_ >= more) return;
-    size_t cap = cap_;
-    while (cap - len_ < more) cap *= 2;
-    char* grown = static_cast<char*>(std::realloc(buf_, cap));
-    if (grown == nullptr) {
-      std::fprintf(stderr, "sibdump: out of memory\n");
-      std::exit(2);
-    }
-    buf_ = grown;
-    cap_ = cap;
-  }
   void put(const char* s, size_t n) {
-    if (cap_ - len_ < n) {
-      write_out();
-      reserve(n);
-    }
-    std::memcpy(buf_ + len_, s, n);
-    len_ += n;
+    TextBuffer& b = **where_;
+    if (b.cap - b.len < n) write_out();
+    b.append(s, n);
   }
 
-  FILE* out_;
-  char* buf_;
-  size_t cap_;
-  size_t len_ = 0;
+  FILE* out_; /* null: the lines stay in the buffer */
+  TextBuffer own_;
+  TextBuffer* own_at_ = &own_;
+  TextBuffer* const* where_ = &own_at_;
   std::string prefix_;
 };
 
@@ -676,6 +692,7 @@ int run_parallel_capture(const Options& opt, FILE* in, const char* name, const O
     std::unique_ptr<Worker> w(new Worker);
     w->set = new_set();
     w->json.reset(new JsonLines(wo.records()));
+    w->json->gather_in(wo.records_buffer());
     w->json->set_prefix(prefix);
     w->dumper.reset(new Dumper(*w->json, name, w->set));
     Dumper& d = *w->dumper;
@@ -694,7 +711,7 @@ int run_parallel_capture(const Options& opt, FILE* in, const char* name, const O
   };
   int status;
   {
-    ParallelFeed feed(jobs, make_feed, [&workers](unsigned w) { workers[w]->json->write_out(); }, out.json,
+    ParallelFeed feed(jobs, make_feed, out.json,
                       out.text, out.messages, "frame");
     status = run_capture(in, name, feed, out.messages);
   }
@@ -913,12 +930,18 @@ int main(int argc, char** argv) {
       d.summaries = &summaries;
     }
     RecordOutput output = record_output(d);
-    /* Live records reach the stream as each datagram is decoded. */
-    output.flush = [&lines, json] {
+    /* Live records reach the stream whenever the socket goes quiet. */
+    output.flush = [&lines, json, &out] {
       lines.write_out();
       std::fflush(json);
+      if (out.text != nullptr) std::fflush(out.text);
     };
-    status = run_udp(opt.udp_address, set, output, out.text);
+    UdpInput input;
+    input.address = opt.udp_address;
+    input.buffer = opt.udp_buffer;
+    input.dropped = [&summaries](uint64_t dropped) { summaries.set_dropped(dropped); };
+    summaries.set_dropped(0);
+    status = run_udp(input, set, output, out.text);
     lines.write_out();
     if (opt.summary != nullptr) summaries.finish(cells);
     umts_sib_set_free(set);
