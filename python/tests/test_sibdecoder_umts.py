@@ -32,9 +32,7 @@ def test_sample_blocks_give_the_records_of_sibdump(decoder):
             for name, record in decoder.feed_block(bytes.fromhex(text)).items()]
     theirs = sibdump(str(REPO / "samples/fdd_cell.bch"))
     assert {r["block"] for r in ours} == CYCLE
-    assert len(ours) == len(theirs)
-    for mine, dumped in zip(ours, theirs):
-        assert mine == dumped
+    assert ours == theirs
     mib = decoder.record("mib")
     assert mib == next(r["record"] for r in theirs if r["block"] == "mib")
 

@@ -1,5 +1,6 @@
 """The per-cell summary of the Python module: the same dict as sibdump --summary=json (whose
-values the tests of sibdump work out by hand), and what is missing said as missing."""
+values the tests of sibdump work out by hand, with what is missing said as missing), and the
+configurations that a new MIB value tag ends."""
 import pytest
 from conftest import REPO, sample_lines, sibdump
 
@@ -24,24 +25,7 @@ def test_summary_is_the_one_of_sibdump(sample, options):
     path = str(REPO / "samples" / sample)
     (theirs,) = sibdump("--summary=json", *options, path)
     assert fed(sample).summary(path) == theirs
-
-
-def test_missing_blocks_are_said_missing():
-    dec = sd.Decoder()
-    for _, text in sample_lines("fdd_cell_sibs.txt"):
-        sib, hex_text = text.split()
-        if sib in ("sib1", "sib3"):
-            dec.decode_sib(sib, bytes.fromhex(hex_text))
-    s = dec.summary("partial")
-    assert s["cell"] == "partial"
-    assert s["identity"]["plmn"] == {"missing": "no MIB received"}
-    assert s["schedule"] == {"missing": "no MIB received"}
-    assert s["common_channels"] == {"missing": "SIB5 not received"}
-    assert s["identity"]["lac"] == 0x4E21
-    assert s["blocks_received"] == ["sib1", "sib3"]
-    assert s["neighbours"] == {"missing": "SIB11 not received"}
-    empty = sd.Decoder().summary()
-    assert empty == {"cell": None, "missing": "no block of any cell was converted"}
+    assert sd.Decoder().summary() == {"cell": None, "missing": "no block of any cell was converted"}
 
 
 def test_new_mib_value_tag_keeps_the_ended_configuration():
