@@ -245,11 +245,9 @@ Bytes recode(const Bytes& in, Decode pd, Encode pe, Change change, uint32_t* bit
   return out;
 }
 
-/* A barred cell that sends no SB1: the barring in names, SB1 announced by the MIB but not
-   seen, and nothing of what only SB1 schedules (SIB19). */
 /* The sample's SIB3 made barred through the codec: access class 10 barred, intra-frequency
    reselection not allowed, Tbarred 80 s. A barred cell that sends no SB1: the barring in
-   names, SB1 announced by the MIB but not seen, and nothing of what only SB1 schedules. */
+   names, SB1 announced by the MIB but not seen, and nothing of what only SB1 schedules (SIB19). */
 TEST(Summary, BarredCellWithoutSb1) {
   CellBarred_barred barred{UMTS_AllowedIndicator_notAllowed, UMTS_T_Barred_s80};
   const Bytes sib3 = recode<SysInfoType3>(sample_sib("sib3"), asn1PD_UMTS_SysInfoType3, asn1PE_UMTS_SysInfoType3,

@@ -88,7 +88,7 @@ inline Outcome run_shell(const std::string& command) {
 }
 inline Outcome run_sibdump(const std::string& args) { return run_shell("'" + kSibdump + "' " + args); }
 
-/* The transport blocks of the sample cycle; its SIBs whole as (name, bytes). */
+/* The transport blocks of the sample cycle; the SIBs of a sample file whole as (name, bytes). */
 inline const std::vector<Bytes>& sample_blocks() {
   static std::vector<Bytes> blocks;
   if (blocks.empty())
@@ -96,9 +96,9 @@ inline const std::vector<Bytes>& sample_blocks() {
       if (!l.empty() && l[0] != '#') blocks.push_back(hex_bytes(l));
   return blocks;
 }
-inline std::vector<std::pair<std::string, Bytes>> sample_sibs() {
+inline std::vector<std::pair<std::string, Bytes>> sample_sibs(const std::string& file = "fdd_cell_sibs.txt") {
   std::vector<std::pair<std::string, Bytes>> sibs;
-  for (const std::string& l : lines_of(read_file(kSamples + "/fdd_cell_sibs.txt"))) {
+  for (const std::string& l : lines_of(read_file(kSamples + "/" + file))) {
     const size_t blank = l.find(' ');
     if (!l.empty() && l[0] != '#' && blank != std::string::npos) sibs.emplace_back(l.substr(0, blank), hex_bytes(l.substr(blank + 1)));
   }
