@@ -278,7 +278,7 @@ TEST(DecodeLength, FailuresLeaveThePosition) {
   }
 }
 
-TEST(DecodeString, RefusesWhatTheStorageOrBoundCannotHold) {
+TEST(StringVectors, RefusedWhenTheStorageOrBoundCannotHoldThem) {
   for (const StringVector& v : stringVectors()) {
     if (v.content.empty()) continue;
     Ctx ctx;
@@ -297,6 +297,15 @@ TEST(DecodeString, RefusesWhatTheStorageOrBoundCannotHold) {
   uint8_t data[32];
   uint32_t n;
   EXPECT_EQ(RT_ERR_CONSVIO, pd_BitString(ctx, &n, data, sizeof data));
+  // Counts outside the bounds are not written.
+  const uint8_t abc[] = {0xAA, 0xBB, 0xCC};
+  rtxInitContextBuffer(ctx, nullptr, 0);
+  setConstraint(ctx, 1, 8);
+  EXPECT_EQ(RT_ERR_CONSVIO, pe_OctetString(ctx, 0, abc));
+  EXPECT_EQ(RT_ERR_CONSVIO, pe_OctetString(ctx, 9, abc));
+  setConstraint(ctx, 28, 28);
+  EXPECT_EQ(RT_ERR_CONSVIO, pe_BitString(ctx, 27, abc));
+  EXPECT_EQ(0u, rtxBitPos(ctx));
 }
 
 TEST(BitString32, BothWays) {
@@ -409,18 +418,6 @@ TEST(DecodeDynBits, FragmentedAtAnOffset) {
   want.push_back(0xA0);
   EXPECT_TRUE(sameBytes(want.data(), bs.data, want.size()));
   EXPECT_EQ(3 + nbits, rtxBitPos(ctx));
-}
-
-TEST(EncodeString, OutsideTheBounds) {
-  const uint8_t abc[] = {0xAA, 0xBB, 0xCC};
-  Ctx ctx;
-  rtxInitContextBuffer(ctx, nullptr, 0);
-  setConstraint(ctx, 1, 8);
-  EXPECT_EQ(RT_ERR_CONSVIO, pe_OctetString(ctx, 0, abc));
-  EXPECT_EQ(RT_ERR_CONSVIO, pe_OctetString(ctx, 9, abc));
-  setConstraint(ctx, 28, 28);
-  EXPECT_EQ(RT_ERR_CONSVIO, pe_BitString(ctx, 27, abc));
-  EXPECT_EQ(0u, rtxBitPos(ctx));
 }
 
 TEST(EncodeBuffer, FixedBufferOverflow) {
