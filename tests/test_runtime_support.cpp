@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <cstring>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -241,6 +242,12 @@ TEST(ErrorRecord, ParametersAndText) {
   EXPECT_EQ(RT_ERR_INVPARAM, rtxErrAddElemNameParm(fresh));  // no name to add
   rtxErrGetText(fresh, buf, sizeof buf);
   EXPECT_STREQ("status 0 (no error)", buf);
+  // Every status has a text of its own, and a status of no name says so.
+  std::set<std::string> texts;
+  for (int status : {0, RT_ERR_BUFOVFLW, RT_ERR_ENDOFBUF, RT_ERR_INVPARAM, RT_ERR_INVENUM, RT_ERR_NOTINIT, RT_ERR_INVOPT,
+                     RT_ERR_NOMEM, RT_ERR_BADLEN, RT_ERR_CONSVIO})
+    texts.insert(rtxErrStatusText(status));
+  EXPECT_EQ(10u, texts.size());
   EXPECT_STREQ("unknown status", rtxErrStatusText(-12345));
 }
 

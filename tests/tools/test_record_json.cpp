@@ -211,11 +211,8 @@ TEST(SibJson, WritesLikeSnprintf) {
   std::vector<char> buf(mib.size() + 1, 'x');
   EXPECT_EQ(umts_sib_record_json(&set, umts_sib_mib, buf.data(), buf.size()), mib.size());
   EXPECT_EQ(std::string(buf.data()), mib);
-  /* Too short by one: the text is cut, still ended by a null, and the length says so. */
-  std::fill(buf.begin(), buf.end(), 'x');
-  EXPECT_EQ(umts_sib_record_json(&set, umts_sib_mib, buf.data(), mib.size()), mib.size());
-  EXPECT_EQ(std::string(buf.data()), mib.substr(0, mib.size() - 1));
-  /* Cut at every length (the nested objects' opening braces among the cuts). */
+  /* Cut at every length, down to one short (the nested objects' opening braces among the
+     cuts): the text is cut, still ended by a null, and the length says so. */
   for (size_t size = 1; size <= mib.size(); size++) {
     std::vector<char> small(size + 1, 'x');
     EXPECT_EQ(umts_sib_record_json(&set, umts_sib_mib, small.data(), size), mib.size());
