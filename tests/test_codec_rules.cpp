@@ -7,23 +7,13 @@
 #include <sstream>
 
 #include "codec_test_util.h"
+#include "runtime_test_util.h"
 
 using testutil::fromHex;
 using testutil::toHex;
+using rt_test::Ctx;
 
 namespace {
-
-struct Ctx {
-  rtxContext c;
-  Ctx() { rtInitContext(&c); }
-  ~Ctx() { rtFreeContext(&c); }
-  rtxContext* operator&() { return &c; }
-  std::string path() {
-    char buf[512];
-    rtxCtxtGetPath(&c, buf, sizeof buf);
-    return buf;
-  }
-};
 
 // gsm-MAP, MCC 234, MNC 15:
 // 00 | 0010 0011 0100 | 0 | 0001 0101  -> 0000 1000  1101 0000  0010 101(0)
@@ -32,9 +22,9 @@ const std::vector<uint8_t> kPlmnGsmMap = {0x08, 0xD0, 0x2A};
 TEST(CodecPatterns, PlmnTypeGsmMapFromHandComputedBits) {
   Ctx ctx;
   PLMN_Type v{};
-  pu_setBuffer(&ctx, kPlmnGsmMap.data(), 3, 0);
-  ASSERT_EQ(asn1PD_UMTS_PLMN_Type(&ctx, &v), 0);
-  EXPECT_EQ(rtxBitPos(&ctx), 23u);
+  pu_setBuffer(ctx, kPlmnGsmMap.data(), 3, 0);
+  ASSERT_EQ(asn1PD_UMTS_PLMN_Type(ctx, &v), 0);
+  EXPECT_EQ(rtxBitPos(ctx), 23u);
   ASSERT_EQ(v.t, 1u);
   const PLMN_Identity& id = v.u.gsm_MAP->plmn_Identity;
   ASSERT_EQ(id.mcc.n, 3u);
@@ -46,35 +36,33 @@ TEST(CodecPatterns, PlmnTypeGsmMapFromHandComputedBits) {
   EXPECT_EQ(id.mnc.elem[1], 5);
 
   Ctx enc;
-  ASSERT_EQ(rtxInitContextBuffer(&enc, nullptr, 0), 0);
-  ASSERT_EQ(asn1PE_UMTS_PLMN_Type(&enc, &v), 0);
-  EXPECT_EQ(rtxBitPos(&enc), 23u);
-  EXPECT_EQ(toHex(enc.c.buffer_data, pu_getMsgLen(&enc)), "08d02a");
+  ASSERT_EQ(rtxInitContextBuffer(enc, nullptr, 0), 0);
+  ASSERT_EQ(asn1PE_UMTS_PLMN_Type(enc, &v), 0);
+  EXPECT_EQ(rtxBitPos(enc), 23u);
+  EXPECT_EQ(toHex(enc->buffer_data, pu_getMsgLen(enc)), "08d02a");
 }
 
-TEST(CodecPatterns, PlmnTypeSpareReadsNothingMore) {
-  Ctx ctx;
-  PLMN_Type v{};
-  const uint8_t bits[] = {0xC0};  // index 3
-  pu_setBuffer(&ctx, bits, 1, 0);
-  ASSERT_EQ(asn1PD_UMTS_PLMN_Type(&ctx, &v), 0);
-  EXPECT_EQ(v.t, 4u);
-  EXPECT_EQ(rtxBitPos(&ctx), 2u);
-}
-
-TEST(CodecPatterns, MncCountBitGivesTwoOrThreeDigits) {
-  struct Case {
-    uint8_t bytes[2];
-    uint32_t n;
+// How many bits a type reads, and what it makes of them: the count bit of an MNC, the spare
+// alternative of a PLMN-Type (nothing after its index), an enumerated type of one name (no
+// bits at all), a list of lower size 0 with no elements (its count only).
+TEST(CodecPatterns, BitsReadPerType) {
+  const struct {
+    const char* type;
+    const char* hex;
     uint64_t bits;
-  } cases[] = {{{0x09, 0x00}, 2, 9}, {{0x80, 0x00}, 3, 13}};  // 0 0001 0010 / 1 0000 0000 0000
-  for (const Case& c : cases) {
-    Ctx ctx;
-    MNC v{};
-    pu_setBuffer(&ctx, c.bytes, 2, 0);
-    ASSERT_EQ(asn1PD_UMTS_MNC(&ctx, &v), 0);
-    EXPECT_EQ(v.n, c.n);
-    EXPECT_EQ(rtxBitPos(&ctx), c.bits);
+    const char* printed;
+  } cases[] = {
+      {"MNC", "0900", 9, "value[0] = 1\nvalue[1] = 2\n"},  // 0 0001 0010: two digits
+      {"MNC", "8000", 13, "value[0] = 0\nvalue[1] = 0\nvalue[2] = 0\n"},  // 1 0000 0000 0000: three
+      {"PLMN-Type", "c0", 2, "value {\n   spare = NULL\n}\n"},  // index 3
+      {"IntegrityProtectionAlgorithm", "ff", 0, "value = uia1\n"},
+      {"UL-CCTrChTPCList", "00", 4, ""},  // count 0 in 4 bits
+  };
+  for (const auto& c : cases) {
+    testutil::Decoded d;
+    ASSERT_EQ(testutil::decode(umts_type_lookup(c.type), fromHex(c.hex), d), 0) << c.type;
+    EXPECT_EQ(rtxBitPos(&d.ctx), c.bits) << c.type;
+    EXPECT_EQ(testutil::print(d.type, d.value()), c.printed) << c.type;
   }
 }
 
@@ -84,8 +72,8 @@ TEST(CodecPatterns, RealBchTransportBlock) {
   auto block = fromHex("a143f686e52a22282f36928cc1852026d2519830afacda4a330614909b4944");
   Ctx ctx;
   BCCH_BCH_Message msg{};
-  pu_setBuffer(&ctx, block.data(), static_cast<uint32_t>(block.size()), 0);
-  ASSERT_EQ(asn1PD_UMTS_BCCH_BCH_Message(&ctx, &msg), 0);
+  pu_setBuffer(ctx, block.data(), static_cast<uint32_t>(block.size()), 0);
+  ASSERT_EQ(asn1PD_UMTS_BCCH_BCH_Message(ctx, &msg), 0);
   EXPECT_EQ(msg.message.sfn_Prime, 1290);
   ASSERT_EQ(msg.message.payload.t, 2u);
   const FirstSegment* seg = msg.message.payload.u.firstSegment;
@@ -94,34 +82,12 @@ TEST(CodecPatterns, RealBchTransportBlock) {
   EXPECT_EQ(seg->seg_Count, 7);
   EXPECT_EQ(seg->sib_Data_fixed.numbits, 222u);
   EXPECT_EQ(toHex(seg->sib_Data_fixed.data, 28), "86e52a22282f36928cc1852026d2519830afacda4a330614909b4944");
-  EXPECT_EQ(rtxBitPos(&ctx), 246u);
+  EXPECT_EQ(rtxBitPos(ctx), 246u);
 
   Ctx enc;
-  ASSERT_EQ(rtxInitContextBuffer(&enc, nullptr, 0), 0);
-  ASSERT_EQ(asn1PE_UMTS_BCCH_BCH_Message(&enc, &msg), 0);
-  EXPECT_EQ(toHex(enc.c.buffer_data, pu_getMsgLen(&enc)), toHex(block.data(), block.size()));
-}
-
-TEST(CodecPatterns, SingleNameEnumeratedReadsNoBits) {
-  Ctx ctx;
-  IntegrityProtectionAlgorithm v = 7;
-  const uint8_t byte = 0xFF;
-  pu_setBuffer(&ctx, &byte, 1, 0);
-  ASSERT_EQ(asn1PD_UMTS_IntegrityProtectionAlgorithm(&ctx, &v), 0);
-  EXPECT_EQ(v, 0u);
-  EXPECT_EQ(rtxBitPos(&ctx), 0u);
-}
-
-TEST(CodecPatterns, ListWithLowerSizeZeroAndNoElements) {
-  Ctx ctx;
-  UL_CCTrChTPCList v;
-  v.count = 99;
-  const uint8_t byte = 0x00;  // 4 bits of count 0
-  pu_setBuffer(&ctx, &byte, 1, 0);
-  ASSERT_EQ(asn1PD_UMTS_UL_CCTrChTPCList(&ctx, &v), 0);
-  EXPECT_EQ(v.count, 0u);
-  EXPECT_EQ(v.head, nullptr);
-  EXPECT_EQ(rtxBitPos(&ctx), 4u);
+  ASSERT_EQ(rtxInitContextBuffer(enc, nullptr, 0), 0);
+  ASSERT_EQ(asn1PE_UMTS_BCCH_BCH_Message(enc, &msg), 0);
+  EXPECT_EQ(toHex(enc->buffer_data, pu_getMsgLen(enc)), toHex(block.data(), block.size()));
 }
 
 TEST(CodecDefaults, AbsentDefaultsTakeTheirValuesAndEqualValuesStayOffTheWire) {
@@ -131,11 +97,11 @@ TEST(CodecDefaults, AbsentDefaultsTakeTheirValuesAndEqualValuesStayOffTheWire) {
   UE_ConnTimersAndConstants zeroed{}, initialised;
   std::memset(&initialised, 0xA5, sizeof initialised);
   asn1Init_UMTS_UE_ConnTimersAndConstants(&initialised);
-  pu_setBuffer(&a, zeros, 3, 0);
-  pu_setBuffer(&b, zeros, 3, 0);
-  ASSERT_EQ(asn1PD_UMTS_UE_ConnTimersAndConstants(&a, &zeroed), 0);
-  ASSERT_EQ(asn1PD_UMTS_UE_ConnTimersAndConstants(&b, &initialised), 0);
-  EXPECT_EQ(rtxBitPos(&a), 22u);
+  pu_setBuffer(a, zeros, 3, 0);
+  pu_setBuffer(b, zeros, 3, 0);
+  ASSERT_EQ(asn1PD_UMTS_UE_ConnTimersAndConstants(a, &zeroed), 0);
+  ASSERT_EQ(asn1PD_UMTS_UE_ConnTimersAndConstants(b, &initialised), 0);
+  EXPECT_EQ(rtxBitPos(a), 22u);
   EXPECT_EQ(zeroed.t_301, UMTS_T_301_ms2000);
   EXPECT_EQ(zeroed.t_301, 10u);
   EXPECT_EQ(zeroed.n_301, 2);
@@ -144,30 +110,30 @@ TEST(CodecDefaults, AbsentDefaultsTakeTheirValuesAndEqualValuesStayOffTheWire) {
   EXPECT_EQ(testutil::print(info, &zeroed), testutil::print(info, &initialised));
 
   Ctx enc;
-  rtxInitContextBuffer(&enc, nullptr, 0);
-  ASSERT_EQ(asn1PE_UMTS_UE_ConnTimersAndConstants(&enc, &zeroed), 0);
-  EXPECT_EQ(rtxBitPos(&enc), 22u) << "values equal to their defaults are left out";
+  rtxInitContextBuffer(enc, nullptr, 0);
+  ASSERT_EQ(asn1PE_UMTS_UE_ConnTimersAndConstants(enc, &zeroed), 0);
+  EXPECT_EQ(rtxBitPos(enc), 22u) << "values equal to their defaults are left out";
 }
 
 TEST(CodecFailures, ChoiceIndexAboveTheLastAlternative) {
   Ctx ctx;
   OctetModeRLC_SizeInfoType1 v{};
   const uint8_t bits = 0xC0;  // index 3 of 3 alternatives
-  pu_setBuffer(&ctx, &bits, 1, 0);
-  EXPECT_EQ(asn1PD_UMTS_OctetModeRLC_SizeInfoType1(&ctx, &v), RT_ERR_INVOPT);
+  pu_setBuffer(ctx, &bits, 1, 0);
+  EXPECT_EQ(asn1PD_UMTS_OctetModeRLC_SizeInfoType1(ctx, &v), RT_ERR_INVOPT);
   EXPECT_EQ(v.t, 4u) << "t is stored before the index is tested";
-  EXPECT_EQ(ctx.c.err.status, RT_ERR_INVOPT);
+  EXPECT_EQ(ctx->err.status, RT_ERR_INVOPT);
 }
 
 TEST(CodecFailures, ArrayCountOutsideItsSizeKeepsPrintInBounds) {
   Ctx ctx;
   PersistenceScalingFactorList v{};
   const uint8_t bits = 0xE0;  // count field 7: 8 elements of at most 6
-  pu_setBuffer(&ctx, &bits, 1, 0);
-  EXPECT_EQ(asn1PD_UMTS_PersistenceScalingFactorList(&ctx, &v), RT_ERR_CONSVIO);
+  pu_setBuffer(ctx, &bits, 1, 0);
+  EXPECT_EQ(asn1PD_UMTS_PersistenceScalingFactorList(ctx, &v), RT_ERR_CONSVIO);
   EXPECT_EQ(v.n, 8u);
   char err[512];
-  rtxErrGetText(&ctx, err, sizeof err);
+  rtxErrGetText(ctx, err, sizeof err);
   EXPECT_NE(std::string(err).find("8"), std::string::npos) << err;
   // Printing a record left by a failed decode reads no further than the array's storage.
   std::string text = testutil::capturePrint([&] { asn1Print_UMTS_PersistenceScalingFactorList("list", &v); });
@@ -178,42 +144,44 @@ TEST(CodecFailures, ArrayCountOutsideItsSizeKeepsPrintInBounds) {
 TEST(CodecFailures, HeapExhaustionIsReportedWithThePathAtTheFailingElement) {
   auto block = fromHex("a143f686e52a22282f36928cc1852026d2519830afacda4a330614909b4944");
   Ctx ctx;
-  rtxMemHeapSetLimit(&ctx, 8);
+  rtxMemHeapSetLimit(ctx, 8);
   BCCH_BCH_Message msg{};
-  pu_setBuffer(&ctx, block.data(), static_cast<uint32_t>(block.size()), 0);
-  EXPECT_EQ(asn1PD_UMTS_BCCH_BCH_Message(&ctx, &msg), RT_ERR_NOMEM);
-  EXPECT_EQ(ctx.path(), "BCCH-BCH-Message.message.SystemInformation-BCH.payload.firstSegment");
-  EXPECT_GE(ctx.c.err.nlocs, 3u) << "each level adds its own position";
+  pu_setBuffer(ctx, block.data(), static_cast<uint32_t>(block.size()), 0);
+  EXPECT_EQ(asn1PD_UMTS_BCCH_BCH_Message(ctx, &msg), RT_ERR_NOMEM);
+  char path[512];
+  rtxCtxtGetPath(ctx, path, sizeof path);
+  EXPECT_STREQ(path, "BCCH-BCH-Message.message.SystemInformation-BCH.payload.firstSegment");
+  EXPECT_GE(ctx->err.nlocs, 3u) << "each level adds its own position";
 }
 
 TEST(CodecFailures, EncoderTestsValuesBeforeWriting) {
   Ctx enc;
-  rtxInitContextBuffer(&enc, nullptr, 0);
-  EXPECT_EQ(asn1PE_UMTS_Digit(&enc, 10), RT_ERR_CONSVIO);
-  EXPECT_EQ(rtxBitPos(&enc), 0u);
-  EXPECT_EQ(asn1PE_UMTS_SIB_Type(&enc, 32), RT_ERR_INVENUM);
-  EXPECT_EQ(asn1PE_UMTS_IntegrityProtectionAlgorithm(&enc, 1), RT_ERR_INVENUM);
-  EXPECT_EQ(asn1PE_UMTS_MIB_ValueTag(&enc, 0), RT_ERR_CONSVIO);
-  EXPECT_EQ(asn1PE_UMTS_MIB_ValueTag(&enc, 9), RT_ERR_CONSVIO);
-  EXPECT_EQ(rtxBitPos(&enc), 0u);
+  rtxInitContextBuffer(enc, nullptr, 0);
+  EXPECT_EQ(asn1PE_UMTS_Digit(enc, 10), RT_ERR_CONSVIO);
+  EXPECT_EQ(rtxBitPos(enc), 0u);
+  EXPECT_EQ(asn1PE_UMTS_SIB_Type(enc, 32), RT_ERR_INVENUM);
+  EXPECT_EQ(asn1PE_UMTS_IntegrityProtectionAlgorithm(enc, 1), RT_ERR_INVENUM);
+  EXPECT_EQ(asn1PE_UMTS_MIB_ValueTag(enc, 0), RT_ERR_CONSVIO);
+  EXPECT_EQ(asn1PE_UMTS_MIB_ValueTag(enc, 9), RT_ERR_CONSVIO);
+  EXPECT_EQ(rtxBitPos(enc), 0u);
   PLMN_Type none{};  // t = 0 reaches the runtime as a huge index
-  int stat = asn1PE_UMTS_PLMN_Type(&enc, &none);
+  int stat = asn1PE_UMTS_PLMN_Type(enc, &none);
   EXPECT_LT(stat, 0);
   EXPECT_NE(stat, RT_ERR_INVOPT);
 }
 
 TEST(CodecFailures, NamedBitStringIsWrittenAtItsFullSize) {
   Ctx enc;
-  rtxInitContextBuffer(&enc, nullptr, 0);
+  rtxInitContextBuffer(enc, nullptr, 0);
   AvailableSubChannelNumbers v{};
   v.numbits = 5;
   v.data[0] = 0xA8;  // 10101
-  ASSERT_EQ(asn1PE_UMTS_AvailableSubChannelNumbers(&enc, v), 0);
-  EXPECT_EQ(rtxBitPos(&enc), 12u);
+  ASSERT_EQ(asn1PE_UMTS_AvailableSubChannelNumbers(enc, v), 0);
+  EXPECT_EQ(rtxBitPos(enc), 12u);
   Ctx dec;
   AvailableSubChannelNumbers back{};
-  pu_setBuffer(&dec, enc.c.buffer_data, pu_getMsgLen(&enc), 0);
-  ASSERT_EQ(asn1PD_UMTS_AvailableSubChannelNumbers(&dec, &back), 0);
+  pu_setBuffer(dec, enc->buffer_data, pu_getMsgLen(enc), 0);
+  ASSERT_EQ(asn1PD_UMTS_AvailableSubChannelNumbers(dec, &back), 0);
   EXPECT_EQ(back.numbits, 12u);
   EXPECT_EQ(back.data[0], 0xA8);
 }
@@ -231,10 +199,10 @@ TEST(CodecFailures, ListCountBeyondItsChainWritesOnlyTheChain) {
   rtxDListAppendNode(&list, &node);
   list.count = 2;
   Ctx enc;
-  rtxInitContextBuffer(&enc, nullptr, 0);
-  ASSERT_EQ(asn1PE_UMTS_SIBSb_ReferenceList(&enc, &list), 0);
+  rtxInitContextBuffer(enc, nullptr, 0);
+  ASSERT_EQ(asn1PE_UMTS_SIBSb_ReferenceList(enc, &list), 0);
   // 5 bits of count (1), then one element: 5 bits of choice, 2 presence bits, 4 + 1 bits.
-  EXPECT_EQ(rtxBitPos(&enc), 5u + 5u + 2u + 4u + 1u);
+  EXPECT_EQ(rtxBitPos(enc), 5u + 5u + 2u + 4u + 1u);
 }
 
 // Cutting a valid encoding short at every byte fails cleanly: end of buffer, a path that
@@ -314,20 +282,20 @@ TEST(CodecNames, LookupsBothWays) {
 
   Ctx ctx;
   uint32_t v = 77;
-  EXPECT_EQ(UMTS_TFCI_Coding_ToEnum(&ctx, "tfci-bits-8", &v), 0);
+  EXPECT_EQ(UMTS_TFCI_Coding_ToEnum(ctx, "tfci-bits-8", &v), 0);
   EXPECT_EQ(v, 1u) << "the entry stands at place 3, its value is 1";
-  EXPECT_EQ(UMTS_SIB_Type_ToEnum(&ctx, "systemInformationBlockType15-5", &v), 0);
+  EXPECT_EQ(UMTS_SIB_Type_ToEnum(ctx, "systemInformationBlockType15-5", &v), 0);
   EXPECT_EQ(v, 29u);
   v = 77;
-  EXPECT_EQ(UMTS_TFCI_Coding_ToEnum(&ctx, "", &v), RT_ERR_INVENUM);
-  EXPECT_EQ(UMTS_TFCI_Coding_ToEnum(&ctx, "tfci_bits_8", &v), RT_ERR_INVENUM);
-  EXPECT_EQ(UMTS_TFCI_Coding_ToEnum(&ctx, "TFCI-bits-8", &v), RT_ERR_INVENUM);
+  EXPECT_EQ(UMTS_TFCI_Coding_ToEnum(ctx, "", &v), RT_ERR_INVENUM);
+  EXPECT_EQ(UMTS_TFCI_Coding_ToEnum(ctx, "tfci_bits_8", &v), RT_ERR_INVENUM);
+  EXPECT_EQ(UMTS_TFCI_Coding_ToEnum(ctx, "TFCI-bits-8", &v), RT_ERR_INVENUM);
   EXPECT_EQ(v, 77u) << "a failed lookup leaves the value";
   // ToEnum2 takes a length: the text need not end in a null.
   const char text[] = {'t', 'f', 'c', 'i', '-', 'b', 'i', 't', 's', '-', '1', '6', 'X'};
-  EXPECT_EQ(UMTS_TFCI_Coding_ToEnum2(&ctx, text, 12, &v), 0);
+  EXPECT_EQ(UMTS_TFCI_Coding_ToEnum2(ctx, text, 12, &v), 0);
   EXPECT_EQ(v, 2u);
-  EXPECT_EQ(UMTS_TFCI_Coding_ToEnum2(&ctx, text, 13, &v), RT_ERR_INVENUM);
+  EXPECT_EQ(UMTS_TFCI_Coding_ToEnum2(ctx, text, 13, &v), RT_ERR_INVENUM);
 }
 
 TEST(CodecInit, NullPointerIsIgnored) {

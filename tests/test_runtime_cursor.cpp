@@ -83,22 +83,16 @@ TEST(DecodeCursor, ConstrainedReadOutOfRangeTakesNoBits) {
   EXPECT_EQ(15, v);
 }
 
-// A fixed buffer of `size` bytes inside guard bytes; writes from bit `start` after the bits
-// already written there through the context.
-struct EncodeCase {
-  Bytes area;
-  Bytes model;
-  uint64_t pos;
-  static constexpr size_t kGuard = 16;
-};
+// Guard bytes on either side of a fixed buffer.
+constexpr size_t kGuard = 16;
 
 TEST(EncodeCursor, WriteSequencesMatchTheModelAndStopAtTheEnd) {
   std::mt19937 rng(25331);
   for (uint32_t size = 1; size <= 24; size++) {
     for (int round = 0; round < 40; round++) {
       SCOPED_TRACE(testing::Message() << "size " << size << " round " << round);
-      Bytes area(size + 2 * EncodeCase::kGuard, 0xA5);
-      uint8_t* data = area.data() + EncodeCase::kGuard;
+      Bytes area(size + 2 * kGuard, 0xA5);
+      uint8_t* data = area.data() + kGuard;
       Ctx ctx;
       ASSERT_EQ(0, rtxInitContextBuffer(ctx, data, size));
       Bytes model(size, 0);
@@ -125,7 +119,7 @@ TEST(EncodeCursor, WriteSequencesMatchTheModelAndStopAtTheEnd) {
       EXPECT_EQ((pos + 7) / 8, pu_getMsgLen(ctx));
       // Every bit written is the model's, the rest of the buffer is zero, the guards untouched.
       EXPECT_EQ(model, Bytes(data, data + size));
-      for (size_t i = 0; i < EncodeCase::kGuard; i++) {
+      for (size_t i = 0; i < kGuard; i++) {
         EXPECT_EQ(0xA5, area[i]);
         EXPECT_EQ(0xA5, area[area.size() - 1 - i]);
       }

@@ -12,11 +12,10 @@ import tempfile
 from pathlib import Path
 
 import pytest
+from conftest import PYTHON_DIR, REPO
 
 pytest.importorskip("dask.distributed", reason="no Dask (apt-get install python3-dask python3-distributed)")
 
-PYTHON_DIR = Path(__file__).resolve().parents[1]
-REPO = PYTHON_DIR.parent
 sys.path.insert(0, str(REPO / "tools" / "sibdump"))
 import mkarchive  # noqa: E402
 

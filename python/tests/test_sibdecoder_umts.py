@@ -6,7 +6,6 @@ repository they default to the build tree build/:
   SIBDECODER_UMTS_LIBRARY  the library to test        SIBDUMP  sibdump of the same build
   UMTS_BUILD_DIR           the build tree to install  CMAKE_COMMAND  cmake
 """
-import json
 import os
 import runpy
 import shutil
@@ -15,15 +14,10 @@ import sys
 from pathlib import Path
 
 import pytest
-
-PYTHON_DIR = Path(__file__).resolve().parents[1]
-REPO = PYTHON_DIR.parent
-sys.path.insert(0, str(PYTHON_DIR))  # the module of this source tree
+from conftest import BUILD, PYTHON_DIR, REPO, sample_blocks, sample_lines, sibdump
 
 import sibdecoder_umts as sd  # noqa: E402
 
-BUILD = Path(os.environ.get("UMTS_BUILD_DIR", REPO / "build"))
-SIBDUMP = Path(os.environ.get("SIBDUMP", BUILD / "tools/sibdump/sibdump"))
 CYCLE = {"mib", "sib1", "sib2", "sib3", "sib5", "sib7", "sib11", "sib11bis", "sib12", "sib18", "sb1"}
 
 
@@ -32,30 +26,13 @@ def decoder():
     return sd.Decoder()  # one result record for the whole module: it is large
 
 
-def sample_lines(name):
-    """(line number, text) of the non-comment lines of a sample, numbered as sibdump does."""
-    for number, text in enumerate((REPO / "samples" / name).read_text().splitlines(), 1):
-        text = text.split("#", 1)[0].strip()
-        if text:
-            yield number, text
-
-
-def sibdump(*args):
-    if not SIBDUMP.is_file():
-        pytest.skip(f"no sibdump at {SIBDUMP}")
-    out = subprocess.run([str(SIBDUMP), *args], check=True, capture_output=True, text=True).stdout
-    return [json.loads(line) for line in out.splitlines()]
-
-
 def test_sample_blocks_give_the_records_of_sibdump(decoder):
     ours = [{"line": number, "block": name, "record": record}
             for number, text in sample_lines("fdd_cell.bch")
             for name, record in decoder.feed_block(bytes.fromhex(text)).items()]
     theirs = sibdump(str(REPO / "samples/fdd_cell.bch"))
     assert {r["block"] for r in ours} == CYCLE
-    assert len(ours) == len(theirs)
-    for mine, dumped in zip(ours, theirs):
-        assert mine == dumped
+    assert ours == theirs
     mib = decoder.record("mib")
     assert mib == next(r["record"] for r in theirs if r["block"] == "mib")
 
@@ -117,7 +94,7 @@ def test_undecodable_input_is_reported_and_loses_nothing(decoder):
 
 def late_stream():
     """The sample cycle heard from its sixth block on: it starts with parts of SIBs never begun."""
-    blocks = [bytes.fromhex(t) for _, t in sample_lines("fdd_cell.bch")]
+    blocks = sample_blocks()
     return blocks[5:] + blocks
 
 

@@ -2,20 +2,11 @@
 import concurrent.futures
 import multiprocessing
 import os
-import sys
 import threading
-from pathlib import Path
 
-PYTHON_DIR = Path(__file__).resolve().parents[1]
-REPO = PYTHON_DIR.parent
-sys.path.insert(0, str(PYTHON_DIR))
+from conftest import sample_blocks as blocks
 
 import sibdecoder_umts as sd  # noqa: E402
-
-
-def blocks(name="fdd_cell.bch"):
-    lines = (REPO / "samples" / name).read_text().splitlines()
-    return [bytes.fromhex(t) for t in (line.split("#", 1)[0].strip() for line in lines) if t]
 
 
 def stream_records(offset=0):

@@ -2,6 +2,7 @@
 // on a thread of its own, give each stream the records that a lone decoder gives it.
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <cstdio>
 #include <cstring>
 #include <fstream>
@@ -30,25 +31,18 @@ struct Output {
   bool operator==(const Output& o) const { return status == o.status && records == o.records; }
 };
 
-std::vector<Input> blocksOf(const std::string& file) {
+// The lines of a sample: transport blocks (sib < 0) of a .bch file, else whole SIBs of slots.
+std::vector<Input> sample(const std::string& file) {
   std::ifstream in(std::string(UMTS_SAMPLES_DIR) + "/" + file);
-  std::vector<Input> out;
-  for (std::string line; std::getline(in, line);) {
-    if (line.empty() || line[0] == '#') continue;
-    out.push_back({-1, frametest::fromHex(line)});
-  }
-  return out;
-}
-
-std::vector<Input> sibsOf(const std::string& file) {
-  std::ifstream in(std::string(UMTS_SAMPLES_DIR) + "/" + file);
+  const bool blocks = file.find(".bch") != std::string::npos;
   std::vector<Input> out;
   for (std::string line; std::getline(in, line);) {
     std::istringstream words(line);
     std::string name, hex;
-    if (!(words >> name >> hex) || name[0] == '#') continue;
-    const umts_sib_id id = umts_sib_id_of_name(name.c_str(), name.size());
-    if (id != umts_sib_count) out.push_back({static_cast<int>(id), frametest::fromHex(hex)});
+    if (line.empty() || line[0] == '#' || !(words >> name) || (!blocks && !(words >> hex))) continue;
+    const umts_sib_id id = blocks ? umts_sib_count : umts_sib_id_of_name(name.c_str(), name.size());
+    if (blocks) out.push_back({-1, frametest::fromHex(name)});
+    else if (id != umts_sib_count) out.push_back({static_cast<int>(id), frametest::fromHex(hex)});
   }
   return out;
 }
@@ -58,12 +52,12 @@ std::vector<Input> sibsOf(const std::string& file) {
 // damaged input: blocks cut short, noise, refused SIB slots, a SIB that fails to decode.
 std::vector<std::vector<Input>> streams() {
   std::vector<std::vector<Input>> s;
-  s.push_back(blocksOf("fdd_cell.bch"));
+  s.push_back(sample("fdd_cell.bch"));
   std::vector<Input> late(s[0].begin() + 5, s[0].end());
   late.insert(late.end(), s[0].begin(), s[0].end());
   s.push_back(late);
-  s.push_back(sibsOf("fdd_cell_sibs.txt"));
-  s.push_back(sibsOf("tdd128_cell_sibs.txt"));
+  s.push_back(sample("fdd_cell_sibs.txt"));
+  s.push_back(sample("tdd128_cell_sibs.txt"));
   std::vector<Input> bad;
   for (const Input& b : s[0]) {
     bad.push_back({-1, std::vector<uint8_t>(b.bytes.begin(), b.bytes.begin() + 7)});
@@ -90,21 +84,12 @@ uint64_t digest(const void* p, size_t n) {
   return h;
 }
 
+// The sub-record of slot `id` in the set, from the set's field list.
 std::pair<const void*, size_t> subRecord(const umts_sib_set* s, unsigned id) {
-  switch (id) {
-    case umts_sib_mib: return {&s->mib, sizeof s->mib};
-    case umts_sib_sib1: return {&s->sib1, sizeof s->sib1};
-    case umts_sib_sib2: return {&s->sib2, sizeof s->sib2};
-    case umts_sib_sib3: return {&s->sib3, sizeof s->sib3};
-    case umts_sib_sib5: return {&s->sib5, sizeof s->sib5};
-    case umts_sib_sib7: return {&s->sib7, sizeof s->sib7};
-    case umts_sib_sib11: return {&s->sib11, sizeof s->sib11};
-    case umts_sib_sib11bis: return {&s->sib11bis, sizeof s->sib11bis};
-    case umts_sib_sib12: return {&s->sib12, sizeof s->sib12};
-    case umts_sib_sib18: return {&s->sib18, sizeof s->sib18};
-    case umts_sib_sb1: return {&s->sb1, sizeof s->sb1};
-    default: return {&s->sb2, sizeof s->sb2};
-  }
+#define SPAN(kind, type, name, dim, cond, aux) {offsetof(umts_sib_set, name), sizeof(type)},
+  static const std::pair<size_t, size_t> spans[] = {umts_sib_set_FIELDS(SPAN)};
+#undef SPAN
+  return {reinterpret_cast<const uint8_t*>(s) + spans[id + 1].first, spans[id + 1].second};
 }
 
 // Feeds one input to `d` (the global entries for null) and notes what the call converted.

@@ -14,6 +14,7 @@
 #include <memory>
 #include <vector>
 
+#include "codec_test_util.h"
 #include "umts_rrc_registry.h"
 #include "umts_sib_decoder.h"
 #include "umts_sib_frame.h"
@@ -64,15 +65,12 @@ umts_sib_set* librarySet() {
   return record;
 }
 
-// Where each block's record lies in the set, by slot.
+// Where each block's record lies in the set: after the presence word, by slot.
 struct RecordSpan {
   size_t offset, size;
 };
-#define UMTS_FUZZ_SPAN(member) {offsetof(umts_sib_set, member), sizeof(umts_sib_set::member)}
-const RecordSpan kRecordSpans[umts_sib_count] = {
-    UMTS_FUZZ_SPAN(mib),  UMTS_FUZZ_SPAN(sib1),     UMTS_FUZZ_SPAN(sib2),  UMTS_FUZZ_SPAN(sib3),
-    UMTS_FUZZ_SPAN(sib5), UMTS_FUZZ_SPAN(sib7),     UMTS_FUZZ_SPAN(sib11), UMTS_FUZZ_SPAN(sib11bis),
-    UMTS_FUZZ_SPAN(sib12), UMTS_FUZZ_SPAN(sib18), UMTS_FUZZ_SPAN(sb1), UMTS_FUZZ_SPAN(sb2)};
+#define UMTS_FUZZ_SPAN(kind, type, name, dim, cond, aux) {offsetof(umts_sib_set, name), sizeof(type)},
+const RecordSpan kRecordSpans[umts_sib_count + 1] = {umts_sib_set_FIELDS(UMTS_FUZZ_SPAN)};
 #undef UMTS_FUZZ_SPAN
 
 void resetContext() {
@@ -161,7 +159,7 @@ std::string run_sib_msg(const uint8_t* data, size_t size) {
   umts_sib_set* own = librarySet();
   if (problem.empty() && own != nullptr && id < umts_sib_count) {
     const uint8_t again = umts_sib_msg_decoder(static_cast<umts_sib_id>(id), copy.get(), own, static_cast<uint32_t>(n));
-    const RecordSpan span = kRecordSpans[id];
+    const RecordSpan span = kRecordSpans[id + 1];
     if (again != status) problem = "the library's set gave another status";
     else if (std::memcmp(reinterpret_cast<const uint8_t*>(own) + span.offset,
                          reinterpret_cast<const uint8_t*>(result) + span.offset, span.size) != 0)
@@ -191,94 +189,31 @@ std::string run_sib16(const uint8_t* data, size_t size) {
   return "";
 }
 
-namespace {
-
-// A decoded value of a registry type in a record of exactly its size, with its context.
-struct Value {
-  const umts_type_info* type;
-  Bytes record;
-  rtxContext ctx;
-  int stat = 0;
-  uint64_t bits = 0; /* consumed by the decode */
-
-  Value(const umts_type_info* t, const uint8_t* data, size_t n) : type(t) {
-    record.reset(static_cast<uint8_t*>(std::calloc(1, t->size > 0 ? t->size : 1)));
-    rtInitContext(&ctx);
-    pu_setBuffer(&ctx, data, static_cast<uint32_t>(n), 0);
-    stat = type->decode(&ctx, record.get());
-    bits = rtxBitPos(&ctx);
-  }
-  ~Value() { rtFreeContext(&ctx); }
-  Value(const Value&) = delete;
-  Value& operator=(const Value&) = delete;
-};
-
-struct Encoding {
-  int stat = 0;
-  uint64_t bits = 0;
-  std::vector<uint8_t> bytes;
-  std::string error;
-};
-
-Encoding encode(const Value& v) {
-  Encoding e;
-  rtxContext ctx;
-  rtInitContext(&ctx);
-  e.stat = rtxInitContextBuffer(&ctx, nullptr, 0);
-  if (e.stat == 0) e.stat = v.type->encode(&ctx, v.record.get());
-  if (e.stat == 0) {
-    e.bits = rtxBitPos(&ctx);
-    e.bytes.assign(ctx.buffer_data, ctx.buffer_data + pu_getMsgLen(&ctx));
-  } else {
-    char text[512];
-    rtxErrGetText(&ctx, text, sizeof text);
-    e.error = text;
-  }
-  rtFreeContext(&ctx);
-  return e;
-}
-
-std::string printed(const Value& v) {
-  char* text = nullptr;
-  size_t length = 0;
-  FILE* f = open_memstream(&text, &length);
-  if (f == nullptr) return "";
-  rtxPrintFlush();
-  rtxPrintSetStream(f);
-  v.type->print("value", v.record.get());
-  rtxPrintFlush();
-  rtxPrintSetStream(stdout);
-  std::fclose(f);
-  std::string out(text, length);
-  std::free(text);
-  return out;
-}
-
-}  // namespace
-
 std::string run_codec(const uint8_t* data, size_t size) {
   if (size < 2 || umts_type_registry_count == 0) return "";
   const umts_type_info* type = &umts_type_registry[((uint32_t(data[0]) << 8) | data[1]) % umts_type_registry_count];
   const std::string name = std::string(type->name) + ": ";
-  const size_t n = size - 2;
-  const Bytes input = exactCopy(data + 2, n);
-  const Value first(type, input.get(), n);
-  if (first.stat != 0) return "";
-  if (first.bits > uint64_t(n) * 8u) return name + "the decoder consumed more bits than it was given";
+  testutil::Decoded first, second;
+  /* A vector of exactly the input's size, so that a read past the input is reported. */
+  if (testutil::decode(type, std::vector<uint8_t>(data + 2, data + size), first) != 0) return "";
+  if (rtxBitPos(&first.ctx) > uint64_t(size - 2) * 8u) return name + "the decoder consumed more bits than it was given";
 
-  const Encoding again = encode(first);
+  std::vector<uint8_t> again, third;
+  uint64_t again_bits = 0, third_bits = 0;
+  std::string error;
+  const int stat = testutil::encode(type, first.value(), again, again_bits, &error);
   // A multi-name ENUMERATED decodes any number its bits can hold; the encoder refuses the
   // ones past the last name.
-  if (again.stat == RT_ERR_INVENUM) return "";
-  if (again.stat != 0) return name + "re-encoding a decoded value failed: " + again.error;
+  if (stat == RT_ERR_INVENUM) return "";
+  if (stat != 0) return name + "re-encoding a decoded value failed: " + error;
 
-  const Value second(type, again.bytes.data(), again.bytes.size());
-  if (second.stat != 0) return name + "the re-encoding does not decode";
-  if (second.bits != again.bits) return name + "the second decode did not consume exactly the re-encoding";
-  const Encoding third = encode(second);
-  if (third.stat != 0) return name + "encoding the second decode failed: " + third.error;
-  if (third.bits != again.bits || third.bytes != again.bytes) return name + "the two re-encodings differ";
-  if (printed(first) != printed(second)) return name + "the value printed differently after the round trip";
+  if (testutil::decode(type, again, second) != 0) return name + "the re-encoding does not decode";
+  if (rtxBitPos(&second.ctx) != again_bits) return name + "the second decode did not consume exactly the re-encoding";
+  if (testutil::encode(type, second.value(), third, third_bits, &error) != 0)
+    return name + "encoding the second decode failed: " + error;
+  if (third_bits != again_bits || third != again) return name + "the two re-encodings differ";
+  if (testutil::print(type, first.value()) != testutil::print(type, second.value()))
+    return name + "the value printed differently after the round trip";
   return "";
 }
 

@@ -20,17 +20,13 @@
 #include <string>
 #include <vector>
 
+#include "codec_test_util.h"
 #include "umts_rrc_registry.h"
 
 namespace {
 
 using Bytes = std::vector<uint8_t>;
-
-Bytes fromHex(const std::string& hex) {
-  Bytes out;
-  for (size_t i = 0; i + 1 < hex.size(); i += 2) out.push_back(static_cast<uint8_t>(std::stoul(hex.substr(i, 2), nullptr, 16)));
-  return out;
-}
+using testutil::fromHex;
 
 struct Writer {
   std::string dir;
@@ -64,26 +60,18 @@ void putCodec(Writer& w, const char* type_name, const Bytes& bytes) {
   w.put(input);
 }
 
-// The umts_sib_id of the sample names and of the decoded SIB types.
-const std::map<std::string, int>& sibIds() {
-  static const std::map<std::string, int> ids = {
-      {"mib", 0},      {"MasterInformationBlock", 0}, {"sib1", 1},  {"SysInfoType1", 1},
-      {"sib2", 2},     {"SysInfoType2", 2},           {"sib3", 3},  {"SysInfoType3", 3},
-      {"sib5", 4},     {"SysInfoType5", 4},           {"sib7", 5},  {"SysInfoType7", 5},
-      {"sib11", 6},    {"SysInfoType11", 6},          {"sib11bis", 7}, {"SysInfoType11bis", 7},
-      {"sib12", 8},    {"SysInfoType12", 8},          {"sib18", 9}, {"SysInfoType18", 9},
-      {"sb1", 10},     {"SysInfoTypeSB1", 10},        {"sb2", 11},  {"SysInfoTypeSB2", 11}};
-  return ids;
-}
+// The sample names and the decoded types of the blocks, at their umts_sib_id.
+const char* const kBlocks[][2] = {
+    {"mib", "MasterInformationBlock"}, {"sib1", "SysInfoType1"},   {"sib2", "SysInfoType2"},
+    {"sib3", "SysInfoType3"},          {"sib5", "SysInfoType5"},   {"sib7", "SysInfoType7"},
+    {"sib11", "SysInfoType11"},        {"sib11bis", "SysInfoType11bis"}, {"sib12", "SysInfoType12"},
+    {"sib18", "SysInfoType18"},        {"sb1", "SysInfoTypeSB1"},  {"sb2", "SysInfoTypeSB2"}};
 
-const char* sampleType(const std::string& name) {
-  static const std::map<std::string, const char*> types = {
-      {"mib", "MasterInformationBlock"}, {"sib1", "SysInfoType1"},   {"sib2", "SysInfoType2"},
-      {"sib3", "SysInfoType3"},          {"sib5", "SysInfoType5"},   {"sib7", "SysInfoType7"},
-      {"sib11", "SysInfoType11"},        {"sib11bis", "SysInfoType11bis"}, {"sib12", "SysInfoType12"},
-      {"sib18", "SysInfoType18"},        {"sb1", "SysInfoTypeSB1"},  {"sb2", "SysInfoTypeSB2"}};
-  auto it = types.find(name);
-  return it != types.end() ? it->second : nullptr;
+// The umts_sib_id of a sample name or a decoded type (`column` 0 or 1), -1 for none.
+int sibId(const std::string& name, int column) {
+  for (int id = 0; id < 12; id++)
+    if (name == kBlocks[id][column]) return id;
+  return -1;
 }
 
 void putSib(Writer& w, int id, const Bytes& bytes) {
@@ -179,10 +167,10 @@ int main(int argc, char** argv) {
     std::string name, hex;
     ls >> name >> hex;
     if (name == "sib16") sib16.put(fromHex(hex));
-    auto id = sibIds().find(name);
-    if (id == sibIds().end()) continue;
-    putSib(sib, id->second, fromHex(hex));
-    if (const char* type = sampleType(name)) putCodec(codec, type, fromHex(hex));
+    const int id = sibId(name, 0);
+    if (id < 0) continue;
+    putSib(sib, id, fromHex(hex));
+    putCodec(codec, kBlocks[id][1], fromHex(hex));
   }
 
   // The vector files: "<type> <bits> <hex>", "-" for no bytes.
@@ -195,8 +183,7 @@ int main(int argc, char** argv) {
       ls >> type >> bits >> hex;
       const Bytes bytes = hex == "-" ? Bytes() : fromHex(hex);
       putCodec(codec, type.c_str(), bytes);
-      auto id = sibIds().find(type);
-      if (id != sibIds().end()) putSib(sib, id->second, bytes);
+      if (sibId(type, 1) >= 0) putSib(sib, sibId(type, 1), bytes);
       Bytes block;
       if (type == "BCCH_BCH_Message" && appendBlock(block, bytes)) bch.put(block);
     }

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "bch_segmenter.h"
+#include "tools_test_util.h"
 #include "umts_rrc.h"
 #include "umts_rrc_rt.h"
 
@@ -266,11 +267,8 @@ TEST(BchSegmenter, Refusals) {
 /* A real transport block: the first segment of an extension SIB, SFN' 1290. The segmenter
    gives the same 31 octets for a SIB of 7 segments that starts with those 222 bits. */
 TEST(BchSegmenter, ReproducesARealTransportBlock) {
-  const char* hex = "a143f686e52a22282f36928cc1852026d2519830afacda4a330614909b4944";
-  const char* first = "86e52a22282f36928cc1852026d2519830afacda4a330614909b4944";
-  std::vector<uint8_t> real, data;
-  for (const char* p = hex; *p != '\0'; p += 2) real.push_back(static_cast<uint8_t>(std::stoul(std::string(p, 2), nullptr, 16)));
-  for (const char* p = first; *p != '\0'; p += 2) data.push_back(static_cast<uint8_t>(std::stoul(std::string(p, 2), nullptr, 16)));
+  const std::vector<uint8_t> real = tt::hex_bytes("a143f686e52a22282f36928cc1852026d2519830afacda4a330614909b4944");
+  const std::vector<uint8_t> data = tt::hex_bytes("86e52a22282f36928cc1852026d2519830afacda4a330614909b4944");
 
   TestSib sib{31, data, 0, 0};
   sib.numbits = 6 * 222 + 80;
@@ -285,9 +283,6 @@ TEST(BchSegmenter, ReproducesARealTransportBlock) {
 }
 
 }  // namespace
-
-#include <fstream>
-#include <sstream>
 
 #include "umts_sib_decoder.h"
 #include "umts_sib_json.h"
@@ -311,18 +306,11 @@ TEST(BchSegmenter, SampleSibsOverTheBchAreTheWholeSibs) {
   ASSERT_NE(whole, nullptr);
   ASSERT_NE(over_bch, nullptr);
   size_t compared = 0;
-  for (const char* file : {"/fdd_cell_sibs.txt", "/tdd128_cell_sibs.txt"}) {
-    std::ifstream in(std::string(UMTS_SAMPLES_DIR) + file);
-    std::string line;
-    while (std::getline(in, line)) {
-      std::istringstream fields(line);
-      std::string name, hex;
-      if (line.empty() || line[0] == '#' || !(fields >> name >> hex)) continue;
+  for (const char* file : {"fdd_cell_sibs.txt", "tdd128_cell_sibs.txt"}) {
+    for (const auto& [name, bytes] : tt::sample_sibs(file)) {
       const umts_sib_id id = umts_sib_id_of_name(name.c_str(), name.size());
       if (id == umts_sib_count) continue; /* SIB16 stands outside the set */
       SCOPED_TRACE(std::string(file) + " " + name);
-      std::vector<uint8_t> bytes;
-      for (size_t i = 0; i + 1 < hex.size(); i += 2) bytes.push_back(static_cast<uint8_t>(std::stoul(hex.substr(i, 2), nullptr, 16)));
       ASSERT_EQ(umts_sib_msg_decoder(id, bytes.data(), whole, static_cast<uint32_t>(bytes.size())), 1);
       /* SIB-Type of each block: 0 MIB ... 12 SIB12, 26 SIB18, 27 SB1, 28 SB2, 31 extension. */
       static const uint32_t kSibType[] = {0, 1, 2, 3, 5, 7, 11, 31, 12, 26, 27, 28};

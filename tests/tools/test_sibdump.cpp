@@ -2,76 +2,22 @@
  * sibdump as a user runs it, on the committed samples and on bad input.
  */
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-#include <fstream>
 #include <map>
-#include <sstream>
-#include <string>
-#include <vector>
 
 #include "json_check.h"
+#include "tools_test_util.h"
 
 namespace {
 
-const std::string kSibdump = SIBDUMP_PATH;
+using namespace tt;
+
 const std::string kMksamples = MKSAMPLES_PATH;
-const std::string kSamples = UMTS_SAMPLES_DIR;
 const std::vector<std::string> kCycle = {"mib",   "sib1",     "sib2",  "sib3",  "sib5", "sib7",
                                          "sib11", "sib11bis", "sib12", "sib18", "sb1"};
 
-std::string temp_dir() {
-  static std::string dir;
-  if (dir.empty()) {
-    std::string pattern = ::testing::TempDir() + "sibdump_test_XXXXXX";
-    std::vector<char> buf(pattern.begin(), pattern.end());
-    buf.push_back('\0');
-    if (mkdtemp(buf.data()) != nullptr) dir = buf.data();
-  }
-  return dir;
-}
-
-std::string read_file(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::stringstream s;
-  s << in.rdbuf();
-  return s.str();
-}
-
-void write_file(const std::string& path, const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
-
-struct Outcome {
-  int status;
-  std::string out;
-  std::string err;
-};
-
-/* Runs the shell command `args` after the tool, capturing both streams. */
-Outcome run(const std::string& tool, const std::string& args) {
-  const std::string err_path = temp_dir() + "/stderr.txt";
-  const std::string cmd = "'" + tool + "' " + args + " 2>'" + err_path + "'";
-  Outcome r{-1, "", ""};
-  FILE* p = popen(cmd.c_str(), "r");
-  if (p == nullptr) return r;
-  char buf[4096];
-  size_t n;
-  while ((n = std::fread(buf, 1, sizeof buf, p)) > 0) r.out.append(buf, n);
-  const int status = pclose(p);
-  r.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-  r.err = read_file(err_path);
-  return r;
-}
-
-std::vector<std::string> lines_of(const std::string& text) {
-  std::vector<std::string> lines;
-  std::istringstream in(text);
-  for (std::string l; std::getline(in, l);) lines.push_back(l);
-  return lines;
-}
+Outcome run(const std::string& tool, const std::string& args) { return run_shell("'" + tool + "' " + args); }
 
 /* The JSON lines of a run by block name; every line must be a JSON object of the form
    {"line":N,"block":"name","record":{...}}. */
@@ -230,6 +176,12 @@ TEST(Sibdump, HelpAndUsageErrors) {
       {"--asn1-text", "option --asn1-text needs a value"},
       {"--asn1-text /nonexistent/dir/out.txt /dev/null", "cannot open '/nonexistent/dir/out.txt'"},
       {"--jobs 0 /dev/null", "--jobs needs a number from 1 to 1024"},
+      {"--summary=xml /dev/null", "--summary takes text, json or html, not 'xml'"},
+      {"--udp nowhere", "--udp needs [ADDRESS:]PORT, not 'nowhere'"},
+      {"--udp 127.0.0.1:99999", "--udp needs [ADDRESS:]PORT, not '127.0.0.1:99999'"},
+      {"--udp 127.0.0.1:", "--udp needs [ADDRESS:]PORT, not '127.0.0.1:'"},
+      {"--udp x.bch:1 extra", "--udp reads no file and no --sibs"},
+      {"--udp --sibs", "--udp reads no file and no --sibs"},
   };
   for (const auto& e : errors) {
     const Outcome r = run(kSibdump, e.args);
@@ -239,8 +191,9 @@ TEST(Sibdump, HelpAndUsageErrors) {
   }
 }
 
-/* The library's own standard output never mixes with the JSON. */
-TEST(Sibdump, LibraryTextGoesApart) {
+/* The library's own standard output never mixes with the JSON; --log-level reaches the
+   library's log. */
+TEST(Sibdump, LibraryTextAndLogGoApart) {
   const std::string input = "'" + kSamples + "/fdd_cell.bch'";
   const Outcome plain = run(kSibdump, input);
   const std::string text_path = temp_dir() + "/asn1.txt";
@@ -255,20 +208,19 @@ TEST(Sibdump, LibraryTextGoesApart) {
   EXPECT_EQ(to_stderr.out, plain.out);
   EXPECT_NE(to_stderr.err.find("UMTS_BCCH_BCH_Message"), std::string::npos);
   EXPECT_EQ(plain.err.find("UMTS_BCCH_BCH_Message"), std::string::npos);
+
+  const std::string sibs = "--sibs '" + kSamples + "/fdd_cell_sibs.txt'";
+  EXPECT_EQ(run(kSibdump, sibs).err.find("ASN context initialised"), std::string::npos);
+  EXPECT_NE(run(kSibdump, "--log-level 6 " + sibs).err.find("ASN context initialised"), std::string::npos);
+  EXPECT_EQ(run(kSibdump, "--log-level=2 " + sibs).err.find("ASN context initialised"), std::string::npos);
 }
 
-TEST(Sibdump, LogLevelReachesTheLibrary) {
-  const std::string input = "--sibs '" + kSamples + "/fdd_cell_sibs.txt'";
-  EXPECT_EQ(run(kSibdump, input).err.find("ASN context initialised"), std::string::npos);
-  EXPECT_NE(run(kSibdump, "--log-level 6 " + input).err.find("ASN context initialised"), std::string::npos);
-  EXPECT_EQ(run(kSibdump, "--log-level=2 " + input).err.find("ASN context initialised"), std::string::npos);
-}
-
-/* The committed samples are what mksamples writes. */
+/* The committed samples are what mksamples writes, the captures what mkcaptures writes. */
 TEST(Samples, AreUpToDate) {
   const Outcome r = run(kMksamples, "'" + temp_dir() + "' '" + temp_dir() + "/bch_cycle.bch'");
   ASSERT_EQ(r.status, 0) << r.err;
-  for (const char* name : {"/fdd_cell.bch", "/fdd_cell_sibs.txt", "/tdd128_cell_sibs.txt"})
+  ASSERT_EQ(run(MKCAPTURES_PATH, "'" + temp_dir() + "'").status, 0);
+  for (const char* name : {"/fdd_cell.bch", "/fdd_cell_sibs.txt", "/tdd128_cell_sibs.txt", "/fdd_cell.pcap", "/fdd_cell.pcapng"})
     EXPECT_EQ(read_file(temp_dir() + name), read_file(kSamples + name)) << name << ": run 'make samples'";
   EXPECT_EQ(read_file(temp_dir() + "/bch_cycle.bch"), read_file(std::string(UMTS_SOURCE_DIR) + "/bench/bch_cycle.bch"))
       << "bench/bch_cycle.bch: run 'make samples'";
