@@ -4,6 +4,7 @@
  * datagrams over the loopback address.
  */
 #include <gtest/gtest.h>
+#include <sys/time.h>
 
 #include <algorithm>
 #include <cstring>
@@ -524,6 +525,58 @@ TEST(Live, DatagramsOverLoopback) {
                                          n_of(sample_blocks().size()) + " blocks, 0 SIBs, " + n_of(hex_record_count()) +
                                          " records written, 0 skipped, 0 not GSMTAP, 1 bad datagrams"})
     EXPECT_TRUE(has(err, message)) << message << "\n" << err;
+}
+
+/* The number before `what` in `text` ("... 12 datagrams read"), or -1. */
+long count_before(const std::string& text, const std::string& what) {
+  const size_t at = text.find(what);
+  size_t start = at;
+  while (start != std::string::npos && start > 0 && text[start - 1] >= '0' && text[start - 1] <= '9') start--;
+  return at == std::string::npos || start == at ? -1 : std::atol(text.c_str() + start);
+}
+
+/* sibdump is stopped (SIGSTOP) while 300 datagrams arrive at a receive buffer of 4 KiB, which
+   holds a few: the kernel drops the rest, sibdump reads what was kept once it goes on, and its
+   counts add up to what was sent, in the counts and in the summary. */
+TEST(Live, OverfilledReceiveBufferIsCountedExactly) {
+#ifndef __linux__
+  GTEST_SKIP() << "the kernel's drop count is read on Linux only";
+#endif
+  LiveSibdump live(kSibdump, {"--udp-buffer", "4K", "--summary=json"});
+  ASSERT_GT(live.port, 0) << live.err;
+  ASSERT_EQ(kill(live.c.pid, SIGSTOP), 0);
+  long sent = 0;
+  for (size_t k = 0; k < 300; k++) {
+    capture::GsmtapMessage m;
+    m.arfcn = 10700;
+    m.message = sample_blocks()[k % sample_blocks().size()];
+    sent += live.send(capture::gsmtap_datagram(m)) ? 1 : 0;
+  }
+  /* A datagram to this test's own socket, received back: the loopback device has delivered
+     those sent before it, so that each is now queued or dropped. */
+  const int probe = socket(AF_INET, SOCK_DGRAM, 0);
+  sockaddr_in self{};
+  self.sin_family = AF_INET;
+  self.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  socklen_t self_length = sizeof self;
+  const timeval limit = {60, 0};
+  ASSERT_EQ(bind(probe, reinterpret_cast<sockaddr*>(&self), sizeof self), 0);
+  getsockname(probe, reinterpret_cast<sockaddr*>(&self), &self_length);
+  setsockopt(probe, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
+  char byte = 0;
+  sendto(live.fd, &byte, 1, 0, reinterpret_cast<sockaddr*>(&self), sizeof self);
+  EXPECT_EQ(recv(probe, &byte, 1, 0), 1);
+  close(probe);
+  kill(live.c.pid, SIGCONT);
+  EXPECT_EQ(live.stop(), 0) << live.err;
+
+  const long read = count_before(live.err, " datagrams read,");
+  const long dropped = count_before(live.err, " datagrams dropped by the kernel before they were read (receive buffer 4 KiB)\n");
+  EXPECT_EQ(sent, 300);
+  EXPECT_GT(read, 0) << live.err;
+  EXPECT_GT(dropped, 0) << live.err;
+  EXPECT_EQ(read + dropped, sent) << live.err;
+  EXPECT_TRUE(has(live.out, "\"datagrams_dropped_by_kernel\":" + std::to_string(dropped) + ",")) << live.out;
 }
 
 }  // namespace
