@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "sibdump_inputs.h"
 
@@ -22,6 +23,9 @@ struct Peeked {
   unsigned char head[4];
   size_t count;
   size_t at;
+  /* A file is read a megabyte at a time rather than in the C library's 4 KiB: a capture of
+     ten million frames is a gigabyte. The buffer lives until `in` is closed. */
+  std::vector<char> buffer;
 };
 
 ssize_t peeked_read(void* cookie, char* buf, size_t size) {
@@ -45,7 +49,11 @@ int peeked_close(void* cookie) {
 }  // namespace
 
 FILE* peek_input(FILE* in, const char* name, bool* is_capture) {
-  Peeked* p = new Peeked{in, {0, 0, 0, 0}, 0, 0};
+  Peeked* p = new Peeked{in, {0, 0, 0, 0}, 0, 0, {}};
+  if (in != stdin) {
+    p->buffer.resize(size_t(1) << 20);
+    std::setvbuf(in, p->buffer.data(), _IOFBF, p->buffer.size());
+  }
   p->count = std::fread(p->head, 1, sizeof p->head, in);
   static const unsigned char kMagics[][4] = {
       {0xD4, 0xC3, 0xB2, 0xA1}, {0xA1, 0xB2, 0xC3, 0xD4}, /* pcap, microseconds */
