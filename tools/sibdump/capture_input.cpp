@@ -2,12 +2,15 @@
  * sibdump's capture input: pcap and pcapng files of GSMTAP over UDP, read through libpcap,
  * on Ethernet, Linux cooked capture (v1, v2) or raw IP.
  */
+#include <sys/stat.h>
+
+#include <algorithm>
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
+#include <memory>
 #include <string>
-#include <vector>
 
 #include "sibdump_inputs.h"
 
@@ -23,9 +26,10 @@ struct Peeked {
   unsigned char head[4];
   size_t count;
   size_t at;
-  /* A file is read a megabyte at a time rather than in the C library's 4 KiB: a capture of
-     ten million frames is a gigabyte. The buffer lives until `in` is closed. */
-  std::vector<char> buffer;
+  /* A file is read up to a megabyte at a time rather than in the C library's 4 KiB: a capture
+     of ten million frames is a gigabyte. The buffer lives until `in` is closed; it is not
+     cleared (only what is read is touched), and no larger than the file. */
+  std::unique_ptr<char[]> buffer;
 };
 
 ssize_t peeked_read(void* cookie, char* buf, size_t size) {
@@ -49,10 +53,12 @@ int peeked_close(void* cookie) {
 }  // namespace
 
 FILE* peek_input(FILE* in, const char* name, bool* is_capture) {
-  Peeked* p = new Peeked{in, {0, 0, 0, 0}, 0, 0, {}};
-  if (in != stdin) {
-    p->buffer.resize(size_t(1) << 20);
-    std::setvbuf(in, p->buffer.data(), _IOFBF, p->buffer.size());
+  Peeked* p = new Peeked{in, {0, 0, 0, 0}, 0, 0, nullptr};
+  struct stat st;
+  if (in != stdin && fstat(fileno(in), &st) == 0 && S_ISREG(st.st_mode) && st.st_size > 8192) {
+    const size_t size = std::min<size_t>(size_t(1) << 20, static_cast<size_t>(st.st_size));
+    p->buffer.reset(new char[size]);
+    std::setvbuf(in, p->buffer.get(), _IOFBF, size);
   }
   p->count = std::fread(p->head, 1, sizeof p->head, in);
   static const unsigned char kMagics[][4] = {
