@@ -497,12 +497,9 @@ TEST(Live, DatagramsOverLoopback) {
   LiveSibdump live(kSibdump);
   ASSERT_GT(live.port, 0) << live.err;
   for (size_t k = 0; k < sample_blocks().size(); k++) {
-    capture::GsmtapMessage m;
-    m.arfcn = 10700;
-    m.message = sample_blocks()[k];
-    EXPECT_TRUE(live.send(capture::gsmtap_datagram(m)));
+    EXPECT_TRUE(live.send(block_datagram(sample_blocks()[k])));
     if (k == 2) {
-      Bytes bad = capture::gsmtap_datagram(m);
+      Bytes bad = block_datagram(sample_blocks()[k]);
       bad[0] = 3; /* version */
       EXPECT_TRUE(live.send(bad));
     }
@@ -546,12 +543,7 @@ TEST(Live, OverfilledReceiveBufferIsCountedExactly) {
   ASSERT_GT(live.port, 0) << live.err;
   ASSERT_EQ(kill(live.c.pid, SIGSTOP), 0);
   long sent = 0;
-  for (size_t k = 0; k < 300; k++) {
-    capture::GsmtapMessage m;
-    m.arfcn = 10700;
-    m.message = sample_blocks()[k % sample_blocks().size()];
-    sent += live.send(capture::gsmtap_datagram(m)) ? 1 : 0;
-  }
+  for (size_t k = 0; k < 300; k++) sent += live.send(block_datagram(sample_blocks()[k % sample_blocks().size()])) ? 1 : 0;
   /* A datagram to this test's own socket, received back: the loopback device has delivered
      those sent before it, so that each is now queued or dropped. */
   const int probe = socket(AF_INET, SOCK_DGRAM, 0);

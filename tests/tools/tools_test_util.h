@@ -88,7 +88,8 @@ inline Outcome run_shell(const std::string& command) {
 }
 inline Outcome run_sibdump(const std::string& args) { return run_shell("'" + kSibdump + "' " + args); }
 
-/* The transport blocks of the sample cycle; the SIBs of a sample file whole as (name, bytes). */
+/* The transport blocks of the sample cycle. The '<name> <hex>' lines of a file as (name,
+   bytes); the SIBs of a sample file whole. */
 inline const std::vector<Bytes>& sample_blocks() {
   static std::vector<Bytes> blocks;
   if (blocks.empty())
@@ -96,13 +97,16 @@ inline const std::vector<Bytes>& sample_blocks() {
       if (!l.empty() && l[0] != '#') blocks.push_back(hex_bytes(l));
   return blocks;
 }
-inline std::vector<std::pair<std::string, Bytes>> sample_sibs(const std::string& file = "fdd_cell_sibs.txt") {
+inline std::vector<std::pair<std::string, Bytes>> named_hex(const std::string& path) {
   std::vector<std::pair<std::string, Bytes>> sibs;
-  for (const std::string& l : lines_of(read_file(kSamples + "/" + file))) {
+  for (const std::string& l : lines_of(read_file(path))) {
     const size_t blank = l.find(' ');
     if (!l.empty() && l[0] != '#' && blank != std::string::npos) sibs.emplace_back(l.substr(0, blank), hex_bytes(l.substr(blank + 1)));
   }
   return sibs;
+}
+inline std::vector<std::pair<std::string, Bytes>> sample_sibs(const std::string& file = "fdd_cell_sibs.txt") {
+  return named_hex(kSamples + "/" + file);
 }
 /* The first SIB of the sample named `name`. */
 inline Bytes sample_sib(const std::string& name) {
@@ -121,6 +125,14 @@ inline capture::Frame gsmtap_frame(gsmtap::Link link, uint64_t time_us, const By
   m.arfcn = arfcn;
   m.message = message;
   return {time_us, capture::udp_frame(link, route, capture::gsmtap_datagram(m)), 0};
+}
+
+/* A GSMTAP datagram of one transport block on ARFCN 10700. */
+inline Bytes block_datagram(const Bytes& block) {
+  capture::GsmtapMessage m;
+  m.arfcn = 10700;
+  m.message = block;
+  return capture::gsmtap_datagram(m);
 }
 
 /* The sample cycle's blocks 20 ms apart from `t0`, except the blocks `left_out` (0-based). */
