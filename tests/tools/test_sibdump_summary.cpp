@@ -34,23 +34,9 @@ Outcome run_capture(const std::string& name, const std::vector<capture::Frame>& 
   return run_sibdump(std::string("--summary=") + format + " '" + path + "'");
 }
 
-/* The block index (0-based) whose transport block completes each record of the sample:
-   sibdump's line numbers of the cycle file, counted in lines that hold a block. */
-std::vector<std::pair<std::string, size_t>> completing_blocks() {
-  std::vector<size_t> block_of_line(1); /* line numbers count from 1 */
-  size_t blocks = 0;
-  for (const std::string& l : lines_of(read_file(kSamples + "/fdd_cell.bch")))
-    block_of_line.push_back(!l.empty() && l[0] != '#' ? blocks++ : SIZE_MAX);
-  std::vector<std::pair<std::string, size_t>> out;
-  for (const std::string& l : lines_of(run_sibdump("'" + kSamples + "/fdd_cell.bch'").out)) {
-    const size_t f = l.find("\"line\":"), b = l.find("\"block\":\"");
-    if (f == std::string::npos || b == std::string::npos) continue;
-    const size_t line = std::stoul(l.substr(f + 7));
-    if (line < block_of_line.size())
-      out.emplace_back(l.substr(b + 9, l.find('"', b + 9) - b - 9), block_of_line[line]);
-  }
-  return out;
-}
+/* Blocks of the sample cycle (0-based) as its comments name them: the MIB's, the one that
+   completes SIB3, and the last segments of the two SIB5s. */
+constexpr size_t kMibBlock = 0, kSib3Block = 3, kSib5Blocks[] = {5, 20};
 
 /* ---- The sample cell ---------------------------------------------------------------------- */
 
@@ -246,16 +232,7 @@ TEST(Summary, CaptureWithoutMibAndWithHalfASib) {
   /* Leave out the MIB's block and the blocks that complete the SIB5s: their first segments
      arrive, the SIBs never do. The capture ends within the second SIB5 (1326 bits: 6 segments
      of at most 222), of which all but the last came. */
-  std::set<size_t> left_out;
-  size_t sib5_blocks = 0;
-  for (const auto& c : completing_blocks()) {
-    if (c.first == "mib") left_out.insert(c.second);
-    if (c.first == "sib5") {
-      left_out.insert(c.second);
-      sib5_blocks++;
-    }
-  }
-  ASSERT_EQ(sib5_blocks, 2u);
+  const std::set<size_t> left_out = {kMibBlock, kSib5Blocks[0], kSib5Blocks[1]};
   const std::vector<capture::Frame> frames = cycle_frames(gsmtap::Link::ethernet, capture::Route(), 10700, kT0, left_out);
   const Outcome r = run_capture("partial.pcap", frames, "json");
   const std::vector<std::string> cells = summaries(r);
@@ -285,11 +262,8 @@ TEST(Summary, CaptureWithoutMibAndWithHalfASib) {
    own summary, in the order first heard, and what one lacks does not leak from the other. */
 TEST(Summary, TwoCellsInOneCapture) {
   UMTS_SKIP_WITHOUT_CAPTURE();
-  size_t sib3_block = 0;
-  for (const auto& c : completing_blocks())
-    if (c.first == "sib3") sib3_block = c.second;
   const std::vector<capture::Frame> a = cycle_frames(gsmtap::Link::ethernet),
-                                    b = cycle_frames(gsmtap::Link::ethernet, capture::Route(), 10713, kT0 + 10000, {sib3_block});
+                                    b = cycle_frames(gsmtap::Link::ethernet, capture::Route(), 10713, kT0 + 10000, {kSib3Block});
   std::vector<capture::Frame> frames;
   for (size_t k = 0; k < a.size(); k++) {
     frames.push_back(a[k]);
@@ -369,12 +343,6 @@ TEST(Summary, Sib19PlacedByItsSchedule) {
       << t.out;
 }
 
-std::string sib3_block_hex() {
-  for (const auto& c : completing_blocks())
-    if (c.first == "sib3") return hex_of(sample_blocks()[c.second]);
-  return "";
-}
-
 /* A MIB with a new value tag ends the configuration so far: its summary is written with what
    ended it, and the new one starts empty (here only the new MIB and the SIB3 that follows). */
 void expect_ended_then_new(const std::vector<std::string>& cells) {
@@ -388,8 +356,7 @@ void expect_ended_then_new(const std::vector<std::string>& cells) {
 }
 
 TEST(Summary, NewMibValueTagEndsTheConfiguration) {
-  const std::string sib3 = sib3_block_hex();
-  ASSERT_FALSE(sib3.empty());
+  const std::string sib3 = hex_of(sample_blocks()[kSib3Block]);
   expect_ended_then_new(summaries(summary_of("new_tag.bch", {extra_block("mib_tag_4"), sib3})));
 }
 
@@ -400,7 +367,7 @@ TEST(Summary, LiveStreamShowsTheChangeAsItComes) {
   ASSERT_GT(live.port, 0) << live.err;
   std::vector<Bytes> blocks = sample_blocks();
   blocks.push_back(hex_bytes(extra_block("mib_tag_4")));
-  blocks.push_back(hex_bytes(sib3_block_hex()));
+  blocks.push_back(sample_blocks()[kSib3Block]);
   for (const Bytes& b : blocks) EXPECT_TRUE(live.send(block_datagram(b)));
   EXPECT_TRUE(read_until(live.c.out, &live.out, [](const std::string& t) { return t.find('\n') != std::string::npos; }))
       << live.out;
