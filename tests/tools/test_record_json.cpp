@@ -58,12 +58,6 @@ std::string json_of(const umts_record_desc* desc, const void* record) {
 TEST(RecordDesc, EveryLibraryRecordMatchesItsLayout) {
   size_t count = 0;
   const umts_record_desc* const* all = umts_all_record_descs(&count);
-#define TEST_COUNT(kind, name) +1
-  EXPECT_EQ(count, 0u UMTS_ALL_RECORDS(TEST_COUNT));
-#undef TEST_COUNT
-#define TEST_SIZE(kind, name) EXPECT_EQ(describe_##name()->size, sizeof(name)) << #name;
-  UMTS_ALL_RECORDS(TEST_SIZE)
-#undef TEST_SIZE
   for (size_t i = 0; i < count; i++) {
     std::string report;
     EXPECT_EQ(umts_record_desc_check(all[i], &report), 0u) << report;
