@@ -13,7 +13,6 @@
 #include "capture_choice.h"
 #include "capture_writer.h"
 #include "gsmtap.h"
-#include "json_check.h"
 #include "sibdump_child.h"
 #include "sibdump_inputs.h"
 #include "tools_test_util.h"
@@ -29,37 +28,6 @@ Outcome run_on(const std::string& name, const Bytes& file) {
   const std::string path = temp_dir() + "/" + name;
   EXPECT_TRUE(capture::write_file(path, file));
   return run_sibdump("'" + path + "'");
-}
-
-/* A JSON line split into its head (members before "block") and the rest. */
-struct Line {
-  std::string head;
-  std::string block;
-  std::string record; /* from ,"record": on */
-};
-
-std::vector<Line> parse_lines(const std::string& out) {
-  std::vector<Line> lines;
-  for (const std::string& l : lines_of(out)) {
-    EXPECT_TRUE(json_check::valid(l)) << l;
-    const size_t b = l.find(",\"block\":\"");
-    const size_t r = l.find(",\"record\":");
-    if (b == std::string::npos || r == std::string::npos) {
-      ADD_FAILURE() << l;
-      continue;
-    }
-    lines.push_back({l.substr(1, b - 1), l.substr(b + 10, l.find('"', b + 10) - b - 10), l.substr(r)});
-  }
-  return lines;
-}
-
-/* block name -> record part, of the lines whose head contains `cell` (all when empty). */
-std::map<std::string, std::vector<std::string>> records_by_block(const std::vector<Line>& lines,
-                                                                 const std::string& cell = "") {
-  std::map<std::string, std::vector<std::string>> m;
-  for (const Line& l : lines)
-    if (cell.empty() || l.head.find(cell) != std::string::npos) m[l.block].push_back(l.record);
-  return m;
 }
 
 /* The records of the hexadecimal sample, the reference for every capture of the cycle. */

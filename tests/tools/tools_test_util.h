@@ -5,11 +5,13 @@
 #ifndef UMTS_TESTS_TOOLS_TEST_UTIL_H
 #define UMTS_TESTS_TOOLS_TEST_UTIL_H
 
+#include <gtest/gtest.h>
 #include <sys/wait.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <map>
 #include <set>
 #include <sstream>
 #include <string>
@@ -17,6 +19,7 @@
 #include <vector>
 
 #include "capture_writer.h"
+#include "json_check.h"
 
 namespace tt {
 
@@ -65,6 +68,38 @@ inline std::string hex_of(const Bytes& b) {
   char digits[3];
   for (uint8_t x : b) out += (std::snprintf(digits, sizeof digits, "%02x", x), digits);
   return out;
+}
+
+/* A JSON line of sibdump split into its head (the members before "block": line, or frame,
+   time and cell), the block and the rest; each line checked for syntax. */
+struct Line {
+  std::string head;
+  std::string block;
+  std::string record; /* from ,"record": on */
+};
+
+inline std::vector<Line> parse_lines(const std::string& out) {
+  std::vector<Line> lines;
+  for (const std::string& l : lines_of(out)) {
+    EXPECT_TRUE(json_check::valid(l)) << l;
+    const size_t b = l.find(",\"block\":\"");
+    const size_t r = l.find(",\"record\":");
+    if (b == std::string::npos || r == std::string::npos) {
+      ADD_FAILURE() << l;
+      continue;
+    }
+    lines.push_back({l.substr(1, b - 1), l.substr(b + 10, l.find('"', b + 10) - b - 10), l.substr(r)});
+  }
+  return lines;
+}
+
+/* block name -> record part, of the lines whose head contains `cell` (all when empty). */
+inline std::map<std::string, std::vector<std::string>> records_by_block(const std::vector<Line>& lines,
+                                                                        const std::string& cell = "") {
+  std::map<std::string, std::vector<std::string>> m;
+  for (const Line& l : lines)
+    if (cell.empty() || l.head.find(cell) != std::string::npos) m[l.block].push_back(l.record);
+  return m;
 }
 
 struct Outcome {
