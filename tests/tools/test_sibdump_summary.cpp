@@ -227,57 +227,48 @@ TEST(Summary, FilesOfWholeSibs) {
 
 /* ---- What is missing ---------------------------------------------------------------------- */
 
-TEST(Summary, CaptureWithoutMibAndWithHalfASib) {
+/* Two cells in one capture, told apart by their ARFCN, their blocks interleaved: each has its
+   own summary, in the order first heard, and what one lacks does not come from the other. The
+   first misses the MIB's block and the blocks that complete the SIB5s: their first segments
+   arrive, the SIBs never do. Its part ends within the second SIB5 (1326 bits: 6 segments of at
+   most 222), of which all but the last came. The second misses the SIB3's block. */
+TEST(Summary, CaptureOfTwoCellsThatMissBlocks) {
   UMTS_SKIP_WITHOUT_CAPTURE();
-  /* Leave out the MIB's block and the blocks that complete the SIB5s: their first segments
-     arrive, the SIBs never do. The capture ends within the second SIB5 (1326 bits: 6 segments
-     of at most 222), of which all but the last came. */
-  const std::set<size_t> left_out = {kMibBlock, kSib5Blocks[0], kSib5Blocks[1]};
-  const std::vector<capture::Frame> frames = cycle_frames(gsmtap::Link::ethernet, capture::Route(), 10700, kT0, left_out);
-  const Outcome r = run_capture("partial.pcap", frames, "json");
+  const std::vector<capture::Frame> a = cycle_frames(gsmtap::Link::ethernet, capture::Route(), 10700, kT0,
+                                                     {kMibBlock, kSib5Blocks[0], kSib5Blocks[1]}),
+                                    b = cycle_frames(gsmtap::Link::ethernet, capture::Route(), 10713, kT0 + 10000,
+                                                     {kSib3Block});
+  std::vector<capture::Frame> frames;
+  for (size_t k = 0; k < b.size(); k++) {
+    if (k < a.size()) frames.push_back(a[k]);
+    frames.push_back(b[k]);
+  }
+  const Outcome r = run_capture("two_cells.pcap", frames, "json");
   const std::vector<std::string> cells = summaries(r);
-  ASSERT_EQ(cells.size(), 1u) << r.out << r.err;
-  const std::string& s = cells[0];
+  ASSERT_EQ(cells.size(), 2u) << r.out << r.err;
   for (const char* part :
-       {"\"plmn\":{\"missing\":\"no MIB received\"}", "\"schedule\":{\"missing\":\"no MIB received\"}",
+       {"\"cell\":\"source 127.0.0.1, ARFCN 10700\"", "\"plmn\":{\"missing\":\"no MIB received\"}",
+        "\"schedule\":{\"missing\":\"no MIB received\"}",
         "\"frequency_band\":{\"missing\":\"SIB5 incomplete: 5 of 6 segments received\"}",
         "\"common_channels\":{\"missing\":\"SIB5 incomplete: 5 of 6 segments received\"}",
         "\"lac\":20001", "\"c_id\":11068"})
-    EXPECT_TRUE(has(s, part)) << part << "\n" << s;
-  EXPECT_FALSE(has(s, "\"mib\"")) << s;
-  EXPECT_FALSE(has(s, "\"sib5\"")) << s;
+    EXPECT_TRUE(has(cells[0], part)) << part << "\n" << cells[0];
+  EXPECT_FALSE(has(cells[0], "\"mib\"")) << cells[0];
+  EXPECT_FALSE(has(cells[0], "\"sib5\"")) << cells[0];
+  const std::vector<std::string> second = {
+      "\"cell\":\"source 127.0.0.1, ARFCN 10713\"", "\"cell_identity\":{\"missing\":\"SIB3 not received\"}",
+      "\"access\":{\"missing\":\"SIB3 not received\"}", entry("sysInfoType3", "mib", 16, 6, 1, "6", "2", "false")};
+  for (const std::string& part : second) EXPECT_TRUE(has(cells[1], part)) << part << "\n" << cells[1];
 
-  const Outcome t = run_capture("partial.pcap", frames, "text");
+  const Outcome t = run_capture("two_cells.pcap", frames, "text");
   EXPECT_TRUE(has(t.out, "  schedule: (no MIB received)\n")) << t.out;
   EXPECT_TRUE(has(t.out, "  common_channels: (SIB5 incomplete: 5 of 6 segments received)\n")) << t.out;
-  const Outcome h = run_capture("partial.pcap", frames, "html");
+  const Outcome h = run_capture("two_cells.pcap", frames, "html");
   EXPECT_TRUE(has(h.out, "SIB5 incomplete: 5 of 6 segments received")) << h.out;
 
   /* Nothing converted at all: said so, not an empty output. */
   const Outcome e = run_capture("none.pcap", {}, "json");
   EXPECT_EQ(e.out, "{\"cell\":null,\"missing\":\"no block of any cell was converted\"}\n");
-}
-
-/* Two cells in one capture, told apart by their ARFCN, their blocks interleaved: each has its
-   own summary, in the order first heard, and what one lacks does not leak from the other. */
-TEST(Summary, TwoCellsInOneCapture) {
-  UMTS_SKIP_WITHOUT_CAPTURE();
-  const std::vector<capture::Frame> a = cycle_frames(gsmtap::Link::ethernet),
-                                    b = cycle_frames(gsmtap::Link::ethernet, capture::Route(), 10713, kT0 + 10000, {kSib3Block});
-  std::vector<capture::Frame> frames;
-  for (size_t k = 0; k < a.size(); k++) {
-    frames.push_back(a[k]);
-    if (k < b.size()) frames.push_back(b[k]);
-  }
-  const Outcome r = run_capture("two_cells.pcap", frames, "json");
-  const std::vector<std::string> cells = summaries(r);
-  ASSERT_EQ(cells.size(), 2u) << r.out;
-  EXPECT_TRUE(has(cells[0], "\"cell\":\"source 127.0.0.1, ARFCN 10700\"")) << cells[0];
-  EXPECT_TRUE(has(cells[1], "\"cell\":\"source 127.0.0.1, ARFCN 10713\"")) << cells[1];
-  EXPECT_TRUE(has(cells[0], kIdentity));
-  EXPECT_TRUE(has(cells[1], "\"cell_identity\":{\"missing\":\"SIB3 not received\"}")) << cells[1];
-  EXPECT_TRUE(has(cells[1], "\"access\":{\"missing\":\"SIB3 not received\"}")) << cells[1];
-  EXPECT_TRUE(has(cells[1], entry("sysInfoType3", "mib", 16, 6, 1, "6", "2", "false"))) << cells[1];
 }
 
 /* ---- SIB19 and a new configuration ------------------------------------------------------- */
