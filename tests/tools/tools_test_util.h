@@ -143,12 +143,6 @@ inline std::vector<std::pair<std::string, Bytes>> named_hex(const std::string& p
 inline std::vector<std::pair<std::string, Bytes>> sample_sibs(const std::string& file = "fdd_cell_sibs.txt") {
   return named_hex(kSamples + "/" + file);
 }
-/* The first SIB of the sample named `name`. */
-inline Bytes sample_sib(const std::string& name) {
-  for (const auto& s : sample_sibs())
-    if (s.first == name) return s.second;
-  return {};
-}
 
 /* A captured frame of one GSMTAP message. */
 inline capture::Frame gsmtap_frame(gsmtap::Link link, uint64_t time_us, const Bytes& message, uint16_t arfcn = 10700,
