@@ -7,10 +7,12 @@ repository they default to the build tree build/:
   UMTS_BUILD_DIR           the build tree to install  CMAKE_COMMAND  cmake
 """
 import os
+import re
 import runpy
 import shutil
 import subprocess
 import sys
+import textwrap
 from pathlib import Path
 
 import pytest
@@ -99,13 +101,8 @@ def late_stream():
 
 
 def test_the_docstring_example_runs_on_a_stream_that_starts_mid_sib(capsys):
-    lines = sd.__doc__.split("    import sibdecoder_umts", 1)[1].splitlines()
-    example = ["import sibdecoder_umts" + lines[0]]
-    for line in lines[1:]:
-        if line.strip() and not line.startswith("    "):
-            break
-        example.append(line[4:])
-    code = "\n".join(example)
+    # The indented block from its import to the first paragraph that is not indented.
+    code = textwrap.dedent(re.search(r"\n(    import sibdecoder_umts.*?)\n\n(?! )", sd.__doc__, re.S).group(1))
     sib3 = next(t for t in (REPO / "samples/fdd_cell_sibs.txt").read_text().split("\n") if t.startswith("sib3 "))
     exec(code, {"transport_blocks": late_stream(), "sib3_bytes": bytes.fromhex(sib3.split()[1])})
     out = capsys.readouterr().out
