@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <bitset>
-#include <cstring>
 #include <map>
 
 #include "capture_choice.h"
@@ -206,11 +205,9 @@ TEST_F(Capture, EveryLinkLayerInBothFormats) {
     }
   }
   /* Other link layers are refused as a whole. */
-  const Outcome wifi = run_on("wifi.pcap", [] {
-    Bytes f = capture::pcap_file(Link::ethernet, {});
-    f[20] = 105; /* IEEE 802.11 */
-    return f;
-  }());
+  Bytes wifi_file = capture::pcap_file(Link::ethernet, {});
+  wifi_file[20] = 105; /* IEEE 802.11 */
+  const Outcome wifi = run_on("wifi.pcap", wifi_file);
   EXPECT_EQ(wifi.status, 2);
   EXPECT_TRUE(has(wifi.err, "link-layer type 105 (IEEE802_11) is not read")) << wifi.err;
 }
@@ -419,19 +416,17 @@ TEST(Live, DatagramsOverLoopback) {
     return static_cast<size_t>(std::count(t.begin(), t.end(), '\n')) >= expected_lines;
   })) << live.out;
   EXPECT_EQ(live.stop(), 1); /* one bad datagram */
-  const std::string& err = live.err;
-  const int port = live.port;
   const std::vector<Line> lines = parse_lines(live.out);
   EXPECT_EQ(records_by_block(lines), hex_records());
   for (const Line& l : lines) EXPECT_TRUE(has(l.head, "\"source\":\"127.0.0.1\",\"arfcn\":10700")) << l.head;
-  const std::string where = "sibdump: udp 127.0.0.1:" + std::to_string(port) + ": datagram 4: ";
+  const std::string where = "sibdump: udp 127.0.0.1:" + std::to_string(live.port) + ": datagram 4: ";
   for (const std::string& message : {where + "GSMTAP version 3 (expected 2)", std::string("sibdump: interrupted; counts of this run:"),
                                      "sibdump: cell 127.0.0.1 ARFCN 10700: " + n_of(sample_blocks().size()) + " blocks, 0 SIBs, " +
                                          n_of(hex_record_count()) + " records, 0 skipped, 0 errors",
                                      "sibdump: " + n_of(sample_blocks().size() + 1) + " datagrams read, " +
                                          n_of(sample_blocks().size()) + " blocks, 0 SIBs, " + n_of(hex_record_count()) +
                                          " records written, 0 skipped, 0 not GSMTAP, 1 bad datagrams"})
-    EXPECT_TRUE(has(err, message)) << message << "\n" << err;
+    EXPECT_TRUE(has(live.err, message)) << message << "\n" << live.err;
 }
 
 /* The number before `what` in `text` ("... 12 datagrams read"), or -1. */
