@@ -43,8 +43,8 @@ TEST(Sibdump, DecodesTheSampleCycle) {
 }
 
 /* The SIBs whole: the cycle's (SIB5 in two forms), the cycle's second SIB11 and its SIB11bis,
-   the HSPA form of SIB5 and a SIB16 that the cycle does not carry. But for those last two, the
-   records of the cycle's blocks. */
+   the HSPA form of SIB5 and a SIB16 that the cycle does not carry. All but those last two give
+   the records of the cycle's blocks. */
 TEST(Sibdump, WholeSibsMatchTheBchPath) {
   const Outcome whole = run(kSibdump, "--sibs '" + kSamples + "/fdd_cell_sibs.txt'");
   EXPECT_EQ(whole.status, 0) << whole.err;
