@@ -1,116 +1,66 @@
-// The SIB5 conversion: built in code, encoded by the codec, sent whole and over the BCH; and
-// the stores that SIB5's channel records have always made, each on a decoded value of its own.
+// The SIB5 conversion: the sample cell's SIB5 sent whole and over the BCH; and the stores
+// that SIB5's channel records have always made, each on a decoded value of its own.
 #include "convert_test.h"
-#include "sib5_builder.h"
 
 using namespace converttest;
-using sib5test::Sib5Builder;
 
 namespace {
 
-// The record of the builder as it starts.
-void checkSample(const umts_sib5_info& f) {
-  EXPECT_EQ(f.presence_bitmask, 3);
+class ConvertSib5 : public ConvertTest {};
+
+// The sample cell's SIB5 as mksamples sets it: one PRACH (all 16 signatures, RACH of 15-octet
+// blocks at 20 ms, CTFCs 0 and 1), one S-CCPCH (SF64 code 1) carrying the PCH and a FACH,
+// with its PICH.
+TEST_F(ConvertSib5, SampleCellWholeAndOverTheBch) {
+  const SampleSib sib5 = sampleSib("fdd_cell_sibs.txt", "sib5");
+  std::string out;
+  ASSERT_EQ(whole(umts_sib_sib5, sib5.bytes, &out), 1);
+  EXPECT_EQ(out.rfind("Decoded SysInfoType5\n", 0), 0u);
+  const umts_sib5_info& f = result->sib5;
+  EXPECT_EQ(f.presence_bitmask, 1);
   EXPECT_EQ(f.pich_PowerOffset, -7);
-  EXPECT_EQ(f.modeSpecificInfo.u.fdd.aich_PowerOffset, -5);
-  EXPECT_EQ(f.primaryCCPCH_Info.u.fdd.tx_DiversityIndicator, 1);
-  EXPECT_EQ(f.cbs_DRX_Level1Information.ctch_AllocationPeriod, 256);
-  EXPECT_EQ(f.cbs_DRX_Level1Information.cbs_FrameOffset, 9);
+  EXPECT_EQ(f.modeSpecificInfo.u.fdd.aich_PowerOffset, -6);
 
   ASSERT_EQ(f.prach_SystemInformationList.count, 1);
   const umts_prach_system_information& p = f.prach_SystemInformationList.entries[0];
-  EXPECT_EQ(p.presence_bitmask, 0x1F);
-  const umts_prach_rach_info_fdd& r = p.prach_RACH_Info.u.fdd;
-  // The signatures' 16 bits, told as 16 octets, are held to the four of the field; the
-  // members that the longer copy ran over are stored after it.
-  EXPECT_EQ(octets(r.availableSignatures), (Bytes{0xAB, 0xCD, 0, 0}));
-  EXPECT_EQ(r.availableSF, 2u);
-  EXPECT_EQ(r.preambleScramblingCodeWordNumber, 0);
-  EXPECT_EQ(r.puncturingLimit, 3u);
-  EXPECT_EQ(r.availableSubChannelNumbers.numbits, 12u);
-  EXPECT_EQ(octets(r.availableSubChannelNumbers), (Bytes{0xFF, 0xF0, 0, 0}));
-  EXPECT_EQ(p.transportChannelIdentity, 1);
-
+  EXPECT_EQ(p.presence_bitmask, 0x13);
+  // The signatures' 16 bits and the sub-channels' 12, each told as a count of octets, are
+  // held to the four octets of their fields.
+  EXPECT_EQ(octets(p.prach_RACH_Info.u.fdd.availableSignatures), (Bytes{0xFF, 0xFF, 0, 0}));
+  EXPECT_EQ(octets(p.prach_RACH_Info.u.fdd.availableSubChannelNumbers), (Bytes{0xFF, 0xF0, 0, 0}));
+  EXPECT_EQ(p.transportChannelIdentity, 15);
   const umts_common_trans_ch_tfs& tfs = p.rach_TransportFormatSet.u.commonTransChTFS;
   ASSERT_EQ(tfs.tti.choice_tag, 2u);
-  ASSERT_EQ(tfs.tti.u.tti20.count, 2);
-  for (int i = 0; i < 2; i++) {
-    const umts_common_dynamic_tf_info& e = tfs.tti.u.tti20.entries[i];
-    EXPECT_EQ(e.rlc_Size.u.octetModeRLC_SizeInfoType2.u.sizeType1, 10 + i);
-    ASSERT_EQ(e.numberOfTbSizeList.count, 2);
-    EXPECT_EQ(e.numberOfTbSizeList.entries[0].numberOfTransportBlocks.choice_tag, 2u);  // one: the tag alone
-    EXPECT_TRUE(allZero(e.numberOfTbSizeList.entries[0].numberOfTransportBlocks.u));
-    EXPECT_EQ(e.numberOfTbSizeList.entries[1].numberOfTransportBlocks.u.small, 5 + i);
-  }
-  EXPECT_EQ(tfs.semistaticTF_Information.channelCodingType.u.convolutional, 1u);
+  ASSERT_EQ(tfs.tti.u.tti20.count, 1);
+  EXPECT_EQ(tfs.tti.u.tti20.entries[0].rlc_Size.u.octetModeRLC_SizeInfoType2.u.sizeType1, 15);
+  EXPECT_EQ(tfs.tti.u.tti20.entries[0].numberOfTbSizeList.entries[0].numberOfTransportBlocks.choice_tag, 2u);  // one
   EXPECT_EQ(tfs.semistaticTF_Information.rateMatchingAttribute, 150);
-  EXPECT_EQ(tfs.semistaticTF_Information.crc_Size, 2u);
-
-  const umts_tfcs_reconf_add& add = p.rach_TFCS.u.normalTFCI_Signalling.u.complete;
-  ASSERT_EQ(add.count, 2);
-  EXPECT_EQ(add.entries[0].ctfc, 1);
-  EXPECT_TRUE(allZero(add.entries[0].powerOffsetInformation));
-  EXPECT_EQ(add.entries[1].ctfc, 2);
-  const umts_power_offset_information& po = add.entries[1].powerOffsetInformation;
-  EXPECT_EQ(po.powerOffsetPp_m, -5);
-  EXPECT_EQ(po.gainFactorInformation.u.signalledGainFactors.modeSpecificInfo.u.fdd.gainFactorBetaC, 11);
-  EXPECT_EQ(po.gainFactorInformation.u.signalledGainFactors.gainFactorBetaD, 15);
-  EXPECT_EQ(po.gainFactorInformation.u.signalledGainFactors.referenceTFC_ID, 3);
-
-  const umts_prach_partitioning_fdd& part = p.prach_Partitioning.u.fdd;
-  ASSERT_EQ(part.count, 3u);
-  EXPECT_TRUE(allZero(part.entries[1]));  // a class without its setting keeps its position
-  EXPECT_EQ(part.entries[2].accessServiceClass_FDD.availableSignatureStartIndex, 2);
-  EXPECT_EQ(part.entries[2].accessServiceClass_FDD.availableSignatureEndIndex, 13);
-  EXPECT_EQ(octets(part.entries[2].accessServiceClass_FDD.assignedSubChannelNumber), (Bytes{0xA0, 0, 0, 0}));
-  EXPECT_EQ(p.persistenceScalingFactorList.entries[1], 7u);
+  const umts_tfcs_reconf_add& ctfcs = p.rach_TFCS.u.normalTFCI_Signalling.u.complete;
+  ASSERT_EQ(ctfcs.count, 2);
+  EXPECT_EQ(ctfcs.entries[1].ctfc, 1);
   EXPECT_EQ(p.ac_To_ASC_MappingTable.count, 7u);
-  EXPECT_EQ(p.ac_To_ASC_MappingTable.entries[6], 6u);
+  EXPECT_EQ(p.ac_To_ASC_MappingTable.entries[4] * 10 + p.ac_To_ASC_MappingTable.entries[5], 10u);
   const umts_prach_system_information_fdd& pf = p.modeSpecificInfo.u.fdd;
-  EXPECT_EQ(pf.primaryCPICH_TX_Power, 33);
-  EXPECT_EQ(pf.constantValue, -10);
-  EXPECT_EQ(pf.prach_PowerOffset.powerRampStep, 3);
-  EXPECT_EQ(pf.prach_PowerOffset.preambleRetransMax, 8);
+  EXPECT_EQ(pf.constantValue, -20);
+  EXPECT_EQ(pf.prach_PowerOffset.powerRampStep, 2);
+  EXPECT_EQ(pf.rach_TransmissionParameters.mmax, 4);
   EXPECT_EQ(pf.rach_TransmissionParameters.nb01Max, 10);
-  EXPECT_EQ(pf.aich_Info.aich_TransmissionTiming, 1u);
+  EXPECT_EQ(pf.aich_Info.channelisationCode256, 2);
 
-  ASSERT_EQ(f.sCCPCH_SystemInformationList.count, 2);
-  for (int i = 0; i < 2; i++) {
-    SCOPED_TRACE(i);
-    const umts_sccpch_system_information& c = f.sCCPCH_SystemInformationList.entries[i];
-    // A PICH sets bit 1, as the FACH/PCH list does; bit 2 stays clear.
-    EXPECT_EQ(c.presence_bitmask, 2);
-    const umts_secondary_ccpch_info_fdd& sf = c.secondaryCCPCH_Info.u.fdd;
-    EXPECT_EQ(sf.presence_bitmask, 2);
-    EXPECT_EQ(sf.secondaryScramblingCode, 4);
-    EXPECT_EQ(sf.sf_AndCodeNumber.u.sf256, 200 + i);
-    EXPECT_EQ(sf.pilotSymbolExistence, 1);
-    EXPECT_EQ(sf.tfci_Existence, i);
-    EXPECT_EQ(sf.timingOffset, 149u);
-    EXPECT_EQ(c.pich_Info.u.fdd.channelisationCode256, 2 + i);
-  }
-  const umts_fach_pch_information_list& fachs = f.sCCPCH_SystemInformationList.entries[0].fach_PCH_InformationList;
-  ASSERT_EQ(fachs.count, 1u);
-  EXPECT_EQ(fachs.entries[0].transportChannelIdentity, 12);
-  const umts_dedicated_trans_ch_tfs& d = fachs.entries[0].transportFormatSet.u.dedicatedTransChTFS;
-  EXPECT_EQ(d.tti.u.tti10.entries[0].rlc_Size.u.octetModeType1.u.sizeType1, 30);
-  EXPECT_EQ(d.semistaticTF_Information.channelCodingType.choice_tag, 3u);
-  EXPECT_EQ(d.semistaticTF_Information.rateMatchingAttribute, 230);
-  EXPECT_EQ(f.sCCPCH_SystemInformationList.entries[1].fach_PCH_InformationList.count, 0u);
-  EXPECT_TRUE(allZero(f.v4b0NonCriticalExtensions));
-}
-
-class ConvertSib5 : public ConvertTest {};
-
-TEST_F(ConvertSib5, SampleShapeWholeAndOverTheBch) {
-  Sib5Builder builder;
-  std::string out;
-  ASSERT_EQ(whole(umts_sib_sib5, builder.encode(), &out), 1);
-  EXPECT_EQ(out.rfind("Decoded SysInfoType5\n", 0), 0u);
-  checkSample(result->sib5);
-  uint32_t bits = 0;
-  const Bytes bytes = builder.encode(&bits);
-  expectSameOverTheBch(umts_sib_sib5, 5, &umts_sib_set::sib5, bytes, bits);
+  ASSERT_EQ(f.sCCPCH_SystemInformationList.count, 1);
+  const umts_sccpch_system_information& c = f.sCCPCH_SystemInformationList.entries[0];
+  // tfcs, the FACH/PCH list and the PICH: the PICH stands under bit 1 with the list; bit 2
+  // stays clear.
+  EXPECT_EQ(c.presence_bitmask, 3);
+  EXPECT_EQ(c.secondaryCCPCH_Info.u.fdd.sf_AndCodeNumber.choice_tag, 5u);
+  EXPECT_EQ(c.secondaryCCPCH_Info.u.fdd.sf_AndCodeNumber.u.sf64, 1);
+  EXPECT_EQ(c.tfcs.u.normalTFCI_Signalling.u.complete.entries[3].ctfc, 3);
+  ASSERT_EQ(c.fach_PCH_InformationList.count, 2u);
+  EXPECT_EQ(c.fach_PCH_InformationList.entries[1].transportChannelIdentity, 13);
+  EXPECT_EQ(c.fach_PCH_InformationList.entries[1].transportFormatSet.u.commonTransChTFS.semistaticTF_Information.rateMatchingAttribute,
+            220);
+  EXPECT_EQ(c.pich_Info.u.fdd.channelisationCode256, 3);
+  expectSameOverTheBch(umts_sib_sib5, 5, &umts_sib_set::sib5, sib5.bytes, sib5.bits);
 }
 
 // ---- Transport formats and TFCS, converted from values built in code ---------------------
