@@ -66,14 +66,13 @@ TEST_F(ConvertSib5, SampleCellWholeAndOverTheBch) {
 // ---- Transport formats and TFCS, converted from values built in code ---------------------
 
 // Every CTFC of an added TFCS is kept in one octet, whatever its size; complete and addition
-// differ only in the tag; removal and replacement keep their TFCIs; an unknown tag is kept
-// alone.
+// differ only in the tag; an unknown tag is kept alone.
 TEST(ConvertTfcs, CtfcInOneOctetAndTheExplicitConfigurations) {
   TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element e12[2] = {{0, 0x123, {}}, {0, 4095, {}}};
   TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element e16{0, 0xBEEF, {}};
   TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element e24{0, 66051, {}};
   rtxDList l12{}, l16{}, l24{};
-  rtxDListNode nodes[8]{};
+  rtxDListNode nodes[4]{};
   append(l12, nodes[0], e12[0]);
   append(l12, nodes[1], e12[1]);
   append(l16, nodes[2], e16);
@@ -100,24 +99,7 @@ TEST(ConvertTfcs, CtfcInOneOctetAndTheExplicitConfigurations) {
       for (size_t i = 0; i < c.ctfcs.size(); i++) EXPECT_EQ(out.entries[i].ctfc, c.ctfcs[i]);
     }
   }
-  TFCS_Removal removals[3] = {{1}, {512}, {1023}};
-  ExplicitTFCS_Configuration_replacement replacement{};
-  replacement.tfcsAdd.ctfcSize.t = 5;
-  replacement.tfcsAdd.ctfcSize.u.ctfc12Bit = &l12;
-  for (int i = 0; i < 3; i++) append(replacement.tfcsRemoval, nodes[4 + i], removals[i]);
-  ExplicitTFCS_Configuration src{4, {}};
-  src.u.replacement = &replacement;
-  *flat = umts_explicit_tfcs_configuration{};
-  convert_explicit_tfcs_configuration(&src, flat.get());
-  EXPECT_EQ(flat->u.replacement.tfcsRemoval.count, 3);
-  EXPECT_EQ(flat->u.replacement.tfcsRemoval.tfci[1], 512);
-  EXPECT_EQ(flat->u.replacement.tfcsAdd.entries[1].ctfc, 0xFF);
-  src = {3, {}};
-  src.u.removal = &replacement.tfcsRemoval;
-  *flat = umts_explicit_tfcs_configuration{};
-  convert_explicit_tfcs_configuration(&src, flat.get());
-  EXPECT_EQ(flat->u.removal.tfci[2], 1023);
-  src.t = 9;
+  ExplicitTFCS_Configuration src{9, {}};
   *flat = umts_explicit_tfcs_configuration{};
   convert_explicit_tfcs_configuration(&src, flat.get());
   EXPECT_EQ(flat->choice_tag, 9u);
@@ -147,7 +129,7 @@ TEST(ConvertTfcs, TfciRangeCountInOneOctet) {
 }
 
 // The dynamic list of a common set ends with its last element in entry 0 and its full count;
-// a commonTDD-Choice tag keeps its low 16 bits. The dedicated twin is a proper list.
+// a commonTDD-Choice tag keeps its low 16 bits.
 TEST(ConvertTransportFormat, DynamicListsAndTheCommonTddTag) {
   CommonDynamicTF_Info_DynamicTTI elements[3]{};
   OctetModeRLC_SizeInfoType1 sizes[3]{};
@@ -189,27 +171,11 @@ TEST(ConvertTransportFormat, DynamicListsAndTheCommonTddTag) {
   EXPECT_EQ(tag.choice_tag, 2);
   EXPECT_TRUE(allZero(tag.u));  // the 32-bit tag was not 2: nothing converted
 
-  DedicatedDynamicTF_Info_DynamicTTI dedicated[2]{};
-  BitModeRLC_SizeInfo bits[2]{};
-  DedicatedDynamicTF_InfoList_DynamicTTI dlist{};
-  rtxDListNode dnodes[2]{};
-  for (int i = 0; i < 2; i++) {
-    bits[i].t = 1;
-    bits[i].u.sizeType1 = static_cast<uint8_t>(100 + i);
-    dedicated[i].rlc_Size.t = 1;
-    dedicated[i].rlc_Size.u.bitMode = &bits[i];
-    append(dlist, dnodes[i], dedicated[i]);
-  }
-  auto dflat = std::make_unique<umts_dedicated_dynamic_tf_info_list_dynamic_tti>();
-  convert_dedicated_dynamic_tf_info_list_dynamic_tti(&dlist, dflat.get());
-  ASSERT_EQ(dflat->count, 2);
-  EXPECT_EQ(dflat->entries[0].rlc_Size.u.bitMode.u.sizeType1, 100);
-  EXPECT_EQ(dflat->entries[1].rlc_Size.u.bitMode.u.sizeType1, 101);
 }
 
-// ---- S-CCPCH, PICH, PRACH records ----------------------------------------------------------
+// ---- S-CCPCH and PRACH records --------------------------------------------------------------
 
-TEST(ConvertSccpch, RepetitionPeriodsMidamblesAndPich) {
+TEST(ConvertSccpch, RepetitionPeriodsMidamblesAndTimingOffset) {
   // Repetition periods: 1 the tag alone, 2 its offset in the first octet, 4..64 both.
   RepetitionPeriodLengthAndOffset_repetitionPeriod2 p2{5};
   RepetitionPeriodLengthAndOffset_repetitionPeriod4 p4{3, 2};
@@ -250,30 +216,6 @@ TEST(ConvertSccpch, RepetitionPeriodsMidamblesAndPich) {
     EXPECT_EQ(out.u.type1.midambleAllocationMode, c.mode);
     EXPECT_EQ(out.u.type1.midambleShift, c.shift) << c.burst << "/" << c.mode;
   }
-
-  // PICH tdd: optional members by their bits, then paging indicator length, gap and PCH count.
-  PICH_Info_tdd ptdd{};
-  ptdd.m = 5;
-  ptdd.channelisationCode = 12;
-  ptdd.timeslot = 9;  // bit 1 clear: not copied
-  ptdd.midambleShiftAndBurstType.burstType.t = 1;
-  ptdd.midambleShiftAndBurstType.burstType.u.type1 = &t1;
-  ptdd.repetitionPeriodLengthOffset.t = 9;
-  ptdd.repetitionPeriodLengthOffset.u.rpp64_4 = 60;
-  ptdd.pagingIndicatorLength = 2;
-  ptdd.n_GAP = 1;
-  ptdd.n_PCH = 8;
-  PICH_Info pich{2, {}};
-  pich.u.tdd = &ptdd;
-  umts_pich_info pflat{};
-  convert_pich_info(&pich, &pflat);
-  EXPECT_EQ(pflat.u.tdd.presence_bitmask, 5);
-  EXPECT_EQ(pflat.u.tdd.channelisationCode, 12u);
-  EXPECT_EQ(pflat.u.tdd.timeslot, 0);
-  EXPECT_EQ(pflat.u.tdd.repetitionPeriodLengthOffset.u.rpp64_4, 60);
-  EXPECT_EQ(pflat.u.tdd.pagingIndicatorLength, 2u);
-  EXPECT_EQ(pflat.u.tdd.n_GAP, 1u);
-  EXPECT_EQ(pflat.u.tdd.n_PCH, 8);
 
   // timingOffset: the decoder's octet widened, no sign extension; an unknown sf tag alone.
   SecondaryCCPCH_Info_modeSpecificInfo_fdd sfdd{};
@@ -363,36 +305,9 @@ TEST(ConvertPrach, TddAlternatives) {
   EXPECT_EQ(octets(f8.bits.subchannels), (Bytes{0x81, 0, 0, 0}));
   EXPECT_TRUE(allZero(f8.behind));
 
-  // The TDD RACH: timeslot, code list, midamble; the tdd P-CCPCH and an unknown tag of it.
-  TDD_PRACH_CCodeList_sf16 sf16{3, {1, 4, 7}};
-  PRACH_RACH_Info_modeSpecificInfo_tdd rtdd{};
-  rtdd.timeslot = 6;
-  rtdd.channelisationCodeList.t = 2;
-  rtdd.channelisationCodeList.u.sf16 = &sf16;
-  rtdd.prach_Midamble = 1;
-  PRACH_RACH_Info rach{};
-  rach.modeSpecificInfo.t = 2;
-  rach.modeSpecificInfo.u.tdd = &rtdd;
-  umts_prach_rach_info rflat{};
-  convert_prach_rach_info(&rach, &rflat);
-  EXPECT_EQ(rflat.u.tdd.timeslot, 6);
-  EXPECT_EQ(rflat.u.tdd.channelisationCodeList.u.sf16.count, 3u);
-  EXPECT_EQ(rflat.u.tdd.channelisationCodeList.u.sf16.codes[2], 7u);
-  EXPECT_EQ(rflat.u.tdd.prach_Midamble, 1u);
-  PrimaryCCPCH_Info_tdd_syncCase_syncCase2 sync2{130};
-  PrimaryCCPCH_Info_tdd tdd{};
-  tdd.m = 3;
-  tdd.syncCase.t = 2;
-  tdd.syncCase.u.syncCase2 = &sync2;
-  tdd.cellParametersID = 127;
-  PrimaryCCPCH_Info src{2, {}};
-  src.u.tdd = &tdd;
+  // An unknown tag of the P-CCPCH is kept alone.
+  PrimaryCCPCH_Info src{5, {}};
   umts_primary_ccpch_info pflat{};
-  convert_primary_ccpch_info(&src, &pflat);
-  EXPECT_EQ(pflat.u.tdd.syncCase.u.timeslotSync2, 130);
-  EXPECT_EQ(pflat.u.tdd.cellParametersID, 127);
-  src.t = 5;
-  pflat = {};
   convert_primary_ccpch_info(&src, &pflat);
   EXPECT_EQ(pflat.choice_tag, 5u);
   EXPECT_TRUE(allZero(pflat.u));
