@@ -81,15 +81,6 @@ void checkSmallest(const umts_sib3_info& f) {
   EXPECT_EQ(f.cellAccessRestriction.cellReservationExtension, 1u);
 }
 
-// cpich-RSCP: its tag and nothing under it.
-void checkRscp(const umts_sib3_info& f) {
-  checkSmallest(f);
-  const umts_cell_select_reselect_info_sib_3_4& c = f.cellSelectReselectInfo;
-  EXPECT_EQ(c.presence_bitmask, 0);
-  EXPECT_EQ(c.cellSelectQualityMeasure.choice_tag, 2u);
-  EXPECT_TRUE(allZero(c.cellSelectQualityMeasure.u));
-}
-
 void buildFddFull(Sib3Builder& b) {
   CellSelectReselectInfoSIB_3_4& c = b.s.cellSelectReselectInfo;
   c.m = 3;
@@ -235,8 +226,10 @@ void buildRscpWithMapping(Sib3Builder& b) {
 }
 
 void checkRscpWithMapping(const umts_sib3_info& f) {
+  checkSmallest(f);
   const umts_mapping_function_parameter_list& p = f.cellSelectReselectInfo.mappingInfo.entries[0].mappingFunctionParameterList;
   EXPECT_EQ(f.cellSelectReselectInfo.cellSelectQualityMeasure.choice_tag, 2u);
+  EXPECT_TRUE(allZero(f.cellSelectReselectInfo.cellSelectQualityMeasure.u));  // the tag alone
   ASSERT_EQ(p.count, 2);
   EXPECT_EQ(p.entries[0].presence_bitmask, 2);
   EXPECT_EQ(p.entries[0].upperLimit, 0);
@@ -248,7 +241,6 @@ const struct {
   void (*build)(Sib3Builder&);
   void (*check)(const umts_sib3_info&);
 } kCases[] = {
-    {"smallest, cpich-RSCP", [](Sib3Builder&) {}, checkRscp},
     {"fdd, every optional element, the longest lists", buildFddFull, checkFddFull},
     {"tdd, q_HYST_2_S absent, t_CR_Max notUsed", buildTdd, checkTdd},
     {"cpich-RSCP under mappingInfo", buildRscpWithMapping, checkRscpWithMapping},

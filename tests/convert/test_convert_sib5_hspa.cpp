@@ -124,22 +124,8 @@ TEST(ConvertSib5HspaParts, V770ModeAlternatives) {
   }
 }
 
-// The HS-SCCH system information: the scrambling code under its bit, then the four codes.
 // Common E-DCH of a tdd cell: its inner tag, whatever it is.
-TEST(ConvertSib5HspaParts, HsScchCodesAndCommonEdchTddTags) {
-  for (uint32_t m : {0u, 1u}) {
-    HS_SCCH_SystemInfo src{};
-    src.m = m;
-    src.dl_ScramblingCode = 5;
-    src.hS_SCCHChannelisationCodeInfo.n = 4;
-    for (uint8_t i = 0; i < 4; i++) src.hS_SCCHChannelisationCodeInfo.elem[i] = static_cast<uint8_t>(120 + i);
-    umts_hs_scch_system_info out{};
-    convert_hs_scch_system_info(&src, &out);
-    EXPECT_EQ(out.presence_bitmask, m);
-    EXPECT_EQ(out.dl_ScramblingCode, m ? 5 : 0);
-    ASSERT_EQ(out.hS_SCCHChannelisationCodeInfo.count, 4u);
-    EXPECT_EQ(out.hS_SCCHChannelisationCodeInfo.entries[3], 123);
-  }
+TEST(ConvertSib5HspaParts, CommonEdchTddTags) {
   for (uint32_t inner : {1u, 2u, 3u}) {
     CommonEDCHSystemInfo_modeSpecificInfo_tdd tdd{};
     tdd.t = inner;

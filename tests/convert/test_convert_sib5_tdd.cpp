@@ -172,15 +172,8 @@ TEST(ConvertSib5TddParts, Tdd768PrachCodesOfBothSpreadingFactors) {
   }
 }
 
-// The r7 tdd128 S-CCPCH copies mbsfnSpecialTimeSlot with modulation whatever its option says,
-// and its members sit one word later than those of tdd384 and tdd768.
+// The r7 tdd128 S-CCPCH copies mbsfnSpecialTimeSlot with modulation whatever its option says.
 TEST(ConvertSib5TddParts, MbmsTdd128SpecialTimeslotTravelsWithModulation) {
-  static_assert(offsetof(umts_secondary_ccpch_info_mbms_r7_tdd128, commonTimeslotInfoMBMS) ==
-                    offsetof(umts_secondary_ccpch_info_mbms_r7_tdd384, commonTimeslotInfoMBMS) + 4,
-                "one word later");
-  static_assert(sizeof(umts_prach_partitioning_r7_tdd::count) == 1 && sizeof(umts_prach_partitioning_r7_fdd::count) == 1 &&
-                    sizeof(umts_prach_partitioning_tdd::count) == 4,
-                "the r7 partitioning counts are 8-bit, the base ones 32-bit");
   SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128 src = {};
   src.m = 0;  // option clear, value left in the decoded record
   src.mbsfnSpecialTimeSlot = 3;
