@@ -13,31 +13,18 @@ using meastest::buildSelection;
 
 namespace {
 
-enum class Tree { Sib11, Sib12, Sib11bis };
-
-// The decoded types of a form, and which form it is.
-#define LCR_FORM_TYPES(V)                                     \
-  using Cell = CellInfoSI_##V##_LCR_r4;                       \
-  using NewIntra = NewIntraFreqCellSI_##V##_LCR_r4;           \
-  using NewInter = NewInterFreqCellSI_##V##_LCR_r4;           \
-  using IntraMeas = IntraFreqMeasurementSysInfo_##V##_LCR_r4; \
-  using InterMeas = InterFreqMeasurementSysInfo_##V##_LCR_r4;
-struct Rscp {
-  LCR_FORM_TYPES(RSCP)
-  static constexpr int id = 0;
-};
-struct Ecno {
-  LCR_FORM_TYPES(ECN0)
-  static constexpr int id = 1;
-};
-struct HcsRscp {
-  LCR_FORM_TYPES(HCS_RSCP)
-  static constexpr int id = 2;
-};
-struct HcsEcno {
-  LCR_FORM_TYPES(HCS_ECN0)
-  static constexpr int id = 3;
-};
+// The decoded types of a form.
+#define LCR_FORM(Name, V)                                         \
+  struct Name {                                                   \
+    using NewIntra = NewIntraFreqCellSI_##V##_LCR_r4;             \
+    using NewInter = NewInterFreqCellSI_##V##_LCR_r4;             \
+    using IntraMeas = IntraFreqMeasurementSysInfo_##V##_LCR_r4;   \
+    using InterMeas = InterFreqMeasurementSysInfo_##V##_LCR_r4;   \
+  };
+LCR_FORM(Rscp, RSCP)
+LCR_FORM(Ecno, ECN0)
+LCR_FORM(HcsRscp, HCS_RSCP)
+LCR_FORM(HcsEcno, HCS_ECN0)
 
 // What a tree holds. Every cell's values follow from its salt.
 struct Shape {

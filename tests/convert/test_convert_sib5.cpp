@@ -258,13 +258,6 @@ TEST(ConvertPrach, SubChannelNumbersStayInTheirField) {
 }
 
 TEST(ConvertPrach, TddAlternatives) {
-  // The tdd alternative of the PRACH's modeSpecificInfo is its tag alone.
-  PRACH_SystemInformation_modeSpecificInfo mode{2, {}};
-  umts_prach_system_information_mode_specific_info mflat{};
-  convert_prach_system_information_modespecific_info(&mode, &mflat);
-  EXPECT_EQ(mflat.choice_tag, 2u);
-  EXPECT_TRUE(allZero(mflat.u));
-
   // TDD access classes: channelisationCodeIndices is its count and one octet; subchannel
   // sizes 1 (tag alone) to 8.
   AccessServiceClass_TDD_subchannelSize_size4 s4{1, bitString<AccessServiceClass_TDD_subchannelSize_size4_subchannels>({0xC0}, 2)};

@@ -99,38 +99,6 @@ TEST(ConvertSib5TddParts, BitStringsStayInTheirFields) {
   }
 }
 
-// VHCR timeslots of an additional list with new parameters, uplink and downlink.
-TEST(ConvertSib5TddParts, VhcrAdditionalTimeslotsWithNewParameters) {
-  UplinkAdditionalTimeslots_VHCR_parameters_newParameters upNew{};
-  upNew.individualTimeslotInfo.timeslotNumber = 5;
-  upNew.ul_TS_ChannelisationCodeList.n = 2;
-  upNew.ul_TS_ChannelisationCodeList.elem[1] = 9;
-  UplinkAdditionalTimeslots_VHCR up{};
-  up.parameters.t = 2;
-  up.parameters.u.newParameters = &upNew;
-  umts_uplink_additional_timeslots_vhcr upOut{};
-  convert_uplink_additional_timeslots_vhcr(&up, &upOut);
-  ASSERT_EQ(upOut.choice_tag, 2u);
-  EXPECT_EQ(upOut.u.newParameters.individualTimeslotInfo.timeslotNumber, 5);
-  EXPECT_EQ(upOut.u.newParameters.ul_TS_ChannelisationCodeList.count, 2u);
-  EXPECT_EQ(upOut.u.newParameters.ul_TS_ChannelisationCodeList.codes[1], 9u);
-
-  DownlinkAdditionalTimeslots_VHCR_parameters_newParameters downNew{};
-  downNew.individualTimeslotInfo.timeslotNumber = 6;
-  DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive consecutive{3, 7};
-  downNew.dl_TS_ChannelisationCodesShort.codesRepresentation.t = 1;
-  downNew.dl_TS_ChannelisationCodesShort.codesRepresentation.u.consecutive = &consecutive;
-  DownlinkAdditionalTimeslots_VHCR down{};
-  down.parameters.t = 2;
-  down.parameters.u.newParameters = &downNew;
-  umts_downlink_additional_timeslots_vhcr downOut{};
-  convert_downlink_additional_timeslots_vhcr(&down, &downOut);
-  ASSERT_EQ(downOut.choice_tag, 2u);
-  EXPECT_EQ(downOut.u.newParameters.individualTimeslotInfo.timeslotNumber, 6);
-  EXPECT_EQ(downOut.u.newParameters.dl_TS_ChannelisationCodesShort.u.consecutive.firstChannelisationCode, 3u);
-  EXPECT_EQ(downOut.u.newParameters.dl_TS_ChannelisationCodesShort.u.consecutive.lastChannelisationCode, 7u);
-}
-
 // The 1.28 Mcps common E-DCH keeps up to 256 E-RNTI groups under an 8-bit count (a full list
 // reads 0); each E-RNTI is held to its four octets, the group numbers after it are its own.
 TEST(ConvertSib5TddParts, ERntiGroupsUnderAnOctetCount) {
