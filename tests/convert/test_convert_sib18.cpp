@@ -177,12 +177,6 @@ const struct {
        b.multipleNeighbours(ext.connectedModePLMNIdentities, {0, 2});
      },
      true},
-    {"v6b0 lists for SIB11bis, v860 absent",
-     [](Sib18& b) {
-       b.v6b0().m = 2;
-       b.neighbours(b.v6b0().connectedModePLMNIdentitiesSIB11bis, {3, 2, 1});
-     },
-     true},
     {"32 cells of up to 6 PLMNs, v6b0 without its lists",
      [](Sib18& b) {
        b.s.m = 2;

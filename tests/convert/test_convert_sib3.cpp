@@ -1,14 +1,9 @@
 // The SIB3 conversion: built in code, encoded by the codec, sent whole and over the BCH.
-#include <cstddef>
-
 #include "convert_test.h"
 
 using namespace converttest;
 
 namespace {
-
-// A tdd cell keeps q_RxlevMin where an fdd cell keeps q_QualMin.
-static_assert(offsetof(umts_sib3_tdd_info, q_RxlevMin) == offsetof(umts_sib3_fdd_info, q_QualMin), "tdd q_RxlevMin");
 
 // A SysInfoType3 built in code, with the storage of its lists and alternatives. Starts as the
 // smallest SIB3: fdd without optional elements, cpich-RSCP, notBarred, no extensions.

@@ -257,7 +257,7 @@ TEST(ConvertPrach, SubChannelNumbersStayInTheirField) {
   EXPECT_TRUE(allZero(bits));
 }
 
-TEST(ConvertPrach, TddAlternatives) {
+TEST(ConvertPrach, TddAlternativesAndUnknownTags) {
   // TDD access classes: channelisationCodeIndices is its count and one octet; subchannel
   // sizes 1 (tag alone) to 8.
   AccessServiceClass_TDD_subchannelSize_size4 s4{1, bitString<AccessServiceClass_TDD_subchannelSize_size4_subchannels>({0xC0}, 2)};
@@ -298,24 +298,21 @@ TEST(ConvertPrach, TddAlternatives) {
   EXPECT_EQ(octets(f8.bits.subchannels), (Bytes{0x81, 0, 0, 0}));
   EXPECT_TRUE(allZero(f8.behind));
 
-  // An unknown tag of the P-CCPCH is kept alone.
+  // Unknown tags of the P-CCPCH and of SIB5's modeSpecificInfo are kept alone, silently.
   PrimaryCCPCH_Info src{5, {}};
   umts_primary_ccpch_info pflat{};
-  convert_primary_ccpch_info(&src, &pflat);
+  SysInfoType5_modeSpecificInfo_fdd fdd{-3};
+  SysInfoType5_modeSpecificInfo mode{3, {&fdd}};
+  static umts_sib5_mode_specific_info mflat;  // its TDD lists make it large: not on the stack
+  EXPECT_EQ(captureStdout([&] {
+              convert_primary_ccpch_info(&src, &pflat);
+              convert_sib_type_5_mode_specific_info(&mode, &mflat);
+            }),
+            "");
   EXPECT_EQ(pflat.choice_tag, 5u);
   EXPECT_TRUE(allZero(pflat.u));
-}
-
-// An unknown modeSpecificInfo tag of SIB5 is kept with an all-zero union; no message.
-TEST(ConvertSib5Top, UnknownModeTagIsKeptAlone) {
-  SysInfoType5_modeSpecificInfo_fdd fdd{-3};
-  SysInfoType5_modeSpecificInfo mode{3, {}};
-  mode.u.fdd = &fdd;
-  static umts_sib5_mode_specific_info flat;  // its TDD lists make it large: not on the stack
-  std::memset(static_cast<void*>(&flat), 0, sizeof flat);
-  EXPECT_EQ(captureStdout([&] { convert_sib_type_5_mode_specific_info(&mode, &flat); }), "");
-  EXPECT_EQ(flat.choice_tag, 3u);
-  EXPECT_TRUE(allZero(flat.u));
+  EXPECT_EQ(mflat.choice_tag, 3u);
+  EXPECT_TRUE(allZero(mflat.u));
 }
 
 }  // namespace
