@@ -340,10 +340,7 @@ void checkSib12(const umts_measurement_control_sys_info_lcr_r4_ext& f, int form,
     const auto& quantity = intra.intraFreqMeasQuantity.modeSpecificInfo.u.intraFreqMeasQuantity_TDDList;
     EXPECT_EQ(Bytes(quantity.entries, quantity.entries + 4), (Bytes{0, 2, 1, 0}));
     EXPECT_EQ(intra.maxReportedCellsOnRACH, 4u);
-    const auto& r = intra.reportingInfoForCellDCH;
-    EXPECT_EQ(r.intraFreqReportingQuantity.activeSetReportingQuantities.modeSpecificInfo.u.tdd.timeslotISCP_reportingIndicator, 1);
-    EXPECT_EQ(r.intraFreqReportingQuantity.monitoredSetReportingQuantities.dummy, 1u);
-    const auto& events = r.reportCriteria.u.intraFreqReportingCriteria.eventCriteriaList;
+    const auto& events = intra.reportingInfoForCellDCH.reportCriteria.u.intraFreqReportingCriteria.eventCriteriaList;
     ASSERT_EQ(events.count, 3);
     const auto& e1a = events.entries[0].event.u.e1a;
     EXPECT_EQ(e1a.reportingRange, 12);

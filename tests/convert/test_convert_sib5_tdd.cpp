@@ -59,9 +59,9 @@ TEST(ConvertSib5TddParts, BitStringsStayInTheirFields) {
   EXPECT_EQ(vhcrFlat.u.bitmap.numbits, 32u);
   EXPECT_EQ(octets(vhcrFlat.u.bitmap), (Bytes{1, 2, 3, 4}));
 
-  // An r7 access class: its 16 code indices, and the subchannel sizes: size2 a word, size4 to
-  // size16 numbits and at most four octets; nothing is written past the record.
-  for (uint32_t tag = 2; tag <= 5; tag++) {
+  // An r7 access class: its 16 code indices, and subchannels of size4 to size16, numbits and
+  // at most four octets; nothing is written past the record.
+  for (uint32_t tag = 3; tag <= 5; tag++) {
     SCOPED_TRACE(tag);
     AccessServiceClass_TDD_r7 cls{};
     cls.m = 1;
@@ -73,7 +73,6 @@ TEST(ConvertSib5TddParts, BitStringsStayInTheirFields) {
       size->m = 1;
       size->subchannels = bitString<decltype(size->subchannels)>({0xB1, 0xB2}, n);
     };
-    if (tag == 2) pool.alloc(src.u.size2)->m = 1, src.u.size2->subchannels = 1;
     if (tag == 3) bits(src.u.size4, 4);
     if (tag == 4) bits(src.u.size8, 8);
     if (tag == 5) bits(src.u.size16, 16);
@@ -88,10 +87,6 @@ TEST(ConvertSib5TddParts, BitStringsStayInTheirFields) {
     const umts_subchannel_size_r7& size = out.cls.subchannelSize;
     EXPECT_EQ(size.choice_tag, tag);
     EXPECT_TRUE(allZero(out.after));
-    if (tag == 2) {
-      EXPECT_EQ(size.u.size2.subchannels, 1u);
-      continue;
-    }
     const umts_subchannel_size_bits& s = tag == 3 ? size.u.size4 : tag == 4 ? size.u.size8 : size.u.size16;
     EXPECT_EQ(s.presence_bitmask, 1);
     EXPECT_EQ(s.subchannels.numbits, 1u << (tag - 1));
@@ -140,8 +135,15 @@ TEST(ConvertSib5TddParts, Tdd768PrachCodesOfBothSpreadingFactors) {
   }
 }
 
-// The r7 tdd128 S-CCPCH copies mbsfnSpecialTimeSlot with modulation whatever its option says.
+// The r7 tdd128 S-CCPCH copies mbsfnSpecialTimeSlot with modulation whatever its option says,
+// and its members sit one word later than those of tdd384 and tdd768.
 TEST(ConvertSib5TddParts, MbmsTdd128SpecialTimeslotTravelsWithModulation) {
+  static_assert(offsetof(umts_secondary_ccpch_info_mbms_r7_tdd128, commonTimeslotInfoMBMS) ==
+                    offsetof(umts_secondary_ccpch_info_mbms_r7_tdd384, commonTimeslotInfoMBMS) + 4,
+                "one word later");
+  static_assert(sizeof(umts_prach_partitioning_r7_tdd::count) == 1 && sizeof(umts_prach_partitioning_r7_fdd::count) == 1 &&
+                    sizeof(umts_prach_partitioning_tdd::count) == 4,
+                "the r7 partitioning counts are 8-bit, the base ones 32-bit");
   SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128 src = {};
   src.m = 0;  // option clear, value left in the decoded record
   src.mbsfnSpecialTimeSlot = 3;
