@@ -149,11 +149,8 @@ TEST_F(ConvertSib1, WholeAndOverTheBchGiveTheBuiltValues) {
     SCOPED_TRACE(c.name);
     uint32_t bits = 0;
     const std::vector<uint8_t> bytes = encode(asn1PE_UMTS_SysInfoType1, Sib1Builder(c).sib, &bits);
-    std::string out;
     std::memset(&result->sib1, 0xEE, sizeof result->sib1);  // the conversion rewrites all of it
-    ASSERT_EQ(whole(umts_sib_sib1, bytes, &out), 1);
-    EXPECT_EQ(result->presence_bitmask, 1u << umts_sib_sib1);
-    EXPECT_EQ(out.rfind("Decoded SysInfoType1\n", 0), 0u);
+    ASSERT_EQ(whole(umts_sib_sib1, bytes), 1);
     checkRecord(result->sib1, c);
     expectSameOverTheBch(umts_sib_sib1, 1, &umts_sib_set::sib1, bytes, bits);
   }

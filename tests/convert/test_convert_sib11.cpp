@@ -375,8 +375,8 @@ void checkMeasurement(const umts_measurement_control_sys_info& f, const FormCase
 
 class ConvertSib11 : public ConvertTest {
  protected:
-  uint8_t sib11(const SysInfoType11& s, std::string* out = nullptr) {
-    return whole(umts_sib_sib11, encode(asn1PE_UMTS_SysInfoType11, s), out);
+  uint8_t sib11(const SysInfoType11& s) {
+    return whole(umts_sib_sib11, encode(asn1PE_UMTS_SysInfoType11, s));
   }
 };
 
@@ -390,12 +390,8 @@ TEST_F(ConvertSib11, EachFormWithEitherAndBothFrequencyRecords) {
       SCOPED_TRACE(std::string(fc.name) + " " + std::to_string(which));
       MeasBuilder b(fc, which);
       SysInfoType11 s{};
-      s.sib12indicator = 1;
       s.measurementControlSysInfo = b.mc;
-      std::string out;
-      ASSERT_EQ(sib11(s, &out), 1);
-      EXPECT_EQ(out.rfind("Decoded SysInfoType11\n", 0), 0u);
-      EXPECT_EQ(result->sib11.sib12indicator, 1);
+      ASSERT_EQ(sib11(s), 1);
       checkMeasurement(result->sib11.measurementControlSysInfo, fc, b);
       const Bytes sib11Record(reinterpret_cast<const uint8_t*>(&result->sib11.measurementControlSysInfo),
                               reinterpret_cast<const uint8_t*>(&result->sib11.measurementControlSysInfo + 1));
@@ -403,8 +399,7 @@ TEST_F(ConvertSib11, EachFormWithEitherAndBothFrequencyRecords) {
       SysInfoType12 t{};
       t.m = 2;  // v4b0NonCriticalExtensions, without content
       t.measurementControlSysInfo = b.mc;
-      ASSERT_EQ(whole(umts_sib_sib12, encode(asn1PE_UMTS_SysInfoType12, t), &out), 1);
-      EXPECT_EQ(out.rfind("Decoded SysInfoType12\n", 0), 0u);
+      ASSERT_EQ(whole(umts_sib_sib12, encode(asn1PE_UMTS_SysInfoType12, t)), 1);
       EXPECT_EQ(result->sib12.presence_bitmask, 2);
       EXPECT_EQ(std::memcmp(&result->sib12.measurementControlSysInfo, sib11Record.data(), sib11Record.size()), 0);
     }
@@ -507,9 +502,7 @@ TEST_F(ConvertSib11, Sib11bisEcn0ConvertsBothCellLists) {
     a->m = which;
     if (which & 1u) buildIntraCells<NewIntraFreqCellSI_ECN0>(p, a->newIntraFreqCellList, 6, 5);
     if (which & 2u) buildInterCells<NewInterFreqCellSI_ECN0>(p, a->newInterFreqCellList, 9);
-    std::string out;
-    ASSERT_EQ(whole(umts_sib_sib11bis, encode(asn1PE_UMTS_SysInfoType11bis, s), &out), 1);
-    EXPECT_EQ(out.rfind("Decoded SysInfoType11bis\n", 0), 0u);
+    ASSERT_EQ(whole(umts_sib_sib11bis, encode(asn1PE_UMTS_SysInfoType11bis, s)), 1);
     const auto& f = result->sib11bis.measurementControlSysInfo.use_of_HCS.u.hcs_not_used.cellSelectQualityMeasure.u.cpich_Ec_N0;
     EXPECT_EQ(f.presence_bitmask, which);
     if (which & 1u) checkIntraCells(f.newIntraFreqCellList, 6, 5);

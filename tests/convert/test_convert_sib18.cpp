@@ -200,10 +200,7 @@ TEST_F(ConvertSib18, WholeAndOverBchGivesTheValuesBuilt) {
     ASSERT_LE(bytes.size(), static_cast<size_t>(UMTS_SIB_DECODE_LENGTH));
 
     std::memset(&result->sib18, 0xEE, sizeof result->sib18);
-    std::string out;
-    ASSERT_EQ(whole(umts_sib_sib18, bytes, &out), 1);
-    EXPECT_EQ(out.rfind("Decoded SysInfoType18\n", 0), 0u);
-    EXPECT_EQ(result->presence_bitmask, 1u << umts_sib_sib18);
+    ASSERT_EQ(whole(umts_sib_sib18, bytes), 1);
     expectSib18(b.s, result->sib18);
     if (c.bch) expectSameOverTheBch(umts_sib_sib18, 26, &umts_sib_set::sib18, bytes, bits);
   }

@@ -250,9 +250,7 @@ TEST_F(ConvertSib3, WholeAndBchGiveTheRecordBuilt) {
     SCOPED_TRACE(c.name);
     Sib3Builder builder;
     c.build(builder);
-    std::string out;
-    ASSERT_EQ(whole(umts_sib_sib3, builder.encode(), &out), 1);
-    EXPECT_EQ(out.rfind("Decoded SysInfoType3\n", 0), 0u);
+    ASSERT_EQ(whole(umts_sib_sib3, builder.encode()), 1);
     c.check(result->sib3);
     uint32_t bits = 0;
     const Bytes sib3 = builder.encode(&bits);

@@ -94,6 +94,27 @@ TEST(ConvertSib5TddParts, BitStringsStayInTheirFields) {
   }
 }
 
+// VHCR additional timeslots with new parameters, uplink and downlink, which the random
+// encodings do not reach.
+TEST(ConvertSib5TddParts, VhcrAdditionalTimeslotsWithNewParameters) {
+  UplinkAdditionalTimeslots_VHCR_parameters_newParameters upNew{};
+  upNew.individualTimeslotInfo.timeslotNumber = 5;
+  UplinkAdditionalTimeslots_VHCR up{};
+  up.parameters.t = 2;
+  up.parameters.u.newParameters = &upNew;
+  umts_uplink_additional_timeslots_vhcr upOut{};
+  convert_uplink_additional_timeslots_vhcr(&up, &upOut);
+  EXPECT_EQ(upOut.u.newParameters.individualTimeslotInfo.timeslotNumber, 5);
+  DownlinkAdditionalTimeslots_VHCR_parameters_newParameters downNew{};
+  downNew.individualTimeslotInfo.timeslotNumber = 6;
+  DownlinkAdditionalTimeslots_VHCR down{};
+  down.parameters.t = 2;
+  down.parameters.u.newParameters = &downNew;
+  umts_downlink_additional_timeslots_vhcr downOut{};
+  convert_downlink_additional_timeslots_vhcr(&down, &downOut);
+  EXPECT_EQ(downOut.u.newParameters.individualTimeslotInfo.timeslotNumber, 6);
+}
+
 // The 1.28 Mcps common E-DCH keeps up to 256 E-RNTI groups under an 8-bit count (a full list
 // reads 0); each E-RNTI is held to its four octets, the group numbers after it are its own.
 TEST(ConvertSib5TddParts, ERntiGroupsUnderAnOctetCount) {
@@ -104,7 +125,6 @@ TEST(ConvertSib5TddParts, ERntiGroupsUnderAnOctetCount) {
     for (unsigned i = 0; i < n; i++)
       pool.add(src.common_e_rnti_Info, Common_E_RNTI_Info_element{bitString<E_RNTI>({0xE0, static_cast<uint8_t>(i)}, 16),
                                                                    static_cast<uint8_t>(1 + i % 32), static_cast<uint8_t>(1 + i % 2)});
-    src.harq_power_offset = 6;
     auto out = std::make_unique<umts_ccch_transmission_info_tdd128>();
     convert_ccch_transmission_info_tdd128(&src, out.get());
     EXPECT_EQ(out->common_e_rnti_Info.count, n == 256 ? 0u : n);
@@ -112,7 +132,6 @@ TEST(ConvertSib5TddParts, ERntiGroupsUnderAnOctetCount) {
     EXPECT_EQ(octets(last.starting_E_RNTI), (Bytes{0xE0, static_cast<uint8_t>(n - 1), 0, 0}));
     EXPECT_EQ(last.number_of_group, 1 + (n - 1) % 32);
     EXPECT_EQ(last.number_of_ENRTI_per_group, 1 + (n - 1) % 2);
-    EXPECT_EQ(out->harq_power_offset, 6);
   }
 }
 
