@@ -23,8 +23,16 @@
 
 namespace {
 
-/* Frames gathered before the workers decode them. */
-constexpr size_t kBatchFrames = 1024;
+/* Frames gathered before the workers decode them. A batch's records (some 300 KB for 256
+   frames of the sample cycle) stay in the workers' buffers until the batch is written out:
+   larger batches spread the ring over more memory than the caches hold, smaller ones cost
+   more hand-overs. */
+constexpr size_t kBatchFrames = 256;
+/* A worker wakes the calling thread once it is done with every this many batches (or has
+   caught up with the batches handed out), so that the calling thread, when it waits for room
+   in the ring, writes out half the ring at a time rather than taking a core from a worker
+   for every batch. */
+constexpr unsigned long kWakeEvery = kParallelBatches / 2;
 
 FILE* append_stream(void* cookie, ssize_t (*append)(void*, const char*, size_t)) {
   const cookie_io_functions_t io = {nullptr, append, nullptr, nullptr};
@@ -171,7 +179,7 @@ ParallelFeed::ParallelFeed(unsigned workers, const std::function<std::unique_ptr
         decode_share(w, static_cast<int>(next % kParallelBatches));
         std::lock_guard<std::mutex> lock(sh.mutex);
         sh.finished[w] = next + 1;
-        sh.done.notify_one();
+        if ((next + 1) % kWakeEvery == 0 || next + 1 == sh.handed) sh.done.notify_one();
       }
     });
   }
