@@ -30,6 +30,15 @@ std::vector<uint8_t> fromHex(const std::string& hex);
 // A zero-filled slot buffer of the decode window's size holding `bytes`, its SIB requested.
 void putSlot(umts_sib_id id, const std::vector<uint8_t>& bytes);
 
+// What a file holds up to its position; the file is closed.
+inline std::string readAndClose(FILE* f) {
+  std::string text(static_cast<size_t>(std::ftell(f)), '\0');
+  std::rewind(f);
+  text.resize(std::fread(&text[0], 1, text.size(), f));
+  std::fclose(f);
+  return text;
+}
+
 // Everything written to file descriptor `fd` while fn runs; on 1 the codec's print included.
 template <typename Fn>
 std::string captureFd(int fd, Fn fn) {
@@ -42,11 +51,7 @@ std::string captureFd(int fd, Fn fn) {
   rtxPrintFlush();
   dup2(saved, fd);
   close(saved);
-  std::string text(static_cast<size_t>(std::ftell(tmp)), '\0');
-  std::rewind(tmp);
-  text.resize(std::fread(&text[0], 1, text.size(), tmp));
-  std::fclose(tmp);
-  return text;
+  return readAndClose(tmp);
 }
 template <typename Fn>
 std::string captureStdout(Fn fn) {

@@ -106,26 +106,8 @@ TEST_F(FrameReassembly, RealSib18OverTwoBlocksIsThePhonesSib18) {
   expectSameRecord(&umts_sib_set::sib18, umts_sib_sib18, kSib18);
 }
 
-// The handlers behind umts_check_and_decode_sibs, for one decoded block; no conversion runs.
-uint8_t fileParts(const BCCH_BCH_Message& m) {
-  g_umts_ctxt.sfn_prime = m.message.sfn_Prime;
-  const auto& u = m.message.payload.u;
-  switch (m.message.payload.t) {
-    case 2: return check_decode_first_segment(u.firstSegment);
-    case 3: return check_decode_subsequent_segment(u.subsequentSegment);
-    case 4: return check_decode_last_segment_short(u.lastSegmentShort);
-    case 5: return check_decode_last_and_first(u.lastAndFirst);
-    case 6: return check_decode_last_and_complete(u.lastAndComplete);
-    case 7: return check_decode_last_and_complete_and_first(u.lastAndCompleteAndFirst);
-    case 8: return check_decode_completeSIB_list(u.completeSIB_List);
-    case 9: return check_decode_complete_and_first(u.completeAndFirst);
-    case 10: return check_decode_complete_SIB(u.completeSIB);
-    case 11: return check_decode_last_segment(u.lastSegment);
-    default: return 0;
-  }
-}
-
-// Files the blocks' segments and takes each SIB that they complete out of its slot.
+// Files the blocks' segments (without a record: nothing is converted) and takes each SIB that
+// they complete out of its slot.
 struct Reassembly {
   std::map<unsigned, std::vector<uint8_t>> completed;  // by slot, the whole buffer
   std::set<uint32_t> payloads;
@@ -138,7 +120,7 @@ struct Reassembly {
     std::memset(&m, 0, sizeof m);
     ASSERT_EQ(asn1PD_UMTS_BCCH_BCH_Message(&ctx, &m), 0);
     payloads.insert(m.message.payload.t);
-    fileParts(m);
+    umts_check_and_decode_sibs(&ctx, &m, nullptr);
     rtFreeContext(&ctx);
     for (unsigned id = 0; id < umts_sib_count; id++) {
       if ((g_umts_ctxt.request_bitmask & (1u << id)) == 0) continue;
