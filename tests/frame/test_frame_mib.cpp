@@ -6,13 +6,6 @@ using namespace frametest;
 
 namespace {
 
-uint16_t raw16(uint8_t first, uint8_t second) {
-  const uint8_t bytes[2] = {first, second};
-  uint16_t word;
-  std::memcpy(&word, bytes, 2);
-  return word;
-}
-
 void setAnsi(P_REV& p_rev, Min_P_REV& min_p_rev, SID& sid, NID& nid) {
   p_rev = {8, {0x12}};
   min_p_rev = {8, {0x34}};
@@ -24,8 +17,8 @@ template <typename Flat>
 void expectAnsi(const Flat& a) {
   EXPECT_EQ(a.p_REV, 0x12);
   EXPECT_EQ(a.min_P_REV, 0x34);
-  EXPECT_EQ(a.sid, raw16(0xAB, 0xCC));  // the octets in memory order, unswapped
-  EXPECT_EQ(a.nid, raw16(0xDE, 0xAD));
+  EXPECT_EQ(std::memcmp(&a.sid, "\xAB\xCC", 2), 0);  // the octets in memory order, unswapped
+  EXPECT_EQ(std::memcmp(&a.nid, "\xDE\xAD", 2), 0);
 }
 
 // ---- The cases: each builds on the default MIB and checks what it built -----------------
