@@ -224,6 +224,7 @@ TEST(CodecNames, LookupsBothWays) {
   EXPECT_EQ(UMTS_SIB_Type_ToEnum(ctx, "systemInformationBlockType15-5", &v), 0);
   EXPECT_EQ(v, 29u);
   v = 77;
+  EXPECT_EQ(UMTS_TFCI_Coding_ToEnum(ctx, "", &v), RT_ERR_INVENUM);
   EXPECT_EQ(UMTS_TFCI_Coding_ToEnum(ctx, "tfci_bits_8", &v), RT_ERR_INVENUM);
   EXPECT_EQ(v, 77u) << "a failed lookup leaves the value";
   // ToEnum2 takes a length: the text need not end in a null.
