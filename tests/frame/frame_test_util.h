@@ -165,16 +165,16 @@ class FrameTest : public ::testing::Test {
 
   // A transport block through the BCH entry; its result, and what it printed in `out`.
   uint8_t feed(const std::vector<uint8_t>& block, std::string* out = nullptr) {
-    uint8_t ret = 0xEE;
-    const std::string text = captureStdout([&] { ret = umts_sib_decoder(block.data(), result, static_cast<uint32_t>(block.size())); });
-    if (out != nullptr) *out = text;
-    return ret;
+    return printing(out, [&] { return umts_sib_decoder(block.data(), result, static_cast<uint32_t>(block.size())); });
   }
   // One whole SIB through the other entry.
   uint8_t whole(umts_sib_id id, const std::vector<uint8_t>& bytes, std::string* out = nullptr) {
+    return printing(out, [&] { return umts_sib_msg_decoder(id, bytes.data(), result, static_cast<uint32_t>(bytes.size())); });
+  }
+  template <typename Fn>
+  uint8_t printing(std::string* out, Fn entry) {
     uint8_t ret = 0xEE;
-    const std::string text = captureStdout(
-        [&] { ret = umts_sib_msg_decoder(id, bytes.data(), result, static_cast<uint32_t>(bytes.size())); });
+    const std::string text = captureStdout([&] { ret = entry(); });
     if (out != nullptr) *out = text;
     return ret;
   }
