@@ -7,10 +7,12 @@ repository they default to the build tree build/:
   UMTS_BUILD_DIR           the build tree to install  CMAKE_COMMAND  cmake
 """
 import os
+import re
 import runpy
 import shutil
 import subprocess
 import sys
+import textwrap
 from pathlib import Path
 
 import pytest
@@ -99,13 +101,8 @@ def late_stream():
 
 
 def test_the_docstring_example_runs_on_a_stream_that_starts_mid_sib(capsys):
-    lines = sd.__doc__.split("    import sibdecoder_umts", 1)[1].splitlines()
-    example = ["import sibdecoder_umts" + lines[0]]
-    for line in lines[1:]:
-        if line.strip() and not line.startswith("    "):
-            break
-        example.append(line[4:])
-    code = "\n".join(example)
+    # The indented block from its import to the first paragraph that is not indented.
+    code = textwrap.dedent(re.search(r"\n(    import sibdecoder_umts.*?)\n\n(?! )", sd.__doc__, re.S).group(1))
     sib3 = next(t for t in (REPO / "samples/fdd_cell_sibs.txt").read_text().split("\n") if t.startswith("sib3 "))
     exec(code, {"transport_blocks": late_stream(), "sib3_bytes": bytes.fromhex(sib3.split()[1])})
     out = capsys.readouterr().out
@@ -135,22 +132,24 @@ def test_explicit_library_paths():
 
 
 def where_found(python_path, cwd):
-    """library_path() and the module's file, in a fresh interpreter that has no library named."""
+    """library_path() and the module's file, in a fresh interpreter that has no library named;
+    the MIB decoded there and its value tag in the summary, through the summary library beside."""
     env = {k: v for k, v in os.environ.items() if k not in (sd.LIBRARY_ENV, "PYTHONPATH")}
     env["PYTHONPATH"] = str(python_path)
-    script = ("import sibdecoder_umts as sd; print(sd.library_path()); print(sd.__file__); "
-              "print(sorted(sd.Decoder().feed_block(bytes.fromhex(input()))))")
+    script = ("import sibdecoder_umts as sd; d = sd.Decoder(); print(sd.library_path()); print(sd.__file__); "
+              "print(sorted(d.feed_block(bytes.fromhex(input())))); print(d.summary()['schedule'][0]['value_tag'])")
     block = next(sample_lines("fdd_cell.bch"))[1]
     out = subprocess.run([sys.executable, "-s", "-c", script], input=block, env=env, cwd=cwd,
                          check=True, capture_output=True, text=True).stdout.splitlines()
-    assert out[2] == "['mib']"
+    assert out[2:] == ["['mib']", "3"]
     return Path(out[0]), Path(out[1])
 
 
 def test_library_found_in_the_build_tree(tmp_path):
     shutil.copytree(PYTHON_DIR / "sibdecoder_umts", tmp_path / "python/sibdecoder_umts")
     (tmp_path / "build").mkdir()
-    shutil.copy(sd.library_path(), tmp_path / "build/libsibdecoder_umts.so")
+    for name in ("libsibdecoder_umts.so", "libsibdecoder_umts_summary.so"):
+        shutil.copy(Path(sd.library_path()).parent / name, tmp_path / "build" / name)
     library, module = where_found(tmp_path / "python", tmp_path)
     assert (library, module.parent) == (tmp_path / "build/libsibdecoder_umts.so", tmp_path / "python/sibdecoder_umts")
 
@@ -169,11 +168,3 @@ def test_library_found_after_installation(tmp_path):
         shutil.copy(sd.library_path(), libdir / "libsibdecoder_umts.so")
     library, module = where_found(package.parent, tmp_path)
     assert library.parent == libdir and module.parent == package
-    # The summary library is installed beside it and found there: the MIB's value tag.
-    env = {k: v for k, v in os.environ.items() if k not in (sd.LIBRARY_ENV, "PYTHONPATH")}
-    env["PYTHONPATH"] = str(package.parent)
-    script = ("import sibdecoder_umts as sd; d = sd.Decoder(); d.feed_block(bytes.fromhex(input())); "
-              "print(d.summary()['schedule'][0]['value_tag'])")
-    out = subprocess.run([sys.executable, "-s", "-c", script], input=next(sample_lines("fdd_cell.bch"))[1], env=env,
-                         cwd=tmp_path, check=True, capture_output=True, text=True).stdout
-    assert out == "3\n"

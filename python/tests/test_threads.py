@@ -16,16 +16,24 @@ def stream_records(offset=0):
     return [dec.feed_block(b, strict=False) for b in (cycle[offset:] + cycle) * 2]
 
 
-def test_decoders_on_threads_keep_their_own_streams():
-    alone = {k: stream_records(k) for k in range(4)}
-    got = {}
+def _decode_in_worker(offset):
+    return stream_records(offset)
+
+
+def test_decoders_on_threads_and_in_worker_processes_keep_their_own_streams():
+    alone = [stream_records(k) for k in range(4)]
+    assert any(alone[0][i] != alone[1][i] for i in range(len(alone[0])))  # the streams differ
+    got = [None] * 4
     threads = [threading.Thread(target=lambda k=k: got.__setitem__(k, stream_records(k))) for k in range(4)]
     for t in threads:
         t.start()
     for t in threads:
         t.join()
     assert got == alone
-    assert any(alone[0][i] != alone[1][i] for i in range(len(alone[0])))  # the streams differ
+    for method in ("fork", "spawn"):
+        context = multiprocessing.get_context(method)
+        with concurrent.futures.ProcessPoolExecutor(max_workers=2, mp_context=context) as pool:
+            assert list(pool.map(_decode_in_worker, range(4))) == alone, method
 
 
 def test_a_thread_runs_while_another_waits_inside_the_library(tmp_path):
@@ -67,14 +75,3 @@ def test_a_thread_runs_while_another_waits_inside_the_library(tmp_path):
     assert len(text) > 5 * 65536
     assert text.count(b"UMTS_BCCH_BCH_Message") == 8 * len(blocks())
 
-
-def _decode_in_worker(offset):
-    return stream_records(offset)
-
-
-def test_decoders_in_worker_processes():
-    alone = [stream_records(k) for k in range(3)]
-    for method in ("fork", "spawn"):
-        context = multiprocessing.get_context(method)
-        with concurrent.futures.ProcessPoolExecutor(max_workers=2, mp_context=context) as pool:
-            assert list(pool.map(_decode_in_worker, range(3))) == alone, method

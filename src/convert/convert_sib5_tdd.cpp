@@ -37,7 +37,6 @@ inline void conv(const UplinkTimeslotsCodes_VHCR_moreTimeslots* s, umts_uplink_m
 inline void conv(const DownlinkTimeslotsCodes_moreTimeslots* s, umts_downlink_more_timeslots* d) { convert_downlink_timeslots_codes_more_timeslots(s, d); }
 inline void conv(const DownlinkTimeslotsCodes_LCR_r4_moreTimeslots* s, umts_downlink_more_timeslots_lcr_r4* d) { convert_downlink_timeslots_codes_lcr_r4_more_timeslots(s, d); }
 inline void conv(const DownlinkTimeslotsCodes_VHCR_moreTimeslots* s, umts_downlink_more_timeslots_vhcr* d) { convert_downlink_timeslots_codes_vhcr_more_timeslots(s, d); }
-inline void conv(const DownlinkTimeslotsCodes_r7_moreTimeslots* s, umts_downlink_more_timeslots_r7* d) { convert_downlink_timeslots_codes_r7_more_timeslots(s, d); }
 inline void conv(const UplinkAdditionalTimeslots* s, umts_uplink_additional_timeslots* d) { convert_uplink_additional_timeslots(s, d); }
 inline void conv(const UplinkAdditionalTimeslots_LCR_r4* s, umts_uplink_additional_timeslots_lcr_r4* d) { convert_uplink_additional_timeslots_lcr_r4(s, d); }
 inline void conv(const UplinkAdditionalTimeslots_VHCR* s, umts_uplink_additional_timeslots_vhcr* d) { convert_uplink_additional_timeslots_vhcr(s, d); }

@@ -132,14 +132,20 @@ SummaryNode named(const char* name, uint32_t ordinal) {
 /* Why block `id` is missing from the cell: not received, or received in part (a SIB whose
    first segments came and whose last did not: "SIB5 incomplete: 3 of 13 segments received"). */
 std::string block_missing(const CellRecords& cell, umts_sib_id id) {
-  static const char* const kNames[umts_sib_count] = {"MIB",  "SIB1",  "SIB2",     "SIB3",  "SIB5", "SIB7",
-                                                     "SIB11", "SIB11bis", "SIB12", "SIB18", "SB1",  "SB2"};
-  if (static_cast<uint32_t>(id) >= umts_sib_count) return "not received";
+  const char* field = umts_sib_name(id);
+  if (field == nullptr) return "not received";
+  /* The block as people write it: the letters before the number in capitals ("sib11bis" ->
+     "SIB11bis", "mib" -> "MIB"). */
+  std::string name = field;
+  for (char& c : name) {
+    if (c >= '0' && c <= '9') break;
+    c = static_cast<char>(c - 'a' + 'A');
+  }
   if (cell.segments_total(id) != 0)
-    return std::string(kNames[id]) + " incomplete: " + std::to_string(cell.segments_received(id)) + " of " +
+    return name + " incomplete: " + std::to_string(cell.segments_received(id)) + " of " +
            std::to_string(cell.segments_total(id)) + " segments received";
   if (id == umts_sib_mib) return "no MIB received";
-  return std::string(kNames[id]) + " not received";
+  return name + " not received";
 }
 
 std::string digits(const uint8_t* d, uint32_t count) {

@@ -3,6 +3,7 @@
  * broadcast schedule drawn across the 4096-frame SFN cycle, whole and its first 256 frames.
  * No external resource: the style is inline, the drawings are inline SVG.
  */
+#include <algorithm>
 #include <cstdio>
 #include <set>
 #include <string>
@@ -15,7 +16,7 @@ namespace {
 
 constexpr int kCycle = 4096;   /* frames of the SFN cycle */
 constexpr int kZoom = 256;     /* frames of the close view */
-constexpr int kLabel = 170;    /* width of the row labels */
+constexpr int kLabel = 170;    /* width of the row labels, at least */
 constexpr int kRow = 18;       /* height of a row */
 
 const char kStyle[] =
@@ -177,7 +178,12 @@ std::vector<ScheduleRow> schedule_rows(const SummaryNode& schedule) {
 
 /* The rows drawn over frames [0, span) at `scale` pixels per frame, ticks every `tick`. */
 std::string schedule_svg(const std::vector<ScheduleRow>& rows, int span, double scale, int tick, bool titles) {
-  const int width = kLabel + static_cast<int>(span * scale) + 16; /* room for half the last tick's label */
+  /* The labels' column is as wide as the longest label ("SIB11bis (12 of 13 segments)"), at
+     some 7 pixels a character, so that no label runs under the blocks. */
+  int label = kLabel;
+  for (const ScheduleRow& row : rows)
+    label = std::max(label, 8 + 7 * static_cast<int>(row.sib.size() + (row.seen ? 0 : row.not_seen.size())));
+  const int width = label + static_cast<int>(span * scale) + 16; /* room for half the last tick's label */
   const int height = static_cast<int>(rows.size()) * kRow + 24;
   char buf[256];
   std::snprintf(buf, sizeof buf,
@@ -186,7 +192,7 @@ std::string schedule_svg(const std::vector<ScheduleRow>& rows, int span, double 
                 width, height, width, height, span - 1);
   std::string out = buf;
   for (int f = 0; f <= span; f += tick) {
-    const double x = kLabel + f * scale;
+    const double x = label + f * scale;
     std::snprintf(buf, sizeof buf,
                   "<line x1=\"%.2f\" y1=\"0\" x2=\"%.2f\" y2=\"%d\" stroke=\"#ddd\"/>"
                   "<text x=\"%.2f\" y=\"%d\" text-anchor=\"middle\">%d</text>",
@@ -207,7 +213,7 @@ std::string schedule_svg(const std::vector<ScheduleRow>& rows, int span, double 
         /* A segment takes the 20 ms TTI: two frames. */
         const double w = 2 * scale < 1 ? 1 : 2 * scale;
         std::snprintf(buf, sizeof buf, "<rect x=\"%.2f\" y=\"%d\" width=\"%.2f\" height=\"%d\" fill=\"%s\">",
-                      kLabel + frame * scale, y + 3, w, kRow - 6, colour);
+                      label + frame * scale, y + 3, w, kRow - 6, colour);
         out += buf;
         if (titles) {
           std::snprintf(buf, sizeof buf, "<title>%s segment %zu at SFN %d</title>", escape(row.sib).c_str(), s + 1,

@@ -5,7 +5,10 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
 #include <memory>
+#include <sstream>
+#include <string>
 #include <type_traits>
 #include <vector>
 
@@ -49,6 +52,26 @@ struct Pool {
 template <class BitString>
 Bytes octets(const BitString& b) {
   return Bytes(b.data, b.data + sizeof b.data);
+}
+
+// A SIB of a sample cell's list (samples/*_sibs.txt, written by mksamples from values set
+// there): the `nth` line named `name`, with the bit count of the comment above it.
+struct SampleSib {
+  Bytes bytes;
+  uint32_t bits = 0;
+};
+inline SampleSib sampleSib(const char* file, const std::string& name, unsigned nth = 0) {
+  std::ifstream in(std::string(UMTS_SAMPLES_DIR) + "/" + file);
+  std::string line, comment;
+  while (std::getline(in, line)) {
+    std::istringstream fields(line);
+    std::string first, hex;
+    if (line.rfind("#", 0) == 0) comment = line;
+    else if (fields >> first >> hex && first == name && nth-- == 0)
+      return {fromHex(hex), static_cast<uint32_t>(std::stoul(comment.substr(comment.rfind(", ") + 2)))};
+  }
+  ADD_FAILURE() << name << " is not in " << file;
+  return {};
 }
 
 class ConvertTest : public FrameTest {

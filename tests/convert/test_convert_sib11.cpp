@@ -3,75 +3,14 @@
 #include <string>
 
 #include "convert_test.h"
+#include "meas_builder.h"
 
 using namespace converttest;
+using namespace meastest;
 
 namespace {
 
-template <class P>
-using Pointee = std::remove_pointer_t<P>;
-
-#define UMTS_HAS_MEMBER(trait, member)                                                      \
-  template <class T, class = void>                                                          \
-  struct trait : std::false_type {};                                                        \
-  template <class T>                                                                        \
-  struct trait<T, std::void_t<decltype(std::declval<T&>().member)>> : std::true_type {};
-UMTS_HAS_MEMBER(HasOneOffset, q_OffsetS_N)
-UMTS_HAS_MEMBER(HasHcsRscp, hcs_NeighbouringCellInformation_RSCP)
-UMTS_HAS_MEMBER(HasHcsEcn0, hcs_NeighbouringCellInformation_ECN0)
-
 // ---- Cells: built from their index, in any of the four forms ---------------------------------
-
-// The selection record of cell `i`: offsets, the TX power on odd cells, HCS on every fourth
-// (the ECN0 penalty time through a pointer), and the fdd, tdd and gsm modes in turn.
-template <class Sel>
-void buildSelection(Pool& p, Sel& s, unsigned i) {
-  if constexpr (HasOneOffset<Sel>::value) {
-    s.q_OffsetS_N = static_cast<int8_t>(static_cast<int>(i) - 16);
-  } else {
-    s.q_Offset1S_N = static_cast<int8_t>(-static_cast<int>(i));
-    s.q_Offset2S_N = static_cast<int8_t>(i);
-  }
-  if (i % 2) {
-    s.m |= 1u;
-    s.maxAllowedUL_TX_Power = static_cast<int8_t>(-50 + static_cast<int>(i));
-  }
-  if constexpr (HasHcsRscp<Sel>::value || HasHcsEcn0<Sel>::value) {
-    if (i % 4 == 0) {
-      s.m |= 2u;
-      if constexpr (HasHcsRscp<Sel>::value) {
-        auto& h = s.hcs_NeighbouringCellInformation_RSCP;
-        h.hcs_PRIO = static_cast<uint8_t>(i % 8);
-        h.q_HCS = static_cast<uint8_t>(90 + i % 10);
-        h.hcs_CellReselectInformation.penaltyTime.t = 2;
-        h.hcs_CellReselectInformation.penaltyTime.u.pt10 = 1 + i % 7;
-      } else {
-        auto& h = s.hcs_NeighbouringCellInformation_ECN0;
-        h.hcs_PRIO = static_cast<uint8_t>(i % 8);
-        h.q_HCS = static_cast<uint8_t>(90 + i % 10);
-        h.hcs_CellReselectInformation.penaltyTime.t = 2;
-        p.alloc(h.hcs_CellReselectInformation.penaltyTime.u.pt10)->temporaryOffset1 = 1 + i % 7;
-        h.hcs_CellReselectInformation.penaltyTime.u.pt10->temporaryOffset2 = 6 - i % 7;
-      }
-    }
-  }
-  auto& mode = s.modeSpecificInfo;
-  mode.t = 1 + i % 3;
-  if (mode.t == 1) {
-    auto* fdd = p.alloc(mode.u.fdd);
-    fdd->m = i % 4;
-    fdd->q_QualMin = static_cast<int8_t>(-static_cast<int>(i % 25));
-    fdd->q_RxlevMin = static_cast<int8_t>(-58 + static_cast<int>(i));
-  } else if (mode.t == 2) {
-    auto* tdd = p.alloc(mode.u.tdd);
-    tdd->m = 1;
-    tdd->q_RxlevMin = static_cast<int8_t>(-13 - static_cast<int>(i));
-  } else {
-    auto* gsm = p.alloc(mode.u.gsm);
-    gsm->m = 1;
-    gsm->q_RxlevMin = -40;
-  }
-}
 
 void buildPrimaryCcpch(Pool& p, PrimaryCCPCH_Info& c, unsigned i) {
   c.t = 2;
@@ -119,7 +58,7 @@ void buildCell(Pool& p, Cell& c, unsigned i) {
   }
   if (i % 3 != 1) {
     c.m |= 2u;
-    buildSelection(p, c.cellSelectionReselectionInfo, i);
+    buildSelection(p, c.cellSelectionReselectionInfo, i, i % 4 == 0);
   }
 }
 
@@ -164,7 +103,7 @@ void checkCell(const Flat& f, unsigned i) {
   EXPECT_EQ(s.maxAllowedUL_TX_Power, i % 2 ? -50 + static_cast<int>(i) : 0);
   ASSERT_EQ(s.modeSpecificInfo.choice_tag, 1 + i % 3);
   if (i % 3 == 0) EXPECT_EQ(s.modeSpecificInfo.u.fdd.q_RxlevMin, i % 4 >= 2 ? -58 + static_cast<int>(i) : 0);
-  else EXPECT_EQ(s.modeSpecificInfo.u.gsm.q_RxlevMin, -40);
+  else EXPECT_EQ(s.modeSpecificInfo.u.gsm.q_RxlevMin, i % 2 ? -40 : 0);
 }
 
 // The HCS information of cell `i` (a multiple of 4) in the RSCP and ECN0 forms.
@@ -436,8 +375,8 @@ void checkMeasurement(const umts_measurement_control_sys_info& f, const FormCase
 
 class ConvertSib11 : public ConvertTest {
  protected:
-  uint8_t sib11(const SysInfoType11& s, std::string* out = nullptr) {
-    return whole(umts_sib_sib11, encode(asn1PE_UMTS_SysInfoType11, s), out);
+  uint8_t sib11(const SysInfoType11& s) {
+    return whole(umts_sib_sib11, encode(asn1PE_UMTS_SysInfoType11, s));
   }
 };
 
@@ -451,12 +390,8 @@ TEST_F(ConvertSib11, EachFormWithEitherAndBothFrequencyRecords) {
       SCOPED_TRACE(std::string(fc.name) + " " + std::to_string(which));
       MeasBuilder b(fc, which);
       SysInfoType11 s{};
-      s.sib12indicator = 1;
       s.measurementControlSysInfo = b.mc;
-      std::string out;
-      ASSERT_EQ(sib11(s, &out), 1);
-      EXPECT_EQ(out.rfind("Decoded SysInfoType11\n", 0), 0u);
-      EXPECT_EQ(result->sib11.sib12indicator, 1);
+      ASSERT_EQ(sib11(s), 1);
       checkMeasurement(result->sib11.measurementControlSysInfo, fc, b);
       const Bytes sib11Record(reinterpret_cast<const uint8_t*>(&result->sib11.measurementControlSysInfo),
                               reinterpret_cast<const uint8_t*>(&result->sib11.measurementControlSysInfo + 1));
@@ -464,8 +399,7 @@ TEST_F(ConvertSib11, EachFormWithEitherAndBothFrequencyRecords) {
       SysInfoType12 t{};
       t.m = 2;  // v4b0NonCriticalExtensions, without content
       t.measurementControlSysInfo = b.mc;
-      ASSERT_EQ(whole(umts_sib_sib12, encode(asn1PE_UMTS_SysInfoType12, t), &out), 1);
-      EXPECT_EQ(out.rfind("Decoded SysInfoType12\n", 0), 0u);
+      ASSERT_EQ(whole(umts_sib_sib12, encode(asn1PE_UMTS_SysInfoType12, t)), 1);
       EXPECT_EQ(result->sib12.presence_bitmask, 2);
       EXPECT_EQ(std::memcmp(&result->sib12.measurementControlSysInfo, sib11Record.data(), sib11Record.size()), 0);
     }
@@ -568,9 +502,7 @@ TEST_F(ConvertSib11, Sib11bisEcn0ConvertsBothCellLists) {
     a->m = which;
     if (which & 1u) buildIntraCells<NewIntraFreqCellSI_ECN0>(p, a->newIntraFreqCellList, 6, 5);
     if (which & 2u) buildInterCells<NewInterFreqCellSI_ECN0>(p, a->newInterFreqCellList, 9);
-    std::string out;
-    ASSERT_EQ(whole(umts_sib_sib11bis, encode(asn1PE_UMTS_SysInfoType11bis, s), &out), 1);
-    EXPECT_EQ(out.rfind("Decoded SysInfoType11bis\n", 0), 0u);
+    ASSERT_EQ(whole(umts_sib_sib11bis, encode(asn1PE_UMTS_SysInfoType11bis, s)), 1);
     const auto& f = result->sib11bis.measurementControlSysInfo.use_of_HCS.u.hcs_not_used.cellSelectQualityMeasure.u.cpich_Ec_N0;
     EXPECT_EQ(f.presence_bitmask, which);
     if (which & 1u) checkIntraCells(f.newIntraFreqCellList, 6, 5);

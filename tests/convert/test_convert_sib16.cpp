@@ -5,7 +5,6 @@
 
 #include "frame_test_util.h"
 #include "umts_sib_convert.h"
-#include "umts_sib_json.h"
 
 using namespace frametest;
 
@@ -339,17 +338,9 @@ TEST(ConvertSib16Parts, ExplicitSizesTakeTheFirstValue) {
   EXPECT_EQ(after[1], 0);
 }
 
-// The RLC alternatives: same_as_RB one byte; the message's dl UM (tag 2) read as TM with
-// nothing behind it; its TM (tag 3) unknown, with the line; a UL rach "Not used".
+// The RLC alternatives: the message's dl UM (tag 2) read as TM with nothing behind it; its TM
+// (tag 3) unknown, with the line; a UL rach "Not used".
 TEST(ConvertSib16Parts, RlcAlternativesAndTheirLines) {
-  RLC_InfoChoice same = {};
-  same.t = 2;
-  same.u.same_as_RB = 17;
-  umts_sib16_rlc_info_choice c = {};
-  decode_rlc_info_choice(&same, &c);
-  EXPECT_EQ(c.choice_tag, 2u);
-  EXPECT_EQ(c.u.same_as_RB, 17);
-
   DL_TM_RLC_Mode tm = {1};
   struct Case {
     uint32_t tag;
@@ -400,25 +391,6 @@ TEST_F(ConvertSib16, FailedDecodeIsConvertedPartly) {
   EXPECT_EQ(at<umts_sib16_srb_information_setup>(*out, kEntry0).rb_Identity, 4);
   EXPECT_EQ(c.rb_InformationList.count, 0);
   EXPECT_EQ(out->preDefinedRadioConfiguration.open_list_room[UMTS_SIB16_OPEN_LIST_ROOM - 1], 0);  // cleared
-}
-
-// The record's JSON, its length asked first, opens with the timer and the two lists' counts
-// that the conversion wrote.
-TEST_F(ConvertSib16, JsonOfTheRecord) {
-  static Sib16Builder b;
-  b.srbAndRb(1, 1, 2, 2);
-  Host host;
-  ASSERT_EQ(host.convert(b.encode(), out), 0);
-  const size_t length = umts_sib16_json(out, nullptr, 0);
-  std::vector<char> text(length + 1);
-  EXPECT_EQ(umts_sib16_json(out, text.data(), text.size()), length);
-  const std::string json(text.data());
-  EXPECT_EQ(json.size(), length);
-  EXPECT_EQ(json.rfind("{\"presence_bitmask\":0,\"preDefinedRadioConfiguration\":{\"predefinedRB_Configuration\":"
-                       "{\"re_EstablishmentTimer\":1,\"srb_InformationList\":{\"count\":1},\"rb_InformationList\":{\"count\":1}}",
-                       0),
-            0u)
-      << json.substr(0, 200);
 }
 
 }  // namespace

@@ -49,9 +49,7 @@ class ConvertSib2Sib7 : public FrameTest {
   void wholeAndOverBch(umts_sib_id id, uint32_t sibType, const std::vector<uint8_t>& bytes, uint32_t bits,
                        Record* record, void (*check)(const Record&)) {
     std::memset(record, 0xEE, sizeof *record);
-    std::string out;
-    ASSERT_EQ(whole(id, bytes, &out), 1);
-    EXPECT_EQ(out.rfind(id == umts_sib_sib2 ? "Decoded SysInfoType2\n" : "Decoded SysInfoType7\n", 0), 0u);
+    ASSERT_EQ(whole(id, bytes), 1);
     EXPECT_EQ(result->presence_bitmask, 1u << id);
     check(*record);
 

@@ -1,14 +1,9 @@
 // The SIB3 conversion: built in code, encoded by the codec, sent whole and over the BCH.
-#include <cstddef>
-
 #include "convert_test.h"
 
 using namespace converttest;
 
 namespace {
-
-// A tdd cell keeps q_RxlevMin where an fdd cell keeps q_QualMin.
-static_assert(offsetof(umts_sib3_tdd_info, q_RxlevMin) == offsetof(umts_sib3_fdd_info, q_QualMin), "tdd q_RxlevMin");
 
 // A SysInfoType3 built in code, with the storage of its lists and alternatives. Starts as the
 // smallest SIB3: fdd without optional elements, cpich-RSCP, notBarred, no extensions.
@@ -79,15 +74,6 @@ void checkSmallest(const umts_sib3_info& f) {
   EXPECT_EQ(c.maxAllowedUL_TX_Power, -50);
   EXPECT_EQ(f.cellAccessRestriction.cellReservedForOperatorUse, 0u);
   EXPECT_EQ(f.cellAccessRestriction.cellReservationExtension, 1u);
-}
-
-// cpich-RSCP: its tag and nothing under it.
-void checkRscp(const umts_sib3_info& f) {
-  checkSmallest(f);
-  const umts_cell_select_reselect_info_sib_3_4& c = f.cellSelectReselectInfo;
-  EXPECT_EQ(c.presence_bitmask, 0);
-  EXPECT_EQ(c.cellSelectQualityMeasure.choice_tag, 2u);
-  EXPECT_TRUE(allZero(c.cellSelectQualityMeasure.u));
 }
 
 void buildFddFull(Sib3Builder& b) {
@@ -235,8 +221,10 @@ void buildRscpWithMapping(Sib3Builder& b) {
 }
 
 void checkRscpWithMapping(const umts_sib3_info& f) {
+  checkSmallest(f);
   const umts_mapping_function_parameter_list& p = f.cellSelectReselectInfo.mappingInfo.entries[0].mappingFunctionParameterList;
   EXPECT_EQ(f.cellSelectReselectInfo.cellSelectQualityMeasure.choice_tag, 2u);
+  EXPECT_TRUE(allZero(f.cellSelectReselectInfo.cellSelectQualityMeasure.u));  // the tag alone
   ASSERT_EQ(p.count, 2);
   EXPECT_EQ(p.entries[0].presence_bitmask, 2);
   EXPECT_EQ(p.entries[0].upperLimit, 0);
@@ -248,7 +236,6 @@ const struct {
   void (*build)(Sib3Builder&);
   void (*check)(const umts_sib3_info&);
 } kCases[] = {
-    {"smallest, cpich-RSCP", [](Sib3Builder&) {}, checkRscp},
     {"fdd, every optional element, the longest lists", buildFddFull, checkFddFull},
     {"tdd, q_HYST_2_S absent, t_CR_Max notUsed", buildTdd, checkTdd},
     {"cpich-RSCP under mappingInfo", buildRscpWithMapping, checkRscpWithMapping},
@@ -263,9 +250,7 @@ TEST_F(ConvertSib3, WholeAndBchGiveTheRecordBuilt) {
     SCOPED_TRACE(c.name);
     Sib3Builder builder;
     c.build(builder);
-    std::string out;
-    ASSERT_EQ(whole(umts_sib_sib3, builder.encode(), &out), 1);
-    EXPECT_EQ(out.rfind("Decoded SysInfoType3\n", 0), 0u);
+    ASSERT_EQ(whole(umts_sib_sib3, builder.encode()), 1);
     c.check(result->sib3);
     uint32_t bits = 0;
     const Bytes sib3 = builder.encode(&bits);

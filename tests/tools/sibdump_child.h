@@ -20,36 +20,6 @@
 #include <string>
 #include <vector>
 
-struct Child {
-  pid_t pid = -1;
-  int out = -1;
-  int err = -1;
-};
-
-inline Child spawn_sibdump(const std::string& sibdump, const std::vector<std::string>& args) {
-  int out[2], err[2];
-  Child c;
-  if (pipe(out) != 0 || pipe(err) != 0) return c;
-  c.pid = fork();
-  if (c.pid == 0) {
-    dup2(out[1], 1);
-    dup2(err[1], 2);
-    close(out[0]);
-    close(err[0]);
-    std::vector<char*> argv;
-    argv.push_back(const_cast<char*>(sibdump.c_str()));
-    for (const std::string& a : args) argv.push_back(const_cast<char*>(a.c_str()));
-    argv.push_back(nullptr);
-    execv(argv[0], argv.data());
-    _exit(127);
-  }
-  close(out[1]);
-  close(err[1]);
-  c.out = out[0];
-  c.err = err[0];
-  return c;
-}
-
 /* Reads from `fd` into `text` until `done(text)` or the time is up (60 s: a loaded machine
    running the sanitizer tree is slow to start the tool). */
 template <class Done>
@@ -71,14 +41,34 @@ inline bool read_until(int fd, std::string* text, Done done) {
 /* sibdump --udp 127.0.0.1:0 with `more` arguments: the port that it reports, datagrams sent
    to it, and at stop() an interruption, both streams read to their end and the exit status. */
 struct LiveSibdump {
-  Child c;
+  struct {
+    pid_t pid = -1;
+    int out = -1, err = -1;
+  } c; /* the child and its standard output and error */
   int port = 0;
   int fd = -1;
   std::string out, err;
 
-  explicit LiveSibdump(const std::string& sibdump, std::vector<std::string> more = {}) {
-    more.insert(more.begin(), {"--udp", "127.0.0.1:0"});
-    c = spawn_sibdump(sibdump, more);
+  explicit LiveSibdump(const std::string& sibdump, const std::vector<std::string>& more = {}) {
+    int out_pipe[2], err_pipe[2];
+    if (pipe(out_pipe) != 0 || pipe(err_pipe) != 0) return;
+    c.pid = fork();
+    if (c.pid == 0) {
+      dup2(out_pipe[1], 1);
+      dup2(err_pipe[1], 2);
+      close(out_pipe[0]);
+      close(err_pipe[0]);
+      std::vector<char*> argv = {const_cast<char*>(sibdump.c_str()), const_cast<char*>("--udp"),
+                                 const_cast<char*>("127.0.0.1:0")};
+      for (const std::string& a : more) argv.push_back(const_cast<char*>(a.c_str()));
+      argv.push_back(nullptr);
+      execv(argv[0], argv.data());
+      _exit(127);
+    }
+    close(out_pipe[1]);
+    close(err_pipe[1]);
+    c.out = out_pipe[0];
+    c.err = err_pipe[0];
     const std::string prefix = "sibdump: listening for GSMTAP on 127.0.0.1:";
     if (c.pid > 0 && read_until(c.err, &err, [](const std::string& t) { return t.find(" (interrupt to stop)\n") != std::string::npos; }) &&
         err.rfind(prefix, 0) == 0)

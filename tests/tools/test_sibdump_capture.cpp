@@ -7,13 +7,12 @@
 #include <sys/time.h>
 
 #include <algorithm>
-#include <cstring>
+#include <bitset>
 #include <map>
 
 #include "capture_choice.h"
 #include "capture_writer.h"
 #include "gsmtap.h"
-#include "json_check.h"
 #include "sibdump_child.h"
 #include "sibdump_inputs.h"
 #include "tools_test_util.h"
@@ -29,37 +28,6 @@ Outcome run_on(const std::string& name, const Bytes& file) {
   const std::string path = temp_dir() + "/" + name;
   EXPECT_TRUE(capture::write_file(path, file));
   return run_sibdump("'" + path + "'");
-}
-
-/* A JSON line split into its head (members before "block") and the rest. */
-struct Line {
-  std::string head;
-  std::string block;
-  std::string record; /* from ,"record": on */
-};
-
-std::vector<Line> parse_lines(const std::string& out) {
-  std::vector<Line> lines;
-  for (const std::string& l : lines_of(out)) {
-    EXPECT_TRUE(json_check::valid(l)) << l;
-    const size_t b = l.find(",\"block\":\"");
-    const size_t r = l.find(",\"record\":");
-    if (b == std::string::npos || r == std::string::npos) {
-      ADD_FAILURE() << l;
-      continue;
-    }
-    lines.push_back({l.substr(1, b - 1), l.substr(b + 10, l.find('"', b + 10) - b - 10), l.substr(r)});
-  }
-  return lines;
-}
-
-/* block name -> record part, of the lines whose head contains `cell` (all when empty). */
-std::map<std::string, std::vector<std::string>> records_by_block(const std::vector<Line>& lines,
-                                                                 const std::string& cell = "") {
-  std::map<std::string, std::vector<std::string>> m;
-  for (const Line& l : lines)
-    if (cell.empty() || l.head.find(cell) != std::string::npos) m[l.block].push_back(l.record);
-  return m;
 }
 
 /* The records of the hexadecimal sample, the reference for every capture of the cycle. */
@@ -81,6 +49,25 @@ size_t hex_record_count() {
   return n;
 }
 std::string n_of(size_t n) { return std::to_string(n); }
+
+/* Every link layer read, over IPv4 and, where the link carries it, IPv6. */
+const struct {
+  Link link;
+  bool ipv6;
+  const char* name;
+} kLinks[] = {
+    {Link::ethernet, false, "ethernet"}, {Link::linux_sll, false, "sll"}, {Link::linux_sll2, false, "sll2"},
+    {Link::raw_ip, false, "raw"},        {Link::ipv4, false, "ipv4"},     {Link::ethernet, true, "ethernet_v6"},
+    {Link::linux_sll2, true, "sll2_v6"}, {Link::raw_ip, true, "raw_v6"},  {Link::ipv6, true, "ipv6"},
+};
+capture::Route route_of(bool ipv6) {
+  capture::Route r;
+  if (ipv6) {
+    r.source = "2001:db8::7";
+    r.destination = "::1";
+  }
+  return r;
+}
 
 /* ---- GSMTAP and the layers around it ------------------------------------------------------ */
 
@@ -121,23 +108,6 @@ TEST(Gsmtap, HeaderFields) {
   EXPECT_EQ(at, 20u);
 }
 
-/* The sub-types that are no whole SIB of the set (those are each read through sibdump in
-   CellsAreCollectedApart): the transport block, the SIBs converted elsewhere, the rest. */
-TEST(Gsmtap, SubTypes) {
-  const struct {
-    uint8_t sub_type;
-    gsmtap::Use use;
-  } table[] = {
-      {8, gsmtap::Use::transport_block}, {51, gsmtap::Use::not_converted}, {54, gsmtap::Use::not_converted},
-      {20, gsmtap::Use::other} /* SIB4 */, {13, gsmtap::Use::other},     {0, gsmtap::Use::other},
-      {255, gsmtap::Use::other},
-  };
-  for (const auto& t : table) {
-    int id = -1;
-    EXPECT_EQ(gsmtap::use_of(t.sub_type, &id), t.use) << int(t.sub_type);
-  }
-}
-
 /* The writer's Ethernet frame, octet by octet (the IPv4 checksum computed by hand). */
 TEST(Gsmtap, WrittenFrameAsOnTheWire) {
   capture::GsmtapMessage m;
@@ -156,29 +126,15 @@ TEST(Gsmtap, WrittenFrameAsOnTheWire) {
 
 /* Every link layer, IPv4 and IPv6, gives the datagram back; other protocols are not GSMTAP. */
 TEST(Gsmtap, UnwrapEveryLink) {
-  capture::Route v6;
-  v6.source = "2001:db8::7";
-  v6.destination = "::1";
   const Bytes payload = {1, 2, 3, 4, 5};
-  const struct {
-    Link link;
-    const capture::Route& route;
-    const char* source;
-  } cases[] = {
-      {Link::ethernet, capture::Route(), "127.0.0.1"}, {Link::linux_sll, capture::Route(), "127.0.0.1"},
-      {Link::linux_sll2, capture::Route(), "127.0.0.1"}, {Link::raw_ip, capture::Route(), "127.0.0.1"},
-      {Link::ipv4, capture::Route(), "127.0.0.1"},     {Link::ethernet, v6, "2001:db8::7"},
-      {Link::linux_sll2, v6, "2001:db8::7"},           {Link::raw_ip, v6, "2001:db8::7"},
-      {Link::ipv6, v6, "2001:db8::7"},
-  };
-  for (const auto& c : cases) {
-    Bytes frame = capture::udp_frame(c.link, c.route, payload);
+  for (const auto& c : kLinks) {
+    const Bytes frame = capture::udp_frame(c.link, route_of(c.ipv6), payload);
     gsmtap::Datagram d;
     std::string why;
     ASSERT_EQ(gsmtap::unwrap_frame(c.link, frame.data(), frame.size(), frame.size(), &d, &why), gsmtap::Unwrap::udp)
-        << why;
+        << c.name << ": " << why;
     EXPECT_EQ(Bytes(d.payload, d.payload + d.length), payload);
-    EXPECT_EQ(d.source, c.source);
+    EXPECT_EQ(d.source, c.ipv6 ? "2001:db8::7" : "127.0.0.1") << c.name;
     EXPECT_EQ(d.destination_port, gsmtap::kPort);
     /* Every cut inside the headers is damaged. */
     for (size_t n = 0; n < frame.size() - payload.size(); n++)
@@ -191,13 +147,7 @@ TEST(Gsmtap, UnwrapEveryLink) {
   std::string why;
   ASSERT_EQ(gsmtap::unwrap_frame(Link::ethernet, padded.data(), padded.size(), 60, &d, &why), gsmtap::Unwrap::udp);
   EXPECT_EQ(d.length, payload.size());
-
-  capture::Route dns;
-  dns.destination_port = 53;
-  dns.source_port = 53;
-  const Bytes other = capture::udp_frame(Link::ethernet, dns, payload);
-  EXPECT_EQ(gsmtap::unwrap_frame(Link::ethernet, other.data(), other.size(), other.size(), &d, &why),
-            gsmtap::Unwrap::other);
+  /* A frame that is not IP (ARP); UDP to another port is counted in CellsAreCollectedApart. */
   Bytes arp = hex_bytes("ffffffffffff0000000000000806");
   arp.resize(42, 0);
   EXPECT_EQ(gsmtap::unwrap_frame(Link::ethernet, arp.data(), arp.size(), arp.size(), &d, &why), gsmtap::Unwrap::other);
@@ -232,33 +182,18 @@ TEST_F(Capture, SamplesGiveTheHexRecords) {
     for (const Line& l : lines)
       EXPECT_TRUE(l.block != "sib3" || has(l.head, "\"frame\":4,\"time\":\"2026-01-01T00:00:00.060000Z\"")) << l.head;
   }
-  /* A capture on standard input, from a pipe as well. */
-  for (const std::string& how : {"< '" + kSamples + "/fdd_cell.pcapng'", "- < '" + kSamples + "/fdd_cell.pcap'"}) {
-    const Outcome r = run_sibdump(how);
+  /* A capture on standard input, named "-" or not, from a pipe as well. */
+  for (const std::string& how : {"'" + kSibdump + "' < '" + kSamples + "/fdd_cell.pcapng'",
+                                 "cat '" + kSamples + "/fdd_cell.pcap' | '" + kSibdump + "' -"}) {
+    const Outcome r = run_shell(how);
     EXPECT_EQ(r.status, 0) << how << ": " << r.err;
     EXPECT_EQ(records_by_block(parse_lines(r.out)), hex_records()) << how;
   }
-  const Outcome piped = run_shell("cat '" + kSamples + "/fdd_cell.pcapng' | '" + kSibdump + "'");
-  EXPECT_EQ(piped.status, 0) << piped.err;
-  EXPECT_EQ(records_by_block(parse_lines(piped.out)), hex_records());
-
 }
 
 TEST_F(Capture, EveryLinkLayerInBothFormats) {
-  capture::Route v6;
-  v6.source = "fe80::1";
-  v6.destination = "fe80::2";
-  const struct {
-    Link link;
-    bool ipv6;
-    const char* name;
-  } cases[] = {
-      {Link::ethernet, false, "ethernet"}, {Link::linux_sll, false, "sll"}, {Link::linux_sll2, false, "sll2"},
-      {Link::raw_ip, false, "raw"},        {Link::ipv4, false, "ipv4"},     {Link::linux_sll2, true, "sll2_v6"},
-      {Link::raw_ip, true, "raw_v6"},      {Link::ipv6, true, "ipv6"},
-  };
-  for (const auto& c : cases) {
-    const std::vector<capture::Frame> frames = cycle_frames(c.link, c.ipv6 ? v6 : capture::Route());
+  for (const auto& c : kLinks) {
+    const std::vector<capture::Frame> frames = cycle_frames(c.link, route_of(c.ipv6));
     for (bool ng : {false, true}) {
       const std::string name = std::string(c.name) + (ng ? ".pcapng" : ".pcap");
       const Outcome r = run_on(name, ng ? capture::pcapng_file(c.link, frames) : capture::pcap_file(c.link, frames));
@@ -266,59 +201,45 @@ TEST_F(Capture, EveryLinkLayerInBothFormats) {
       const std::vector<Line> lines = parse_lines(r.out);
       EXPECT_EQ(records_by_block(lines), hex_records()) << name;
       for (const Line& l : lines)
-        EXPECT_TRUE(has(l.head, c.ipv6 ? "\"source\":\"fe80::1\"" : "\"source\":\"127.0.0.1\"")) << l.head;
+        EXPECT_TRUE(has(l.head, c.ipv6 ? "\"source\":\"2001:db8::7\"" : "\"source\":\"127.0.0.1\"")) << l.head;
     }
   }
   /* Other link layers are refused as a whole. */
-  const Outcome wifi = run_on("wifi.pcap", [] {
-    Bytes f = capture::pcap_file(Link::ethernet, {});
-    f[20] = 105; /* IEEE 802.11 */
-    return f;
-  }());
+  Bytes wifi_file = capture::pcap_file(Link::ethernet, {});
+  wifi_file[20] = 105; /* IEEE 802.11 */
+  const Outcome wifi = run_on("wifi.pcap", wifi_file);
   EXPECT_EQ(wifi.status, 2);
   EXPECT_TRUE(has(wifi.err, "link-layer type 105 (IEEE802_11) is not read")) << wifi.err;
 }
 
-/* Two cells whose segments interleave frame by frame: each cell's records come whole. Cells
+/* Three cells whose segments interleave frame by frame: each cell's records come whole. Cells
    differ by ARFCN, or by sender on one ARFCN. Whole SIBs and skipped messages mix in. */
 TEST_F(Capture, CellsAreCollectedApart) {
-  capture::Route other_sender;
-  other_sender.source = "127.0.0.2";
-  const struct {
-    const char* name;
-    uint16_t arfcn_b;
-    const capture::Route* route_b;
-    const char* cell_a;
-    const char* cell_b;
-  } pairs[] = {
-      {"two_arfcns", 10713, nullptr, "\"source\":\"127.0.0.1\",\"arfcn\":10700",
-       "\"source\":\"127.0.0.1\",\"arfcn\":10713"},
-      {"two_senders", 10700, &other_sender, "\"source\":\"127.0.0.1\",\"arfcn\":10700",
-       "\"source\":\"127.0.0.2\",\"arfcn\":10700"},
-  };
-  for (const auto& p : pairs) {
-    std::vector<capture::Frame> frames;
-    uint64_t t = kT0;
-    for (const Bytes& block : sample_blocks()) {
-      frames.push_back(gsmtap_frame(Link::ethernet, t += 10000, block));
-      frames.push_back(gsmtap_frame(Link::ethernet, t += 10000, block, p.arfcn_b, gsmtap::kSubBcchBch,
-                                    p.route_b != nullptr ? *p.route_b : capture::Route()));
+  const std::pair<const char*, uint16_t> cells[] = {{"127.0.0.1", 10700}, {"127.0.0.1", 10713}, {"127.0.0.2", 10700}};
+  std::vector<capture::Frame> frames;
+  uint64_t t = kT0;
+  for (const Bytes& block : sample_blocks())
+    for (const auto& [source, arfcn] : cells) {
+      capture::Route route;
+      route.source = source;
+      frames.push_back(gsmtap_frame(Link::ethernet, t += 10000, block, arfcn, gsmtap::kSubBcchBch, route));
     }
-    const Outcome r = run_on(std::string(p.name) + ".pcapng", capture::pcapng_file(Link::ethernet, frames));
-    EXPECT_EQ(r.status, 0) << r.err;
-    const std::vector<Line> lines = parse_lines(r.out);
-    EXPECT_EQ(lines.size(), 2 * hex_record_count());
-    EXPECT_EQ(records_by_block(lines, p.cell_a), hex_records()) << p.name;
-    EXPECT_EQ(records_by_block(lines, p.cell_b), hex_records()) << p.name;
+  const Outcome r = run_on("three_cells.pcapng", capture::pcapng_file(Link::ethernet, frames));
+  EXPECT_EQ(r.status, 0) << r.err;
+  const std::vector<Line> lines = parse_lines(r.out);
+  EXPECT_EQ(lines.size(), 3 * hex_record_count());
+  for (const auto& [source, arfcn] : cells) {
+    const std::string cell = "\"source\":\"" + std::string(source) + "\",\"arfcn\":" + n_of(arfcn);
+    EXPECT_EQ(records_by_block(lines, cell), hex_records()) << cell;
   }
 
-  /* One cell through the whole-SIB sub-types, with a GSM message (type 1), a SIB16 and a DNS
-     datagram among them: the records of the --sibs path, the rest counted. */
+  /* One cell through the whole-SIB sub-types, with a GSM message (type 1), a SIB16 (sub-type
+     51), a SIB19 (54), a SIB4 (20) and a DNS datagram among them: the records of the --sibs
+     path, the rest counted. */
   const std::map<std::string, uint8_t> sub_type = {
       {"mib", 16}, {"sib1", 17}, {"sib2", 18}, {"sib3", 19}, {"sib5", 21},  {"sib7", 24},
       {"sib11", 28}, {"sib12", 30}, {"sib18", 53}, {"sb1", 58}, {"sb2", 59}, {"sib11bis", 29}};
-  std::vector<capture::Frame> frames;
-  uint64_t t = kT0;
+  frames.clear();
   /* The sample SIB16 is left out: GSMTAP's SIB16 is counted and skipped (below), sibdump
      converts a SIB16 only from --sibs. */
   size_t carried = 0;
@@ -329,7 +250,8 @@ TEST_F(Capture, CellsAreCollectedApart) {
     frames.push_back(gsmtap_frame(Link::linux_sll, t += 1000, sib.second, 10700, sub_type.at(sib.first)));
   }
   frames.push_back(gsmtap_frame(Link::linux_sll, t += 1000, {0x01, 0x02}, 10700, 1, capture::Route(), 1));
-  frames.push_back(gsmtap_frame(Link::linux_sll, t += 1000, {0x01, 0x02}, 10700, gsmtap::kSubSib16));
+  for (const uint8_t skipped : {51, 54, 20})
+    frames.push_back(gsmtap_frame(Link::linux_sll, t += 1000, {0x01, 0x02}, 10700, skipped));
   capture::Route dns;
   dns.destination_port = 53;
   frames.push_back({t += 1000, capture::udp_frame(Link::linux_sll, dns, {1, 2, 3}), 0});
@@ -341,36 +263,25 @@ TEST_F(Capture, CellsAreCollectedApart) {
   by_text_records.erase("sib16");
   EXPECT_EQ(records_by_block(parse_lines(whole.out)), by_text_records);
   const std::string sibs = n_of(carried), records = n_of(parse_lines(by_text.out).size() - sib16_records);
-  EXPECT_TRUE(has(whole.err, "ARFCN 10700: 0 blocks, " + sibs + " SIBs, " + records + " records, 2 skipped, 0 errors"))
+  EXPECT_TRUE(has(whole.err, "ARFCN 10700: 0 blocks, " + sibs + " SIBs, " + records + " records, 4 skipped, 0 errors"))
       << whole.err;
-  EXPECT_TRUE(has(whole.err, n_of(carried + 3) + " frames read, 0 blocks, " + sibs + " SIBs, " + records +
-                                 " records written, 2 skipped, 1 not GSMTAP"))
+  EXPECT_TRUE(has(whole.err, n_of(carried + 5) + " frames read, 0 blocks, " + sibs + " SIBs, " + records +
+                                 " records written, 4 skipped, 1 not GSMTAP"))
       << whole.err;
 }
 
-/* What the first `count` blocks of the cycle give through the hex path. */
-std::map<std::string, std::vector<std::string>> hex_records_of_first(size_t count) {
-  std::string text;
-  for (size_t k = 0; k < count; k++) text += hex_of(sample_blocks()[k]) + "\n";
-  const std::string path = temp_dir() + "/first.bch";
-  write_file(path, text);
-  return records_by_block(parse_lines(run_sibdump("'" + path + "'").out));
-}
-
-/* A capture read in this process, as sibdump reads it: the blocks converted, in order, and
-   the messages. The library's ASN.1 text is discarded meanwhile. */
+/* A capture read in this process, as sibdump reads it: the frames read, the records
+   converted and the messages. The library's ASN.1 text is discarded meanwhile. */
 struct InProcess {
   long frames;
-  std::vector<std::string> blocks;
+  size_t records;
   std::string messages;
 };
 
 InProcess read_in_process(const std::string& name, Bytes file) {
-  static const char* const kBlock[umts_sib_count] = {"mib",      "sib1",  "sib2",  "sib3", "sib5", "sib7",
-                                                     "sib11",    "sib11bis", "sib12", "sib18", "sb1", "sb2"};
   static umts_sib_set* set = static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)));
   static FILE* discard = std::fopen("/dev/null", "w");
-  InProcess r{-1, {}, ""};
+  InProcess r{-1, 0, ""};
   if (file.empty()) file.push_back(0); /* fmemopen needs a buffer */
   FILE* in = fmemopen(file.data(), file.size(), "r");
   char* text = nullptr;
@@ -378,9 +289,8 @@ InProcess read_in_process(const std::string& name, Bytes file) {
   FILE* messages = open_memstream(&text, &text_size);
   if (in == nullptr || messages == nullptr || set == nullptr || discard == nullptr) return r;
   RecordOutput output{[&r](const std::string&) {
-                        size_t n = 0;
-                        for (int id = 0; id < umts_sib_count; id++)
-                          if ((set->presence_bitmask >> id) & 1u) r.blocks.push_back(kBlock[id]), n++;
+                        const size_t n = std::bitset<32>(set->presence_bitmask).count();
+                        r.records += n;
                         return n;
                       },
                       nullptr};
@@ -404,24 +314,21 @@ TEST_F(Capture, CutAtEveryLengthOfTheLastFrame) {
   const size_t kept = frames.size() - 1;
   const std::string last = "frame " + n_of(frames.size());
   const std::vector<capture::Frame> first9(frames.begin(), frames.begin() + static_cast<std::ptrdiff_t>(kept));
-  /* What the blocks before the last give, through sibdump on the same blocks in hexadecimal. */
-  const auto nine = hex_records_of_first(kept);
-  ASSERT_FALSE(nine.empty());
-  std::vector<std::string> nine_blocks;
-  for (const auto& b : nine) nine_blocks.insert(nine_blocks.end(), b.second.size(), b.first);
-  std::sort(nine_blocks.begin(), nine_blocks.end());
+  /* The frames before the last give the sample's records but the second SIB5, which the last
+     block completes (as the sample's comments say). */
+  auto nine = hex_records();
+  nine["sib5"].pop_back();
 
   for (bool ng : {false, true}) {
     const std::string name = ng ? "cut.pcapng" : "cut.pcap";
     const Bytes whole = ng ? capture::pcapng_file(Link::ethernet, frames) : capture::pcap_file(Link::ethernet, frames);
     const size_t end9 = (ng ? capture::pcapng_file(Link::ethernet, first9) : capture::pcap_file(Link::ethernet, first9)).size();
     ASSERT_LT(end9, whole.size());
-    EXPECT_EQ(read_in_process(name, whole).blocks.size(), hex_record_count());
+    EXPECT_EQ(read_in_process(name, whole).records, hex_record_count());
     for (size_t cut = end9; cut < whole.size(); cut++) {
-      InProcess r = read_in_process(name, Bytes(whole.begin(), whole.begin() + cut));
+      const InProcess r = read_in_process(name, Bytes(whole.begin(), whole.begin() + cut));
       EXPECT_EQ(static_cast<size_t>(r.frames), kept) << name << " cut at " << cut;
-      std::sort(r.blocks.begin(), r.blocks.end());
-      EXPECT_EQ(r.blocks, nine_blocks) << name << " cut at " << cut;
+      EXPECT_EQ(r.records, hex_record_count() - 1) << name << " cut at " << cut;
       if (cut == end9) {
         EXPECT_EQ(r.messages, "") << cut;
       } else {
@@ -497,12 +404,9 @@ TEST(Live, DatagramsOverLoopback) {
   LiveSibdump live(kSibdump);
   ASSERT_GT(live.port, 0) << live.err;
   for (size_t k = 0; k < sample_blocks().size(); k++) {
-    capture::GsmtapMessage m;
-    m.arfcn = 10700;
-    m.message = sample_blocks()[k];
-    EXPECT_TRUE(live.send(capture::gsmtap_datagram(m)));
+    EXPECT_TRUE(live.send(block_datagram(sample_blocks()[k])));
     if (k == 2) {
-      Bytes bad = capture::gsmtap_datagram(m);
+      Bytes bad = block_datagram(sample_blocks()[k]);
       bad[0] = 3; /* version */
       EXPECT_TRUE(live.send(bad));
     }
@@ -512,19 +416,17 @@ TEST(Live, DatagramsOverLoopback) {
     return static_cast<size_t>(std::count(t.begin(), t.end(), '\n')) >= expected_lines;
   })) << live.out;
   EXPECT_EQ(live.stop(), 1); /* one bad datagram */
-  const std::string& err = live.err;
-  const int port = live.port;
   const std::vector<Line> lines = parse_lines(live.out);
   EXPECT_EQ(records_by_block(lines), hex_records());
   for (const Line& l : lines) EXPECT_TRUE(has(l.head, "\"source\":\"127.0.0.1\",\"arfcn\":10700")) << l.head;
-  const std::string where = "sibdump: udp 127.0.0.1:" + std::to_string(port) + ": datagram 4: ";
+  const std::string where = "sibdump: udp 127.0.0.1:" + std::to_string(live.port) + ": datagram 4: ";
   for (const std::string& message : {where + "GSMTAP version 3 (expected 2)", std::string("sibdump: interrupted; counts of this run:"),
                                      "sibdump: cell 127.0.0.1 ARFCN 10700: " + n_of(sample_blocks().size()) + " blocks, 0 SIBs, " +
                                          n_of(hex_record_count()) + " records, 0 skipped, 0 errors",
                                      "sibdump: " + n_of(sample_blocks().size() + 1) + " datagrams read, " +
                                          n_of(sample_blocks().size()) + " blocks, 0 SIBs, " + n_of(hex_record_count()) +
                                          " records written, 0 skipped, 0 not GSMTAP, 1 bad datagrams"})
-    EXPECT_TRUE(has(err, message)) << message << "\n" << err;
+    EXPECT_TRUE(has(live.err, message)) << message << "\n" << live.err;
 }
 
 /* The number before `what` in `text` ("... 12 datagrams read"), or -1. */
@@ -546,12 +448,7 @@ TEST(Live, OverfilledReceiveBufferIsCountedExactly) {
   ASSERT_GT(live.port, 0) << live.err;
   ASSERT_EQ(kill(live.c.pid, SIGSTOP), 0);
   long sent = 0;
-  for (size_t k = 0; k < 300; k++) {
-    capture::GsmtapMessage m;
-    m.arfcn = 10700;
-    m.message = sample_blocks()[k % sample_blocks().size()];
-    sent += live.send(capture::gsmtap_datagram(m)) ? 1 : 0;
-  }
+  for (size_t k = 0; k < 300; k++) sent += live.send(block_datagram(sample_blocks()[k % sample_blocks().size()])) ? 1 : 0;
   /* A datagram to this test's own socket, received back: the loopback device has delivered
      those sent before it, so that each is now queued or dropped. */
   const int probe = socket(AF_INET, SOCK_DGRAM, 0);

@@ -32,21 +32,16 @@ std::string eight_cells() {
   const size_t n = blocks.size();
   for (size_t k = 0; k < 3 * n; k++) {
     for (unsigned cell = 0; cell < 8; cell++) {
-      capture::GsmtapMessage m;
-      m.arfcn = static_cast<uint16_t>(10700 + 13 * (cell % 2));
-      m.frame_number = static_cast<uint32_t>(k);
-      m.message = blocks[(k + 3 * cell) % n];
       capture::Route route;
       route.source = "127.0.0." + std::to_string(1 + cell / 2);
-      frames.push_back({t += 10000, capture::udp_frame(gsmtap::Link::ethernet, route, capture::gsmtap_datagram(m))});
+      frames.push_back(gsmtap_frame(gsmtap::Link::ethernet, t += 10000, blocks[(k + 3 * cell) % n],
+                                    static_cast<uint16_t>(10700 + 13 * (cell % 2)), gsmtap::kSubBcchBch, route));
     }
     if (k == 7) {
       capture::Frame cut = frames.back();
       cut.bytes.resize(20);
       frames.push_back(cut);
-      capture::GsmtapMessage m;
-      m.message.assign(80, 0x11);
-      frames.push_back({t += 1, capture::udp_frame(gsmtap::Link::ethernet, capture::Route(), capture::gsmtap_datagram(m))});
+      frames.push_back(gsmtap_frame(gsmtap::Link::ethernet, t += 1, Bytes(80, 0x11), 0));
       capture::Route other;
       other.destination_port = 53;
       frames.push_back({t += 1, capture::udp_frame(gsmtap::Link::ethernet, other, {1, 2, 3})});

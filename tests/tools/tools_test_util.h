@@ -5,11 +5,13 @@
 #ifndef UMTS_TESTS_TOOLS_TEST_UTIL_H
 #define UMTS_TESTS_TOOLS_TEST_UTIL_H
 
+#include <gtest/gtest.h>
 #include <sys/wait.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <map>
 #include <set>
 #include <sstream>
 #include <string>
@@ -17,6 +19,7 @@
 #include <vector>
 
 #include "capture_writer.h"
+#include "json_check.h"
 
 namespace tt {
 
@@ -67,6 +70,38 @@ inline std::string hex_of(const Bytes& b) {
   return out;
 }
 
+/* A JSON line of sibdump split into its head (the members before "block": line, or frame,
+   time and cell), the block and the rest; each line checked for syntax. */
+struct Line {
+  std::string head;
+  std::string block;
+  std::string record; /* from ,"record": on */
+};
+
+inline std::vector<Line> parse_lines(const std::string& out) {
+  std::vector<Line> lines;
+  for (const std::string& l : lines_of(out)) {
+    EXPECT_TRUE(json_check::valid(l)) << l;
+    const size_t b = l.find(",\"block\":\"");
+    const size_t r = l.find(",\"record\":");
+    if (b == std::string::npos || r == std::string::npos) {
+      ADD_FAILURE() << l;
+      continue;
+    }
+    lines.push_back({l.substr(1, b - 1), l.substr(b + 10, l.find('"', b + 10) - b - 10), l.substr(r)});
+  }
+  return lines;
+}
+
+/* block name -> record part, of the lines whose head contains `cell` (all when empty). */
+inline std::map<std::string, std::vector<std::string>> records_by_block(const std::vector<Line>& lines,
+                                                                        const std::string& cell = "") {
+  std::map<std::string, std::vector<std::string>> m;
+  for (const Line& l : lines)
+    if (cell.empty() || l.head.find(cell) != std::string::npos) m[l.block].push_back(l.record);
+  return m;
+}
+
 struct Outcome {
   int status;
   std::string out;
@@ -88,7 +123,8 @@ inline Outcome run_shell(const std::string& command) {
 }
 inline Outcome run_sibdump(const std::string& args) { return run_shell("'" + kSibdump + "' " + args); }
 
-/* The transport blocks of the sample cycle; the SIBs of a sample file whole as (name, bytes). */
+/* The transport blocks of the sample cycle. The '<name> <hex>' lines of a file as (name,
+   bytes); the SIBs of a sample file whole. */
 inline const std::vector<Bytes>& sample_blocks() {
   static std::vector<Bytes> blocks;
   if (blocks.empty())
@@ -96,19 +132,16 @@ inline const std::vector<Bytes>& sample_blocks() {
       if (!l.empty() && l[0] != '#') blocks.push_back(hex_bytes(l));
   return blocks;
 }
-inline std::vector<std::pair<std::string, Bytes>> sample_sibs(const std::string& file = "fdd_cell_sibs.txt") {
+inline std::vector<std::pair<std::string, Bytes>> named_hex(const std::string& path) {
   std::vector<std::pair<std::string, Bytes>> sibs;
-  for (const std::string& l : lines_of(read_file(kSamples + "/" + file))) {
+  for (const std::string& l : lines_of(read_file(path))) {
     const size_t blank = l.find(' ');
     if (!l.empty() && l[0] != '#' && blank != std::string::npos) sibs.emplace_back(l.substr(0, blank), hex_bytes(l.substr(blank + 1)));
   }
   return sibs;
 }
-/* The first SIB of the sample named `name`. */
-inline Bytes sample_sib(const std::string& name) {
-  for (const auto& s : sample_sibs())
-    if (s.first == name) return s.second;
-  return {};
+inline std::vector<std::pair<std::string, Bytes>> sample_sibs(const std::string& file = "fdd_cell_sibs.txt") {
+  return named_hex(kSamples + "/" + file);
 }
 
 /* A captured frame of one GSMTAP message. */
@@ -121,6 +154,14 @@ inline capture::Frame gsmtap_frame(gsmtap::Link link, uint64_t time_us, const By
   m.arfcn = arfcn;
   m.message = message;
   return {time_us, capture::udp_frame(link, route, capture::gsmtap_datagram(m)), 0};
+}
+
+/* A GSMTAP datagram of one transport block on ARFCN 10700. */
+inline Bytes block_datagram(const Bytes& block) {
+  capture::GsmtapMessage m;
+  m.arfcn = 10700;
+  m.message = block;
+  return capture::gsmtap_datagram(m);
 }
 
 /* The sample cycle's blocks 20 ms apart from `t0`, except the blocks `left_out` (0-based). */

@@ -2,10 +2,14 @@
  * sibdump's capture input: pcap and pcapng files of GSMTAP over UDP, read through libpcap,
  * on Ethernet, Linux cooked capture (v1, v2) or raw IP.
  */
+#include <sys/stat.h>
+
+#include <algorithm>
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
+#include <memory>
 #include <string>
 
 #include "sibdump_inputs.h"
@@ -22,6 +26,10 @@ struct Peeked {
   unsigned char head[4];
   size_t count;
   size_t at;
+  /* A file is read up to a megabyte at a time rather than in the C library's 4 KiB: a capture
+     of ten million frames is a gigabyte. The buffer lives until `in` is closed; it is not
+     cleared (only what is read is touched), and no larger than the file. */
+  std::unique_ptr<char[]> buffer;
 };
 
 ssize_t peeked_read(void* cookie, char* buf, size_t size) {
@@ -45,7 +53,13 @@ int peeked_close(void* cookie) {
 }  // namespace
 
 FILE* peek_input(FILE* in, const char* name, bool* is_capture) {
-  Peeked* p = new Peeked{in, {0, 0, 0, 0}, 0, 0};
+  Peeked* p = new Peeked{in, {0, 0, 0, 0}, 0, 0, nullptr};
+  struct stat st;
+  if (in != stdin && fstat(fileno(in), &st) == 0 && S_ISREG(st.st_mode) && st.st_size > 8192) {
+    const size_t size = std::min<size_t>(size_t(1) << 20, static_cast<size_t>(st.st_size));
+    p->buffer.reset(new char[size]);
+    std::setvbuf(in, p->buffer.get(), _IOFBF, size);
+  }
   p->count = std::fread(p->head, 1, sizeof p->head, in);
   static const unsigned char kMagics[][4] = {
       {0xD4, 0xC3, 0xB2, 0xA1}, {0xA1, 0xB2, 0xC3, 0xD4}, /* pcap, microseconds */

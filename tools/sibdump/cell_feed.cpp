@@ -5,6 +5,7 @@
 
 #include <time.h>
 
+#include <charconv>
 #include <cstdlib>
 #include <cstring>
 
@@ -24,6 +25,11 @@ CellFeed::~CellFeed() {
 }
 
 std::string CellFeed::time_text(uint64_t time_us) {
+  char buf[kTimeText];
+  return std::string(buf, time_text(time_us, buf));
+}
+
+size_t CellFeed::time_text(uint64_t time_us, char* buf) {
   /* The calendar by arithmetic (days since 1970 to year, month, day in the proleptic
      Gregorian calendar): gmtime_r takes the C library's time zone lock at every call, which
      threads decoding the cells of a capture would all wait for. */
@@ -38,8 +44,13 @@ std::string CellFeed::time_text(uint64_t time_us) {
   const unsigned month = static_cast<unsigned>(mp < 10u ? mp + 3u : mp - 9u);
   const uint64_t year = yoe + era * 400u + (month <= 2u ? 1u : 0u);
   const unsigned of_day = static_cast<unsigned>(seconds % 86400u);
-  char buf[64];
-  char* p = buf + std::snprintf(buf, 24, "%04llu", static_cast<unsigned long long>(year));
+  char* p = buf;
+  if (year < 10000u) {
+    for (int i = 3, y = static_cast<int>(year); i >= 0; i--, y /= 10) p[i] = static_cast<char>('0' + y % 10);
+    p += 4;
+  } else {
+    p = std::to_chars(p, p + 24, year).ptr;
+  }
   auto two = [&p](char sep, unsigned v) {
     *p++ = sep;
     *p++ = static_cast<char>('0' + v / 10u);
@@ -55,7 +66,7 @@ std::string CellFeed::time_text(uint64_t time_us) {
   for (int i = 5; i >= 0; i--, us /= 10u) p[i] = static_cast<char>('0' + us % 10u);
   p += 6;
   *p++ = 'Z';
-  return std::string(buf, static_cast<size_t>(p - buf));
+  return static_cast<size_t>(p - buf);
 }
 
 void CellFeed::message(unsigned long number, const std::string& why) const {
@@ -77,7 +88,12 @@ void CellFeed::datagram(unsigned long number, uint64_t time_us, const gsmtap::Da
     return;
   }
   const uint16_t arfcn = gsmtap::arfcn_number(h.arfcn);
-  Cell& cell = cells_[CellKey(d.source, arfcn)];
+  if (last_key_ == nullptr || last_key_->second != arfcn || last_key_->first != d.source) {
+    auto it = cells_.try_emplace(CellKey(d.source, arfcn)).first;
+    last_key_ = &it->first;
+    last_cell_ = &it->second;
+  }
+  Cell& cell = *last_cell_;
   if (cell.decoder == nullptr) {
     cell.decoder = umts_sib_decoder_new();
     if (cell.decoder == nullptr) {
@@ -105,8 +121,17 @@ void CellFeed::datagram(unsigned long number, uint64_t time_us, const gsmtap::Da
     return;
   }
   decode(cell, block, sib_id, data, length);
-  std::string head = "\"frame\":" + std::to_string(number) + ",\"time\":\"" + time_text(time_us) +
-                     "\",\"source\":\"" + d.source + "\",\"arfcn\":" + std::to_string(arfcn);
+  /* "frame":N,"time":"...","source":"...","arfcn":N, built in place */
+  char number_text[24], time[kTimeText], arfcn_text[8];
+  std::string& head = head_;
+  head.assign("\"frame\":");
+  head.append(number_text, std::to_chars(number_text, number_text + sizeof number_text, number).ptr);
+  head.append(",\"time\":\"");
+  head.append(time, time_text(time_us, time));
+  head.append("\",\"source\":\"");
+  head.append(d.source);
+  head.append("\",\"arfcn\":");
+  head.append(arfcn_text, std::to_chars(arfcn_text, arfcn_text + sizeof arfcn_text, arfcn).ptr);
   cell.counts.records += output_.write(head);
   if (block && output_.block) output_.block(head, data, length, umts_sib_decoder_state(cell.decoder));
 }

@@ -96,6 +96,9 @@ class CellFeed : public FrameSink {
 
   /* "2026-01-01T00:00:00.020000Z" */
   static std::string time_text(uint64_t time_us);
+  /* The same into `out` (room for kTimeText octets); returns its length. */
+  static constexpr size_t kTimeText = 48;
+  static size_t time_text(uint64_t time_us, char* out);
 
  private:
   struct Cell {
@@ -114,6 +117,11 @@ class CellFeed : public FrameSink {
   FILE* messages_;
   FILE* text_;
   std::map<CellKey, Cell> cells_;
+  /* The cell of the last frame, found again without a search: a capture's frames come from a
+     few cells, often several in a row from the same. */
+  const CellKey* last_key_ = nullptr;
+  Cell* last_cell_ = nullptr;
+  std::string head_; /* the records' head, reused from frame to frame */
   unsigned long not_gsmtap_ = 0; /* frames of other protocols */
   unsigned long bad_ = 0;        /* frames refused before a cell was known */
 };

@@ -1,9 +1,11 @@
 /*
  * The cells of one capture decoded on several threads: see parallel_feed.h.
  *
- * Two batches take turns: while the workers decode one, the calling thread writes out the
- * output of the one before and gathers the next, so that reading and writing, which only
- * the calling thread can do in order, overlap the decoding.
+ * Batches go round a ring of kParallelBatches: the calling thread gathers one while the
+ * workers decode those handed out before, and writes out each batch once every worker is done
+ * with it. A worker goes on with the next batch as soon as it is done with its share of one,
+ * without waiting for the others: a worker whose cells cost more in one batch catches up in
+ * the next ones, and no core stands idle at the end of each batch.
  */
 #include "parallel_feed.h"
 
@@ -108,9 +110,14 @@ struct ParallelFeed::Shared {
   };
   std::unordered_map<CellKey, unsigned, KeyHash> owner; /* each cell's worker */
   unsigned next_worker = 0;
-  std::vector<Item> items[2]; /* the workers only read them */
-  /* Each worker's frames of each batch, by their places in the batch. */
-  std::vector<std::vector<uint32_t>> shares[2];
+  /* A batch: its frames, each worker's frames by their places in it, the datagrams' octets.
+     The workers only read it. */
+  struct Batch {
+    std::vector<Item> items;
+    std::vector<std::vector<uint32_t>> shares;
+    std::vector<uint8_t> arena;
+  };
+  Batch batches[kParallelBatches]; /* batch number n lies at n % kParallelBatches */
   /* The cells last looked up, before `owner` is searched. */
   struct Recent {
     CellKey key;
@@ -118,17 +125,20 @@ struct ParallelFeed::Shared {
   };
   std::vector<Recent> recent;
   size_t recent_next = 0;
-  std::vector<uint8_t> arena[2];
   std::vector<iovec> pieces; /* write_records_only's list, kept for its room */
-  int gathering = 0; /* the batch that frames are gathered in */
 
   std::vector<std::thread> threads;
   std::mutex mutex;
   std::condition_variable start, done;
-  unsigned long generation = 0; /* batches handed to the workers */
-  int decoding = -1;            /* the batch they decode, or -1 */
-  unsigned pending = 0;         /* workers not done with it */
+  /* Batch numbers, counted from the first: those handed to the workers, those each worker is
+     done with (under `mutex`), those written out (by the calling thread). The batch gathered
+     is number `handed`. */
+  unsigned long handed = 0;
+  std::vector<unsigned long> finished;
+  unsigned long written = 0;
   bool stop = false;
+
+  Batch& gathering() { return batches[handed % kParallelBatches]; }
 };
 
 ParallelFeed::ParallelFeed(unsigned workers, const std::function<std::unique_ptr<CellFeed>(WorkerOutput& out)>& make_feed,
@@ -144,26 +154,24 @@ ParallelFeed::ParallelFeed(unsigned workers, const std::function<std::unique_ptr
     s.outs.emplace_back(new WorkerOutput);
     s.feeds.push_back(make_feed(*s.outs.back()));
   }
-  for (int b = 0; b < 2; b++) {
-    s.items[b].reserve(kBatchFrames);
-    s.shares[b].resize(s.workers);
+  for (Shared::Batch& b : s.batches) {
+    b.items.reserve(kBatchFrames);
+    b.shares.resize(s.workers);
   }
+  s.finished.assign(s.workers, 0);
   for (unsigned w = 0; w < s.workers; w++) {
     s.threads.emplace_back([this, w] {
       Shared& sh = *shared_;
-      unsigned long seen = 0;
-      for (;;) {
-        int batch;
+      for (unsigned long next = 0;; next++) {
         {
           std::unique_lock<std::mutex> lock(sh.mutex);
-          sh.start.wait(lock, [&] { return sh.stop || sh.generation != seen; });
-          if (sh.stop) return;
-          seen = sh.generation;
-          batch = sh.decoding;
+          sh.start.wait(lock, [&] { return sh.stop || sh.handed > next; });
+          if (sh.handed <= next) return; /* stopped, with nothing left */
         }
-        decode_share(w, batch);
+        decode_share(w, static_cast<int>(next % kParallelBatches));
         std::lock_guard<std::mutex> lock(sh.mutex);
-        if (--sh.pending == 0) sh.done.notify_one();
+        sh.finished[w] = next + 1;
+        sh.done.notify_one();
       }
     });
   }
@@ -171,7 +179,7 @@ ParallelFeed::ParallelFeed(unsigned workers, const std::function<std::unique_ptr
 
 ParallelFeed::~ParallelFeed() {
   Shared& s = *shared_;
-  wait_for_workers();
+  write_finished(true);
   {
     std::lock_guard<std::mutex> lock(s.mutex);
     s.stop = true;
@@ -208,9 +216,10 @@ unsigned ParallelFeed::worker_of(const std::string& source, uint16_t arfcn) {
 
 void ParallelFeed::add(Item&& item) {
   Shared& s = *shared_;
-  std::vector<Item>& items = s.items[s.gathering];
-  s.shares[s.gathering][item.worker].push_back(static_cast<uint32_t>(items.size()));
-  items.push_back(std::move(item));
+  Shared::Batch& b = s.gathering();
+  b.shares[item.worker].push_back(static_cast<uint32_t>(b.items.size()));
+  b.items.push_back(std::move(item));
+  std::vector<Item>& items = b.items;
   if (items.size() >= kBatchFrames) next_batch();
 }
 
@@ -224,7 +233,7 @@ void ParallelFeed::datagram(unsigned long number, uint64_t time_us, const gsmtap
   unsigned worker = 0;
   if (gsmtap::parse_header(d.payload, d.length, &h, &message_at, &why))
     worker = worker_of(d.source, gsmtap::arfcn_number(h.arfcn));
-  std::vector<uint8_t>& arena = s.arena[s.gathering];
+  std::vector<uint8_t>& arena = s.gathering().arena;
   const size_t offset = arena.size();
   arena.insert(arena.end(), d.payload, d.payload + d.length);
   add(Item{Item::kDatagram, number, time_us, worker, offset, d.length, d.source, d.source_port, d.destination_port});
@@ -238,35 +247,51 @@ void ParallelFeed::bad(unsigned long number, const std::string& why) {
 
 void ParallelFeed::finish() {
   Shared& s = *shared_;
-  if (!s.items[s.gathering].empty()) next_batch();
-  wait_for_workers();
+  if (!s.gathering().items.empty()) next_batch();
+  write_finished(true);
 }
 
-void ParallelFeed::wait_for_workers() {
+void ParallelFeed::write_finished(bool all) {
   Shared& s = *shared_;
-  int batch;
-  {
-    std::unique_lock<std::mutex> lock(s.mutex);
-    s.done.wait(lock, [&] { return s.pending == 0; });
-    batch = s.decoding;
-    s.decoding = -1;
+  while (s.written < s.handed) {
+    {
+      std::unique_lock<std::mutex> lock(s.mutex);
+      auto ready = [&] {
+        for (const unsigned long f : s.finished)
+          if (f <= s.written) return false;
+        return true;
+      };
+      if (all)
+        s.done.wait(lock, ready);
+      else if (!ready())
+        return;
+    }
+    write_batch(static_cast<int>(s.written % kParallelBatches));
+    s.written++;
   }
-  if (batch >= 0) write_batch(batch);
 }
 
 void ParallelFeed::next_batch() {
   Shared& s = *shared_;
-  /* The batch before is written out while the workers decode this one. */
-  std::unique_lock<std::mutex> lock(s.mutex);
-  s.done.wait(lock, [&] { return s.pending == 0; });
-  const int before = s.decoding;
-  s.decoding = s.gathering;
-  s.pending = s.workers;
-  s.generation++;
-  lock.unlock();
+  {
+    std::lock_guard<std::mutex> lock(s.mutex);
+    s.handed++;
+  }
   s.start.notify_all();
-  s.gathering = 1 - s.gathering;
-  if (before >= 0) write_batch(before);
+  write_finished(false);
+  /* The next batch is gathered where the batch kParallelBatches before it lay: that one must
+     be written out first. */
+  while (s.handed - s.written >= static_cast<unsigned long>(kParallelBatches)) {
+    {
+      std::unique_lock<std::mutex> lock(s.mutex);
+      s.done.wait(lock, [&] {
+        for (const unsigned long f : s.finished)
+          if (f <= s.written) return false;
+        return true;
+      });
+    }
+    write_finished(false);
+  }
 }
 
 void ParallelFeed::decode_share(unsigned worker, int batch) {
@@ -275,11 +300,11 @@ void ParallelFeed::decode_share(unsigned worker, int batch) {
   CellFeed& feed = *s.feeds[worker];
   out.current_ = batch;
   out.records_ = &out.buffers_[batch].records;
-  const std::vector<Item>& items = s.items[batch];
-  const std::vector<uint8_t>& arena = s.arena[batch];
+  const std::vector<Item>& items = s.batches[batch].items;
+  const std::vector<uint8_t>& arena = s.batches[batch].arena;
   WorkerOutput::Buffers& buffers = out.buffers_[batch];
   gsmtap::Datagram d;
-  for (const uint32_t i : s.shares[batch][worker]) {
+  for (const uint32_t i : s.batches[batch].shares[worker]) {
     const Item& item = items[i];
     out.item_ = i;
     if (item.kind == Item::kBad) {
@@ -302,7 +327,7 @@ void ParallelFeed::write_batch(int batch) {
   std::vector<size_t> done(s.workers, 0), deferred_at(s.workers, 0);
   WorkerOutput::Ends zero = {0, 0, 0};
   std::vector<const WorkerOutput::Ends*> at(s.workers, &zero);
-  std::vector<Item>& items = s.items[batch];
+  std::vector<Item>& items = s.batches[batch].items;
   for (size_t i = 0; i < items.size(); i++) {
     const unsigned w = items[i].worker;
     WorkerOutput::Buffers& b = s.outs[w]->buffers_[batch];
@@ -335,7 +360,7 @@ bool ParallelFeed::write_records_only(int batch) {
   std::vector<iovec>& pieces = s.pieces;
   pieces.clear();
   std::vector<size_t> records_at(s.workers, 0), done(s.workers, 0);
-  for (const Item& item : s.items[batch]) {
+  for (const Item& item : s.batches[batch].items) {
     const unsigned w = item.worker;
     const WorkerOutput::Buffers& b = s.outs[w]->buffers_[batch];
     const size_t end = b.ends[done[w]++].records;
@@ -381,9 +406,10 @@ void ParallelFeed::clear_batch(int batch) {
     b.deferred.clear();
     b.ends.clear();
   }
-  s.items[batch].clear();
-  s.arena[batch].clear();
-  for (std::vector<uint32_t>& share : s.shares[batch]) share.clear();
+  Shared::Batch& b = s.batches[batch];
+  b.items.clear();
+  b.arena.clear();
+  for (std::vector<uint32_t>& share : b.shares) share.clear();
 }
 
 void ParallelFeed::summary(FILE* out, unsigned long frames) const {

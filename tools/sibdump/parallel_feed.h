@@ -41,9 +41,12 @@ struct TextBuffer {
   }
 };
 
-/* What one worker writes while it decodes a batch: two sets of buffers, one for the batch
-   being decoded and one for the batch before it, which the calling thread writes out
-   meanwhile. */
+/* Batches in flight at once: gathered, being decoded or waiting to be written. */
+constexpr int kParallelBatches = 8;
+
+/* What one worker writes while it decodes a batch: a set of buffers for each batch in flight,
+   so that a worker goes on with the next batch while the calling thread writes out the ones
+   before. */
 class WorkerOutput {
  public:
   WorkerOutput();
@@ -77,7 +80,7 @@ class WorkerOutput {
   static ssize_t append_text(void* cookie, const char* buf, size_t size);
   static ssize_t append_messages(void* cookie, const char* buf, size_t size);
 
-  Buffers buffers_[2];
+  Buffers buffers_[kParallelBatches];
   int current_ = 0; /* the buffers of the batch being decoded */
   TextBuffer* records_ = &buffers_[0].records;
   FILE* records_stream_;
@@ -108,10 +111,12 @@ class ParallelFeed : public FrameSink {
  private:
   struct Item;
   struct Shared;
-  /* The batch gathered is handed to the workers once they are done with the one before,
-     whose output is then written while they decode. */
+  /* Hands the batch gathered to the workers and writes out every batch that all workers are
+     done with; waits only when no batch is free to gather the next frames in. */
   void next_batch();
-  void wait_for_workers();
+  /* Writes out, in order, the batches that every worker is done with; with `all`, waits for
+     the workers to be done with every batch handed out. */
+  void write_finished(bool all);
   void decode_share(unsigned worker, int batch);
   void write_batch(int batch);
   bool write_records_only(int batch);
