@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <fstream>
-#include <sstream>
 
 #include "codec_test_util.h"
 #include "runtime_test_util.h"
@@ -15,43 +13,21 @@ using rt_test::Ctx;
 
 namespace {
 
-// gsm-MAP, MCC 234, MNC 15:
-// 00 | 0010 0011 0100 | 0 | 0001 0101  -> 0000 1000  1101 0000  0010 101(0)
-const std::vector<uint8_t> kPlmnGsmMap = {0x08, 0xD0, 0x2A};
-
-TEST(CodecPatterns, PlmnTypeGsmMapFromHandComputedBits) {
-  Ctx ctx;
-  PLMN_Type v{};
-  pu_setBuffer(ctx, kPlmnGsmMap.data(), 3, 0);
-  ASSERT_EQ(asn1PD_UMTS_PLMN_Type(ctx, &v), 0);
-  EXPECT_EQ(rtxBitPos(ctx), 23u);
-  ASSERT_EQ(v.t, 1u);
-  const PLMN_Identity& id = v.u.gsm_MAP->plmn_Identity;
-  ASSERT_EQ(id.mcc.n, 3u);
-  EXPECT_EQ(id.mcc.elem[0], 2);
-  EXPECT_EQ(id.mcc.elem[1], 3);
-  EXPECT_EQ(id.mcc.elem[2], 4);
-  ASSERT_EQ(id.mnc.n, 2u);
-  EXPECT_EQ(id.mnc.elem[0], 1);
-  EXPECT_EQ(id.mnc.elem[1], 5);
-
-  Ctx enc;
-  ASSERT_EQ(rtxInitContextBuffer(enc, nullptr, 0), 0);
-  ASSERT_EQ(asn1PE_UMTS_PLMN_Type(enc, &v), 0);
-  EXPECT_EQ(rtxBitPos(enc), 23u);
-  EXPECT_EQ(toHex(enc->buffer_data, pu_getMsgLen(enc)), "08d02a");
-}
-
-// How many bits a type reads, and what it makes of them: the count bit of an MNC, the spare
-// alternative of a PLMN-Type (nothing after its index), an enumerated type of one name (no
-// bits at all), a list of lower size 0 with no elements (its count only).
-TEST(CodecPatterns, BitsReadPerType) {
+// How many bits a type reads, what it makes of them and that the encoder writes them back:
+// the digits of a PLMN, the count bit of an MNC, the spare alternative of a PLMN-Type
+// (nothing after its index), an enumerated type of one name (no bits at all), a list of lower
+// size 0 with no elements (its count only).
+TEST(CodecPatterns, HandComputedBitsBothWays) {
   const struct {
     const char* type;
     const char* hex;
     uint64_t bits;
     const char* printed;
   } cases[] = {
+      // gsm-MAP, MCC 234, MNC 15: 00 | 0010 0011 0100 | 0 | 0001 0101
+      {"PLMN-Type", "08d02a", 23,
+       "value {\n   gsm-MAP {\n      plmn_Identity {\n         mcc[0] = 2\n         mcc[1] = 3\n         mcc[2] = 4\n"
+       "         mnc[0] = 1\n         mnc[1] = 5\n      }\n   }\n}\n"},
       {"MNC", "0900", 9, "value[0] = 1\nvalue[1] = 2\n"},  // 0 0001 0010: two digits
       {"MNC", "8000", 13, "value[0] = 0\nvalue[1] = 0\nvalue[2] = 0\n"},  // 1 0000 0000 0000: three
       {"PLMN-Type", "c0", 2, "value {\n   spare = NULL\n}\n"},  // index 3
@@ -63,13 +39,20 @@ TEST(CodecPatterns, BitsReadPerType) {
     ASSERT_EQ(testutil::decode(umts_type_lookup(c.type), fromHex(c.hex), d), 0) << c.type;
     EXPECT_EQ(rtxBitPos(&d.ctx), c.bits) << c.type;
     EXPECT_EQ(testutil::print(d.type, d.value()), c.printed) << c.type;
+    std::vector<uint8_t> bytes;
+    uint64_t bits = 0;
+    ASSERT_EQ(testutil::encode(d.type, d.value(), bytes, bits), 0) << c.type;
+    EXPECT_EQ(bits, c.bits) << c.type;
+    EXPECT_EQ(toHex(bytes.data(), bytes.size()), std::string(c.hex).substr(0, (c.bits + 7) / 8 * 2)) << c.type;
   }
 }
 
+// A BCH block decoded independently: sfn-Prime 1290, firstSegment of extensionType,
+// seg-Count 7, 222 bits of data.
+const char kBchBlock[] = "a143f686e52a22282f36928cc1852026d2519830afacda4a330614909b4944";
+
 TEST(CodecPatterns, RealBchTransportBlock) {
-  // A BCH block decoded independently: sfn-Prime 1290, firstSegment of extensionType,
-  // seg-Count 7, 222 bits of data.
-  auto block = fromHex("a143f686e52a22282f36928cc1852026d2519830afacda4a330614909b4944");
+  auto block = fromHex(kBchBlock);
   Ctx ctx;
   BCCH_BCH_Message msg{};
   pu_setBuffer(ctx, block.data(), static_cast<uint32_t>(block.size()), 0);
@@ -77,8 +60,7 @@ TEST(CodecPatterns, RealBchTransportBlock) {
   EXPECT_EQ(msg.message.sfn_Prime, 1290);
   ASSERT_EQ(msg.message.payload.t, 2u);
   const FirstSegment* seg = msg.message.payload.u.firstSegment;
-  EXPECT_EQ(seg->sib_Type, UMTS_SIB_Type_extensionType);
-  EXPECT_EQ(seg->sib_Type, 31u);
+  EXPECT_EQ(seg->sib_Type, 31u);  // extensionType
   EXPECT_EQ(seg->seg_Count, 7);
   EXPECT_EQ(seg->sib_Data_fixed.numbits, 222u);
   EXPECT_EQ(toHex(seg->sib_Data_fixed.data, 28), "86e52a22282f36928cc1852026d2519830afacda4a330614909b4944");
@@ -142,7 +124,7 @@ TEST(CodecFailures, ArrayCountOutsideItsSizeKeepsPrintInBounds) {
 }
 
 TEST(CodecFailures, HeapExhaustionIsReportedWithThePathAtTheFailingElement) {
-  auto block = fromHex("a143f686e52a22282f36928cc1852026d2519830afacda4a330614909b4944");
+  auto block = fromHex(kBchBlock);
   Ctx ctx;
   rtxMemHeapSetLimit(ctx, 8);
   BCCH_BCH_Message msg{};
@@ -205,61 +187,16 @@ TEST(CodecFailures, ListCountBeyondItsChainWritesOnlyTheChain) {
   EXPECT_EQ(rtxBitPos(enc), 5u + 5u + 2u + 4u + 1u);
 }
 
-// Cutting a valid encoding short at every byte fails cleanly: end of buffer, a path that
-// names where the decoder stood, nothing read outside the (exactly sized) buffer.
-TEST(CodecFailures, TruncatedEncodingsFailAtEveryCut) {
-  std::ifstream in(UMTS_TEST_DATA_DIR "/roundtrip_vectors.txt");
-  std::string line;
-  int checked = 0;
-  while (std::getline(in, line)) {
-    if (line.empty() || line[0] == '#') continue;
-    std::istringstream ls(line);
-    std::string type, hex;
-    uint64_t bits;
-    ls >> type >> bits >> hex;
-    if (type != "MasterInformationBlock" && type != "SysInfoType3" && type != "BCCH_BCH_Message" &&
-        type != "SysInfoType5")
-      continue;
-    const umts_type_info* info = umts_type_lookup(type.c_str());
-    ASSERT_NE(info, nullptr);
-    auto bytes = fromHex(hex);
-    for (size_t cut = 0; cut * 8 < bits; cut++) {
-      std::vector<uint8_t> part(bytes.begin(), bytes.begin() + static_cast<long>(cut));
-      testutil::Decoded d;
-      int stat = testutil::decode(info, part, d);
-      ASSERT_EQ(stat, RT_ERR_ENDOFBUF) << type << " cut at byte " << cut;
-      char path[512];
-      rtxCtxtGetPath(&d.ctx, path, sizeof path);
-      EXPECT_EQ(std::string(path).rfind(info->name, 0), 0u) << path;
-      // With nothing to read the type fails on its own preamble; past that, the path
-      // goes down to the element being read.
-      if (cut > 0) {
-        EXPECT_GT(std::string(path).size(), std::string(info->name).size())
-            << "the path names the failing element: " << type << " cut " << cut;
-      }
-      checked++;
-    }
-  }
-  EXPECT_GT(checked, 100);
-}
-
 TEST(CodecPrint, OptionalAbsentElementsPrintNothingAndLabelsKeepTheirNewline) {
-  Ctx ctx;
   MasterInformationBlock mib{};
   mib.mib_ValueTag = 3;
   PLMN_Type_gsm_MAP gsm{};
-  gsm.plmn_Identity.mcc.n = 3;
-  gsm.plmn_Identity.mnc.n = 2;
   mib.plmn_Type.t = 1;
   mib.plmn_Type.u.gsm_MAP = &gsm;
   rtxDListInit(&mib.sibSb_ReferenceList);
   std::string text = testutil::capturePrint([&] { asn1Print_UMTS_MasterInformationBlock("Decoded MIB\n", &mib); });
   EXPECT_EQ(text.rfind("Decoded MIB\n", 0), 0u);
   EXPECT_NE(text.find("mib_ValueTag = 3"), std::string::npos);
-  EXPECT_NE(text.find("gsm-MAP"), std::string::npos) << "alternatives keep the schema's hyphens";
-  EXPECT_NE(text.find("plmn_Identity"), std::string::npos) << "fields have underscores";
-  EXPECT_NE(text.find("mcc[2]"), std::string::npos);
-  EXPECT_EQ(text.find("mnc[2]"), std::string::npos);
   EXPECT_EQ(text.find("v690NonCriticalExtensions"), std::string::npos);
   EXPECT_EQ(text.find("sibSb_ReferenceList"), std::string::npos) << "an empty list prints nothing";
 }
@@ -289,22 +226,12 @@ TEST(CodecNames, LookupsBothWays) {
   v = 77;
   EXPECT_EQ(UMTS_TFCI_Coding_ToEnum(ctx, "", &v), RT_ERR_INVENUM);
   EXPECT_EQ(UMTS_TFCI_Coding_ToEnum(ctx, "tfci_bits_8", &v), RT_ERR_INVENUM);
-  EXPECT_EQ(UMTS_TFCI_Coding_ToEnum(ctx, "TFCI-bits-8", &v), RT_ERR_INVENUM);
   EXPECT_EQ(v, 77u) << "a failed lookup leaves the value";
   // ToEnum2 takes a length: the text need not end in a null.
   const char text[] = {'t', 'f', 'c', 'i', '-', 'b', 'i', 't', 's', '-', '1', '6', 'X'};
   EXPECT_EQ(UMTS_TFCI_Coding_ToEnum2(ctx, text, 12, &v), 0);
   EXPECT_EQ(v, 2u);
   EXPECT_EQ(UMTS_TFCI_Coding_ToEnum2(ctx, text, 13, &v), RT_ERR_INVENUM);
-}
-
-TEST(CodecInit, NullPointerIsIgnored) {
-  asn1Init_UMTS_MasterInformationBlock(nullptr);
-  asn1Init_UMTS_PLMN_Type(nullptr);
-  PLMN_Type v;
-  v.t = 3;
-  asn1Init_UMTS_PLMN_Type(&v);
-  EXPECT_EQ(v.t, 0u);
 }
 
 }  // namespace

@@ -30,6 +30,15 @@ std::vector<uint8_t> fromHex(const std::string& hex);
 // A zero-filled slot buffer of the decode window's size holding `bytes`, its SIB requested.
 void putSlot(umts_sib_id id, const std::vector<uint8_t>& bytes);
 
+// What a file holds up to its position; the file is closed.
+inline std::string readAndClose(FILE* f) {
+  std::string text(static_cast<size_t>(std::ftell(f)), '\0');
+  std::rewind(f);
+  text.resize(std::fread(&text[0], 1, text.size(), f));
+  std::fclose(f);
+  return text;
+}
+
 // Everything written to file descriptor `fd` while fn runs; on 1 the codec's print included.
 template <typename Fn>
 std::string captureFd(int fd, Fn fn) {
@@ -42,11 +51,7 @@ std::string captureFd(int fd, Fn fn) {
   rtxPrintFlush();
   dup2(saved, fd);
   close(saved);
-  std::string text(static_cast<size_t>(std::ftell(tmp)), '\0');
-  std::rewind(tmp);
-  text.resize(std::fread(&text[0], 1, text.size(), tmp));
-  std::fclose(tmp);
-  return text;
+  return readAndClose(tmp);
 }
 template <typename Fn>
 std::string captureStdout(Fn fn) {
@@ -160,16 +165,16 @@ class FrameTest : public ::testing::Test {
 
   // A transport block through the BCH entry; its result, and what it printed in `out`.
   uint8_t feed(const std::vector<uint8_t>& block, std::string* out = nullptr) {
-    uint8_t ret = 0xEE;
-    const std::string text = captureStdout([&] { ret = umts_sib_decoder(block.data(), result, static_cast<uint32_t>(block.size())); });
-    if (out != nullptr) *out = text;
-    return ret;
+    return printing(out, [&] { return umts_sib_decoder(block.data(), result, static_cast<uint32_t>(block.size())); });
   }
   // One whole SIB through the other entry.
   uint8_t whole(umts_sib_id id, const std::vector<uint8_t>& bytes, std::string* out = nullptr) {
+    return printing(out, [&] { return umts_sib_msg_decoder(id, bytes.data(), result, static_cast<uint32_t>(bytes.size())); });
+  }
+  template <typename Fn>
+  uint8_t printing(std::string* out, Fn entry) {
     uint8_t ret = 0xEE;
-    const std::string text = captureStdout(
-        [&] { ret = umts_sib_msg_decoder(id, bytes.data(), result, static_cast<uint32_t>(bytes.size())); });
+    const std::string text = captureStdout([&] { ret = entry(); });
     if (out != nullptr) *out = text;
     return ret;
   }

@@ -156,19 +156,6 @@ TEST_F(FrameBch, UnsupportedSibTypeIsRefusedWithTheHandlersMessage) {
   }
 }
 
-// A refused first part skips the direct conversion, but the loop still converts what the
-// last part completed.
-TEST_F(FrameBch, LastAndFirstConvertsTheCompletedSibDespiteARefusedFirst) {
-  quietly(check_decode_first_segment, FirstSegment{3, 2, bitString<Fixed>(fromHex(kSib3Hex), 222)});
-  const SystemInformation_BCH_payload_lastAndFirst laf{{3, 1, bitString<Variable>({0}, 8)},
-                                                       {4, 2, bitString<Variable>({0}, 8)}};
-  std::string out;
-  EXPECT_EQ(feed(encodeBch(5, &laf), &out), 0);
-  EXPECT_NE(out.find("Decoded SysInfoType3\n"), std::string::npos);
-  EXPECT_EQ(result->presence_bitmask, 1u << umts_sib_sib3);
-  EXPECT_TRUE(empty(umts_sib_sib3));
-}
-
 // A list's last entry decides its result; what it marked is converted either way. The SIBs
 // of one block are converted in slot order, and failed passes are followed by others until
 // no request is left, the entry reporting the first.

@@ -171,10 +171,6 @@ TEST_F(FrameDriver, EveryPendingBlockDecodesItsEncodingAndZeroesItsRecord) {
   }
 }
 
-}  // namespace
-
-namespace {
-
 // The text of the decoded values goes to the stream that the host chose, or nowhere; the
 // library's messages stay on standard output, after the text made before them.
 TEST_F(FrameDriver, TextGoesToTheChosenStreamOrNowhere) {
@@ -208,12 +204,8 @@ TEST_F(FrameDriver, TextGoesToTheChosenStreamOrNowhere) {
   umts_sib_print_to(f);
   EXPECT_EQ(run(), message);
   umts_sib_print_flush();
-  std::string written(static_cast<size_t>(std::ftell(f)), '\0');
-  std::rewind(f);
-  written.resize(std::fread(&written[0], 1, written.size(), f));
-  EXPECT_EQ(written, text);
   umts_sib_print_to(stdout);
-  std::fclose(f);
+  EXPECT_EQ(readAndClose(f), text);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <thread>
 #include <vector>
 
@@ -71,19 +72,6 @@ std::vector<std::vector<Input>> streams() {
   return s;
 }
 
-uint64_t digest(const void* p, size_t n) {
-  const uint8_t* b = static_cast<const uint8_t*>(p);
-  uint64_t h = 1469598103934665603ull;
-  size_t i = 0;
-  for (; i + 8 <= n; i += 8) {
-    uint64_t w;
-    std::memcpy(&w, b + i, 8);
-    h = (h ^ w) * 1099511628211ull;
-  }
-  for (; i < n; i++) h = (h ^ b[i]) * 1099511628211ull;
-  return h;
-}
-
 // The sub-record of slot `id` in the set, from the set's field list.
 std::pair<const void*, size_t> subRecord(const umts_sib_set* s, unsigned id) {
 #define SPAN(kind, type, name, dim, cond, aux) {offsetof(umts_sib_set, name), sizeof(type)},
@@ -108,19 +96,29 @@ Output feed(umts_sib_decoder_t* d, umts_sib_set* set, const Input& in) {
     if ((set->presence_bitmask >> id & 1u) == 0) continue;
     const size_t len = umts_sib_record_json(set, static_cast<umts_sib_id>(id), json.data(), json.size());
     const auto rec = subRecord(set, id);
-    out.records.push_back(std::string(json.data(), len) + " #" + std::to_string(digest(rec.first, rec.second)));
+    const size_t digest = std::hash<std::string_view>()({static_cast<const char*>(rec.first), rec.second});
+    out.records.push_back(std::string(json.data(), len) + " #" + std::to_string(digest));
   }
   return out;
 }
 
-// A stream through a lone, new instance.
-std::vector<Output> alone(const std::vector<Input>& stream) {
+// A new instance with a set of its own, both freed at scope end.
+struct Instance {
   umts_sib_decoder_t* d = umts_sib_decoder_new();
   umts_sib_set* set = umts_sib_set_alloc();
+  Instance() = default;
+  Instance(const Instance&) = delete;
+  ~Instance() {
+    umts_sib_set_free(set);
+    umts_sib_decoder_free(d);
+  }
+};
+
+// A stream through a lone, new instance.
+std::vector<Output> alone(const std::vector<Input>& stream) {
+  Instance i;
   std::vector<Output> out;
-  for (const Input& in : stream) out.push_back(feed(d, set, in));
-  umts_sib_set_free(set);
-  umts_sib_decoder_free(d);
+  for (const Input& in : stream) out.push_back(feed(i.d, i.set, in));
   return out;
 }
 
@@ -141,27 +139,18 @@ class Instances : public ::testing::Test {
 };
 
 TEST_F(Instances, InterleavedOnOneThreadEachStreamGetsItsOwnRecords) {
-  std::vector<umts_sib_decoder_t*> d;
-  std::vector<umts_sib_set*> sets;
-  for (size_t i = 0; i < all_.size(); i++) {
-    d.push_back(umts_sib_decoder_new());
-    sets.push_back(umts_sib_set_alloc());
-  }
+  std::vector<Instance> inst(all_.size());
   std::vector<std::vector<Output>> got(all_.size());
   for (size_t step = 0;; step++) {
     bool any = false;
     for (size_t i = 0; i < all_.size(); i++) {
       if (step >= all_[i].size()) continue;
       any = true;
-      got[i].push_back(feed(d[i], sets[i], all_[i][step]));
+      got[i].push_back(feed(inst[i].d, inst[i].set, all_[i][step]));
     }
     if (!any) break;
   }
-  for (size_t i = 0; i < all_.size(); i++) {
-    EXPECT_EQ(lone_[i], got[i]) << "stream " << i;
-    umts_sib_set_free(sets[i]);
-    umts_sib_decoder_free(d[i]);
-  }
+  for (size_t i = 0; i < all_.size(); i++) EXPECT_EQ(lone_[i], got[i]) << "stream " << i;
   // The sample cell's cycle converts every block it carries.
   size_t records = 0;
   for (const Output& o : got[0]) records += o.records.size();
@@ -189,9 +178,8 @@ TEST_F(Instances, OneThreadPerInstanceGivesTheSameRecords) {
 TEST_F(Instances, TheGlobalEntriesAndAnInstanceSeeNothingOfEachOther) {
   const std::vector<Input>& a = all_[0];
   const std::vector<Input>& b = all_[1];
-  umts_sib_decoder_t* d = umts_sib_decoder_new();
-  umts_sib_set* global_set = umts_sib_set_alloc();
-  umts_sib_set* set = umts_sib_set_alloc();
+  Instance global, inst;
+  umts_sib_decoder_t* d = inst.d;
   auto snapshot = [](const umts_decoder_ctxt& c) {
     std::string s(reinterpret_cast<const char*>(&c), sizeof c);
     for (const umts_sib_slot& slot : c.slots)
@@ -203,13 +191,13 @@ TEST_F(Instances, TheGlobalEntriesAndAnInstanceSeeNothingOfEachOther) {
   for (size_t i = 0; i < a.size() || i < b.size(); i++) {
     if (i < a.size()) {
       const std::string before = snapshot(*umts_sib_decoder_state(d));
-      from_global.push_back(feed(nullptr, global_set, a[i]));
+      from_global.push_back(feed(nullptr, global.set, a[i]));
       EXPECT_EQ(before, snapshot(*umts_sib_decoder_state(d))) << "block " << i;
     }
     for (const umts_sib_slot& slot : g_umts_ctxt.slots) global_held_segments |= slot.remaining_segments != 0;
     if (i < b.size()) {
       const std::string before = snapshot(g_umts_ctxt);
-      from_instance.push_back(feed(d, set, b[i]));
+      from_instance.push_back(feed(d, inst.set, b[i]));
       EXPECT_EQ(before, snapshot(g_umts_ctxt)) << "block " << i;
     }
     for (const umts_sib_slot& slot : umts_sib_decoder_state(d)->slots) instance_held_segments |= slot.remaining_segments != 0;
@@ -219,20 +207,17 @@ TEST_F(Instances, TheGlobalEntriesAndAnInstanceSeeNothingOfEachOther) {
   EXPECT_EQ(lone_[1], from_instance);
   EXPECT_EQ(umts_sib_decoder_default(), umts_sib_decoder_default());
   EXPECT_EQ(&g_umts_ctxt, umts_sib_decoder_state(umts_sib_decoder_default()));
-  umts_sib_set_free(set);
-  umts_sib_set_free(global_set);
-  umts_sib_decoder_free(d);
 }
 
 // Reset drops what is in collection: a SIB whose first segment came before the reset does
 // not complete after it.
 TEST_F(Instances, ResetDropsTheSegmentsInCollection) {
   const std::vector<Input>& cycle = all_[0];
-  umts_sib_decoder_t* d = umts_sib_decoder_new();
-  umts_sib_set* set = umts_sib_set_alloc();
+  Instance inst;
+  umts_sib_decoder_t* d = inst.d;
   size_t first = 0;  // the first block that leaves a segment waiting
   for (; first < cycle.size(); first++) {
-    feed(d, set, cycle[first]);
+    feed(d, inst.set, cycle[first]);
     bool waiting = false;
     for (const umts_sib_slot& slot : umts_sib_decoder_state(d)->slots) waiting |= slot.buffer != nullptr;
     if (waiting) break;
@@ -245,10 +230,8 @@ TEST_F(Instances, ResetDropsTheSegmentsInCollection) {
   // that starts there refuses it.
   const std::vector<Input> rest(cycle.begin() + static_cast<long>(first) + 1, cycle.end());
   std::vector<Output> after;
-  for (const Input& in : rest) after.push_back(feed(d, set, in));
+  for (const Input& in : rest) after.push_back(feed(d, inst.set, in));
   EXPECT_EQ(alone(rest), after);
-  umts_sib_set_free(set);
-  umts_sib_decoder_free(d);
 }
 
 // An instance prints nothing until it has a stream; with one, its text is what the global
@@ -257,13 +240,12 @@ TEST_F(Instances, ResetDropsTheSegmentsInCollection) {
 TEST_F(Instances, TextOfAnInstanceIsTheTextOfTheGlobalEntries) {
   std::vector<Input> stream = all_[4];  // damaged input among good blocks: messages and values
   stream.insert(stream.end(), all_[0].begin(), all_[0].end());
-  umts_sib_set* set = umts_sib_set_alloc();
-  umts_sib_decoder_t* silent = umts_sib_decoder_new();
+  Instance silent;
+  umts_sib_set* set = silent.set;
   EXPECT_EQ("", frametest::captureStdout([&] {
-              for (const Input& in : stream) feed(silent, set, in);
-              umts_sib_decoder_print_flush(silent);
+              for (const Input& in : stream) feed(silent.d, set, in);
+              umts_sib_decoder_print_flush(silent.d);
             }));
-  umts_sib_decoder_free(silent);
 
   umts_sib_print_to(stdout);
   const std::string global = frametest::captureStdout([&] {
@@ -281,24 +263,18 @@ TEST_F(Instances, TextOfAnInstanceIsTheTextOfTheGlobalEntries) {
   });
   EXPECT_EQ("", out);
   umts_sib_decoder_free(d);  // hands over what is gathered
-  std::string text(static_cast<size_t>(std::ftell(f)), '\0');
-  std::rewind(f);
-  text.resize(std::fread(&text[0], 1, text.size(), f));
-  std::fclose(f);
-  EXPECT_EQ(global, text);
-  umts_sib_set_free(set);
+  EXPECT_EQ(global, frametest::readAndClose(f));
 }
 
 TEST_F(Instances, NullInstancesAreRefused) {
-  umts_sib_set* set = umts_sib_set_alloc();
+  Instance inst;
   const Input& mib = all_[0][0];
-  EXPECT_EQ(0, umts_sib_decoder_feed_block(nullptr, mib.bytes.data(), set, 31));
-  EXPECT_EQ(0, umts_sib_decoder_feed_sib(nullptr, umts_sib_mib, mib.bytes.data(), set, 31));
+  EXPECT_EQ(0, umts_sib_decoder_feed_block(nullptr, mib.bytes.data(), inst.set, 31));
+  EXPECT_EQ(0, umts_sib_decoder_feed_sib(nullptr, umts_sib_mib, mib.bytes.data(), inst.set, 31));
   EXPECT_EQ(nullptr, umts_sib_decoder_state(nullptr));
   umts_sib_decoder_free(nullptr);
   umts_sib_decoder_free(umts_sib_decoder_default());  // ignored
   umts_sib_decoder_reset(nullptr);
-  umts_sib_set_free(set);
 }
 
 }  // namespace

@@ -51,6 +51,16 @@ std::vector<uint8_t> minimalSib11bis(uint32_t* bits) {
   return encode(asn1PE_UMTS_SysInfoType11bis, sib, bits);
 }
 
+// The default MIB with SIB11bis in its v6b0 list of extension SIBs, at `s`.
+std::vector<uint8_t> mibScheduling11bis(const SchedulingInformation& s, uint32_t* bits = nullptr) {
+  MibBuilder b;
+  auto& v6b0 = b.mib.v690NonCriticalExtensions.v6b0NonCriticalExtensions;
+  b.mib.m = b.mib.v690NonCriticalExtensions.m = v6b0.masterInformationBlock_v6b0ext.m = 1;
+  b.ext = {{1, {}}, s, {1, {}}};
+  b.add(v6b0.masterInformationBlock_v6b0ext.extSIBTypeInfoSchedulingInfo_List, b.ext);
+  return b.encode(bits);
+}
+
 // The transport blocks of `sibs`, cut by the segmenter from SFN' `sfnPrime` on.
 std::vector<umts_bch_block> cut(const std::vector<umts_bch_sib>& sibs, uint16_t sfnPrime = 0) {
   std::vector<umts_bch_block> blocks(64);
@@ -106,26 +116,8 @@ TEST_F(FrameReassembly, RealSib18OverTwoBlocksIsThePhonesSib18) {
   expectSameRecord(&umts_sib_set::sib18, umts_sib_sib18, kSib18);
 }
 
-// The handlers behind umts_check_and_decode_sibs, for one decoded block; no conversion runs.
-uint8_t fileParts(const BCCH_BCH_Message& m) {
-  g_umts_ctxt.sfn_prime = m.message.sfn_Prime;
-  const auto& u = m.message.payload.u;
-  switch (m.message.payload.t) {
-    case 2: return check_decode_first_segment(u.firstSegment);
-    case 3: return check_decode_subsequent_segment(u.subsequentSegment);
-    case 4: return check_decode_last_segment_short(u.lastSegmentShort);
-    case 5: return check_decode_last_and_first(u.lastAndFirst);
-    case 6: return check_decode_last_and_complete(u.lastAndComplete);
-    case 7: return check_decode_last_and_complete_and_first(u.lastAndCompleteAndFirst);
-    case 8: return check_decode_completeSIB_list(u.completeSIB_List);
-    case 9: return check_decode_complete_and_first(u.completeAndFirst);
-    case 10: return check_decode_complete_SIB(u.completeSIB);
-    case 11: return check_decode_last_segment(u.lastSegment);
-    default: return 0;
-  }
-}
-
-// Files the blocks' segments and takes each SIB that they complete out of its slot.
+// Files the blocks' segments (without a record: nothing is converted) and takes each SIB that
+// they complete out of its slot.
 struct Reassembly {
   std::map<unsigned, std::vector<uint8_t>> completed;  // by slot, the whole buffer
   std::set<uint32_t> payloads;
@@ -138,7 +130,7 @@ struct Reassembly {
     std::memset(&m, 0, sizeof m);
     ASSERT_EQ(asn1PD_UMTS_BCCH_BCH_Message(&ctx, &m), 0);
     payloads.insert(m.message.payload.t);
-    fileParts(m);
+    umts_check_and_decode_sibs(&ctx, &m, nullptr);
     rtFreeContext(&ctx);
     for (unsigned id = 0; id < umts_sib_count; id++) {
       if ((g_umts_ctxt.request_bitmask & (1u << id)) == 0) continue;
@@ -301,15 +293,8 @@ TEST_F(FrameReassembly, MibScheduledSib11bisIsConvertedAtItsPlaceOnly) {
   EXPECT_NE(out.find("check_decode_completeSIB_list:Invalid sib type\n"), std::string::npos);
   EXPECT_EQ(result->presence_bitmask, 0);
 
-  MibBuilder b;
-  auto& v690 = b.mib.v690NonCriticalExtensions;
-  b.mib.m = 1;
-  v690.m = 1;
-  v690.v6b0NonCriticalExtensions.masterInformationBlock_v6b0ext.m = 1;
-  b.ext = {{1, {}}, scheduling(5, 1), {1, {}}};  // SIB11bis: rep64 at frame 2, so SFN' 1, 33, 65, ...
-  b.add(v690.v6b0NonCriticalExtensions.masterInformationBlock_v6b0ext.extSIBTypeInfoSchedulingInfo_List, b.ext);
   uint32_t mibBits = 0;
-  const std::vector<uint8_t> mib = b.encode(&mibBits);
+  const std::vector<uint8_t> mib = mibScheduling11bis(scheduling(5, 1), &mibBits);  // rep64 at frame 2: SFN' 1, 33, ...
   const std::vector<umts_bch_block> cycle = cut({{0, mib.data(), mibBits, 1}, {31, sib11bis.data(), bits, 0}}, 32);
   ASSERT_EQ(cycle.size(), 2u);
   for (const umts_bch_block& block : cycle) EXPECT_EQ(feed(bytesOf(block)), 1);
@@ -375,14 +360,7 @@ TEST_F(FrameReassembly, Sb1ScheduledSib19IsNotASib11bis) {
   EXPECT_EQ(feed(fromHex(kExtensionBlock), &out), 0);
   EXPECT_NE(out.find("check_decode_first_segment:Invalid sib type\n"), std::string::npos);
   EXPECT_EQ(slot(umts_sib_sib11bis).buffer, nullptr);
-  MibBuilder b;
-  auto& v6b0 = b.mib.v690NonCriticalExtensions.v6b0NonCriticalExtensions;
-  b.mib.m = 1;
-  b.mib.v690NonCriticalExtensions.m = 1;
-  v6b0.masterInformationBlock_v6b0ext.m = 1;
-  b.ext = {{1, {}}, scheduling(9, 2580 % 1024 / 2, 7), {1, {}}};  // rep1024, 7 segments
-  b.add(v6b0.masterInformationBlock_v6b0ext.extSIBTypeInfoSchedulingInfo_List, b.ext);
-  ASSERT_EQ(whole(umts_sib_mib, b.encode()), 1);
+  ASSERT_EQ(whole(umts_sib_mib, mibScheduling11bis(scheduling(9, 2580 % 1024 / 2, 7))), 1);  // rep1024, 7 segments
   EXPECT_EQ(feed(fromHex(kExtensionBlock)), 1);
   EXPECT_EQ(slot(umts_sib_sib11bis).total_segments, 7);
   EXPECT_EQ(slot(umts_sib_sib11bis).write_cursor - slot(umts_sib_sib11bis).buffer, 27);
