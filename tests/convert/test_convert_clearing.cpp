@@ -210,23 +210,17 @@ class LibrarySetClearing : public FrameTest {
   umts_sib_set* copied = static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)));
 };
 
-TEST_F(LibrarySetClearing, RandomEncodingsInTurnReadAsInTheCallersSet) {
+// The random encodings one after another, the sample's small lists over their long lists,
+// then the random encodings backwards over the sample's: each follows both neighbours.
+TEST_F(LibrarySetClearing, RandomEncodingsInTurnAndTheSampleCellReadAsInTheCallersSet) {
   ASSERT_NE(own, nullptr);
   const std::vector<Encoding> all = randomEncodings();
   ASSERT_EQ(all.size(), (12u + kBlockVectors + kExtensionVectors) * blockTypes().size());
-  for (size_t i = 0; i < all.size(); i++) convertBoth(all[i], "random encoding " + std::to_string(i));
-  for (size_t i = all.size(); i-- > 0;) convertBoth(all[i], "random encoding " + std::to_string(i) + ", backwards");
-}
-
-TEST_F(LibrarySetClearing, SampleCellAfterRandomEncodings) {
-  ASSERT_NE(own, nullptr);
   const std::vector<Encoding> samples = sampleEncodings();
   ASSERT_GE(samples.size(), 12u);
-  for (const Encoding& e : randomEncodings()) convertBoth(e, "random encoding");
+  for (size_t i = 0; i < all.size(); i++) convertBoth(all[i], "random encoding " + std::to_string(i));
   for (const Encoding& e : samples) convertBoth(e, std::string("sample ") + umts_sib_name(e.id));
-  // And back: the sample's small lists over the random ones' long lists, then the random
-  // ones over the sample's.
-  for (const Encoding& e : randomEncodings()) convertBoth(e, "random encoding after the samples");
+  for (size_t i = all.size(); i-- > 0;) convertBoth(all[i], "random encoding " + std::to_string(i) + ", backwards");
 }
 
 // The ECN0 form of the inter-frequency list holds each cell's frequency with its bit clear:

@@ -115,15 +115,12 @@ void checkExtensions(const umts_sb1_info& f) {
   const auto& ext = v6b0.sysInfoTypeSB_v6b0ext.extSIBTypeInfoSchedulingInfo_List;
   EXPECT_EQ(v6b0.presence_bitmask + v6b0.sysInfoTypeSB_v6b0ext.presence_bitmask, 2);
   EXPECT_EQ(ext.count, 1);
-  EXPECT_EQ(ext.entries[0].extensionSIB_Type, 5u);
-  EXPECT_EQ(ext.entries[0].schedulingInfo.sib_Pos.u.rep128, 63);
   EXPECT_EQ(ext.entries[0].valueTagInfo.u.cellValueTag, 4);
   const umts_sb_v860_nc_extensions& v860 = v6b0.v860NonCriticalExtensions;
   EXPECT_EQ(v860.presence_bitmask, 1);
   EXPECT_EQ(v860.nonCriticalExtensions, 0);
   const umts_sb_v860_ext& ies = v860.sysInfoTypeSB_v860ext;
   ASSERT_EQ(ies.presence_bitmask, 3);
-  EXPECT_EQ(ies.extSIBTypeInfoSchedulingInfo_List.entries[0].extensionSIB_Type2, 2u);
   EXPECT_EQ(ies.extSIBTypeInfoSchedulingInfo_List.entries[0].valueTagInfo.u.sIBOccurrenceIdentityAndValueTag.sibOccurIdentity, 9);
   const umts_ext_ganss_sib_type_info_scheduling_info& g = ies.extGANSS_SIBTypeInfoSchedulingInfoList.entries[0];
   EXPECT_EQ(g.presence_bitmask * 16 + g.sbasID, 2u * 16 + 3);  // sbasID without ganssID
