@@ -259,6 +259,12 @@ TEST_F(LibrarySetClearing, FailedDecodingClearsNothing) {
     convertBoth({type.second, damaged}, "damaged " + type.first);
     if (status != 0) continue;  // every bit pattern is a SIB2
     EXPECT_EQ(std::memcmp(before.data(), record, before.size()), 0) << type.first;
+    // The log names the conversion that failed (the scheduling blocks' as scheduling_block1, 2).
+    const std::string name = type.second == umts_sib_sb1   ? "scheduling_block1"
+                             : type.second == umts_sib_sb2 ? "scheduling_block2"
+                                                           : umts_sib_name(type.second);
+    EXPECT_TRUE(frametest::logged("2:decode_system_info_msg:umts_convert_" + name + (name == "mib" ? " failed!" : " failed")))
+        << type.first;
     for (char& c : printed) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
     if (type.second == umts_sib_mib) EXPECT_EQ(printed, "") << "the MIB's failure is silent";
     else EXPECT_NE(printed.find("decoding failed"), std::string::npos) << type.first << ": " << printed;
