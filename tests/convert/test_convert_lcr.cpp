@@ -217,65 +217,43 @@ void buildInterMeas(Pool& p, typename F::InterMeas& m, const Shape& s) {
   }
 }
 
-// The tree of SIB11 and SIB12 in the form (hcs, quality): 1 1 RSCP, 1 2 ECN0, 2 1 HCS_RSCP,
-// 2 2 HCS_ECN0.
-template <class F, class Q>
-void buildQuality(Pool& p, Q*& q, const Shape& s) {
-  q = p.make<Q>();
-  q->m = 3;
-  buildIntraMeas<F>(p, q->intraFreqMeasurementSysInfo, s);
-  buildInterMeas<F>(p, q->interFreqMeasurementSysInfo, s);
+// The alternative of the form (hcs, quality) under `use`: 1 1 RSCP, 1 2 ECN0, 2 1 HCS_RSCP,
+// 2 2 HCS_ECN0; `build` fills it, given the form's decoded types.
+template <class Use, class Build>
+void buildForm(Pool& p, Use& use, int form, Build build) {
+  use.t = form < 2 ? 1 : 2;
+  auto quality = [&](auto& q, auto rscp, auto ecno) {
+    q.t = 1 + form % 2;
+    if (form % 2 == 0) build(rscp, *p.alloc(q.u.cpich_RSCP));
+    else build(ecno, *p.alloc(q.u.cpich_Ec_N0));
+  };
+  if (form < 2) quality(p.alloc(use.u.hcs_not_used)->cellSelectQualityMeasure, Rscp{}, Ecno{});
+  else quality(p.alloc(use.u.hcs_used)->cellSelectQualityMeasure, HcsRscp{}, HcsEcno{});
 }
 
+// The tree of SIB11 and SIB12: both frequency records.
 void buildExt(Pool& p, MeasurementControlSysInfo_LCR_r4_ext& e, int form, const Shape& s) {
-  auto& use = e.use_of_HCS;
-  use.t = form < 2 ? 1 : 2;
-  if (form < 2) {
-    use.u.hcs_not_used = p.make<MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used>();
-    auto& q = use.u.hcs_not_used->cellSelectQualityMeasure;
-    q.t = 1 + form % 2;
-    if (form == 0) buildQuality<Rscp>(p, q.u.cpich_RSCP, s);
-    else buildQuality<Ecno>(p, q.u.cpich_Ec_N0, s);
-  } else {
-    use.u.hcs_used = p.make<MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used>();
-    auto& q = use.u.hcs_used->cellSelectQualityMeasure;
-    q.t = 1 + form % 2;
-    if (form == 2) buildQuality<HcsRscp>(p, q.u.cpich_RSCP, s);
-    else buildQuality<HcsEcno>(p, q.u.cpich_Ec_N0, s);
-  }
+  buildForm(p, e.use_of_HCS, form, [&](auto f, auto& q) {
+    q.m = 3;
+    buildIntraMeas<decltype(f)>(p, q.intraFreqMeasurementSysInfo, s);
+    buildInterMeas<decltype(f)>(p, q.interFreqMeasurementSysInfo, s);
+  });
 }
 
 // SIB11bis: the two new-cell lists, and one inter-RAT cell in the hcs_used branch.
-template <class F, class Q>
-void buildBisQuality(Pool& p, Q*& q, const Shape& s) {
-  q = p.make<Q>();
-  q->m = 3;
-  buildNewIntra<F>(p, q->newIntraFreqCellList, s);
-  buildNewInter<F>(p, q->newInterFreqCellList, s);
-}
-
 void buildBis(Pool& p, MeasurementControlSysInfoExtension_LCR_r4& e, int form, const Shape& s) {
-  auto& use = e.use_of_HCS;
-  use.t = form < 2 ? 1 : 2;
-  if (form < 2) {
-    use.u.hcs_not_used = p.make<MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used>();
-    auto& q = use.u.hcs_not_used->cellSelectQualityMeasure;
-    q.t = 1 + form % 2;
-    if (form == 0) buildBisQuality<Rscp>(p, q.u.cpich_RSCP, s);
-    else buildBisQuality<Ecno>(p, q.u.cpich_Ec_N0, s);
-  } else {
-    use.u.hcs_used = p.make<MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used>();
-    auto& h = *use.u.hcs_used;
-    h.m = 1;
-    NewInterRATCell* rat = p.add<NewInterRATCell>(h.newInterRATCellList);
-    rat->m = 1;
-    rat->interRATCellID = 17;
-    rat->technologySpecificInfo.t = 3;  // absent
-    auto& q = h.cellSelectQualityMeasure;
-    q.t = 1 + form % 2;
-    if (form == 2) buildBisQuality<HcsRscp>(p, q.u.cpich_RSCP, s);
-    else buildBisQuality<HcsEcno>(p, q.u.cpich_Ec_N0, s);
-  }
+  buildForm(p, e.use_of_HCS, form, [&](auto f, auto& q) {
+    q.m = 3;
+    buildNewIntra<decltype(f)>(p, q.newIntraFreqCellList, s);
+    buildNewInter<decltype(f)>(p, q.newInterFreqCellList, s);
+  });
+  if (form < 2) return;
+  auto& h = *e.use_of_HCS.u.hcs_used;
+  h.m = 1;
+  NewInterRATCell* rat = p.add<NewInterRATCell>(h.newInterRATCellList);
+  rat->m = 1;
+  rat->interRATCellID = 17;
+  rat->technologySpecificInfo.t = 3;  // absent
 }
 
 // ---- Checks ---------------------------------------------------------------------------------
