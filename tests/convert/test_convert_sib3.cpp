@@ -8,22 +8,11 @@ namespace {
 // A SysInfoType3 built in code, with the storage of its lists and alternatives. Starts as the
 // smallest SIB3: fdd without optional elements, cpich-RSCP, notBarred, no extensions.
 struct Sib3Builder {
-  SysInfoType3 s;
-  CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0 ecN0;
-  CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd fdd;
-  CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd tdd;
-  Mapping mappings[16];
-  MappingFunctionParameter params[60];
-  RAT_FDD_Info fddRats[15];
-  RAT_TDD_Info tddRats[15];
-  N_CR_T_CRMaxHyst hyst[2];
-  CellBarred_barred barred;
-  rtxDListNode nodes[120];
-  unsigned usedNodes = 0;
-  unsigned usedParams = 0;
+  Pool pool;
+  SysInfoType3 s{};
+  CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd& fdd = *pool.make<CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd>();
 
   Sib3Builder() {
-    std::memset(static_cast<void*>(this), 0, sizeof *this);
     s.sib4indicator = 1;
     s.cellIdentity = bitString<CellIdentity>({0x12, 0x34, 0x56, 0x7F}, 28);
     CellSelectReselectInfoSIB_3_4& c = s.cellSelectReselectInfo;
@@ -40,20 +29,18 @@ struct Sib3Builder {
   }
   Sib3Builder(const Sib3Builder&) = delete;
 
-  template <typename T>
-  void add(rtxDList& list, T& value) {
-    append(list, nodes[usedNodes++], value);
-  }
-  // `n` parameters: parameter j has mapParameter1 when j is 1, upperLimit when j is 2.
-  void addParams(rtxDList& list, unsigned n, unsigned seed) {
+  // A mapping of `rat` with `n` parameters: parameter j has mapParameter1 when j is 1,
+  // upperLimit when j is 2.
+  void addMapping(uint32_t rat, unsigned n, unsigned seed) {
+    Mapping* m = pool.add<Mapping>(s.cellSelectReselectInfo.mappingInfo);
+    m->rat = rat;
     for (unsigned j = 0; j < n; j++) {
-      MappingFunctionParameter& p = params[usedParams++];
-      p.m = j == 1 ? 1u : j == 2 ? 2u : 0u;
-      p.functionType = (seed + j) % 4;
-      p.mapParameter1 = static_cast<uint8_t>(100 + j);
-      p.mapParameter2 = static_cast<uint8_t>(seed + 10 * j);
-      p.upperLimit = 91;
-      add(list, p);
+      MappingFunctionParameter* p = pool.add<MappingFunctionParameter>(m->mappingFunctionParameterList);
+      p->m = j == 1 ? 1u : j == 2 ? 2u : 0u;
+      p->functionType = (seed + j) % 4;
+      p->mapParameter1 = static_cast<uint8_t>(100 + j);
+      p->mapParameter2 = static_cast<uint8_t>(seed + 10 * j);
+      p->upperLimit = 91;
     }
   }
   std::vector<uint8_t> encode(uint32_t* bits = nullptr) const {
@@ -79,27 +66,21 @@ void checkSmallest(const umts_sib3_info& f) {
 void buildFddFull(Sib3Builder& b) {
   CellSelectReselectInfoSIB_3_4& c = b.s.cellSelectReselectInfo;
   c.m = 3;
-  for (unsigned i = 0; i < 16; i++) {
-    b.mappings[i].rat = i % 4;
-    b.addParams(b.mappings[i].mappingFunctionParameterList, 3, i);
-    b.add(c.mappingInfo, b.mappings[i]);
-  }
-  b.ecN0 = {1, 7};
-  c.cellSelectQualityMeasure = {1, {&b.ecN0}};
+  for (unsigned i = 0; i < 16; i++) b.addMapping(i % 4, 3, i);
+  c.cellSelectQualityMeasure.t = 1;
+  *b.pool.alloc(c.cellSelectQualityMeasure.u.cpich_Ec_N0) = {1, 7};
   b.fdd.m = 15;
   b.fdd.s_Intrasearch = -16;
   b.fdd.s_Intersearch = 10;
   b.fdd.s_SearchHCS = -53;
-  for (int i = 0; i < 15; i++) {
-    b.fddRats[i] = {i % 2 == 0 ? 1u : 0u, static_cast<uint32_t>(i % 2), static_cast<int8_t>(-16 + i),
-                    static_cast<int8_t>(-53 + i), static_cast<int8_t>(10 - i)};
-    b.add(b.fdd.rat_List, b.fddRats[i]);
-  }
-  b.hyst[0] = {16, 7};
-  c.hcs_ServingCellInformation = {1, 7, 99, {6, {&b.hyst[0]}}};
+  for (int i = 0; i < 15; i++)
+    b.pool.add(b.fdd.rat_List, RAT_FDD_Info{i % 2 == 0 ? 1u : 0u, static_cast<uint32_t>(i % 2), static_cast<int8_t>(-16 + i),
+                                            static_cast<int8_t>(-53 + i), static_cast<int8_t>(10 - i)});
+  c.hcs_ServingCellInformation = {1, 7, 99, {6, {b.pool.make<N_CR_T_CRMaxHyst>()}}};
+  *c.hcs_ServingCellInformation.t_CR_Max.u.t240 = {16, 7};
   CellAccessRestriction& a = b.s.cellAccessRestriction;
-  b.barred = {1, 7};
-  a.cellBarred = {1, {&b.barred}};
+  a.cellBarred.t = 1;
+  *b.pool.alloc(a.cellBarred.u.barred) = {1, 7};
   a.m = 1;
   a.accessClassBarredList.n = 16;
   for (uint32_t i = 0; i < 16; i++) a.accessClassBarredList.elem[i] = i % 2;
@@ -148,14 +129,13 @@ void checkFddFull(const umts_sib3_info& f) {
 void buildTdd(Sib3Builder& b) {
   CellSelectReselectInfoSIB_3_4& c = b.s.cellSelectReselectInfo;
   c.m = 2;
-  b.ecN0 = {0, 5};  // q_HYST_2_S absent
-  c.cellSelectQualityMeasure = {1, {&b.ecN0}};
+  c.cellSelectQualityMeasure.t = 1;
+  *b.pool.alloc(c.cellSelectQualityMeasure.u.cpich_Ec_N0) = {0, 5};  // q_HYST_2_S absent
   c.modeSpecificInfo.t = 2;
-  c.modeSpecificInfo.u.tdd = &b.tdd;
-  b.tdd = {15, -53, 45, 0, {}, -58};
-  b.tddRats[0] = {0, 1, 45, 0, -53};
-  b.tddRats[1] = {1, 0, -1, 44, 3};
-  for (int i = 0; i < 2; i++) b.add(b.tdd.rat_List, b.tddRats[i]);
+  auto* tdd = b.pool.alloc(c.modeSpecificInfo.u.tdd);
+  *tdd = {15, -53, 45, 0, {}, -58};
+  b.pool.add(tdd->rat_List, RAT_TDD_Info{0, 1, 45, 0, -53});
+  b.pool.add(tdd->rat_List, RAT_TDD_Info{1, 0, -1, 44, 3});
   c.hcs_ServingCellInformation = {1, 0, 0, {1, {}}};  // notUsed
 }
 
@@ -187,9 +167,7 @@ void checkTdd(const umts_sib3_info& f) {
 void buildRscpWithMapping(Sib3Builder& b) {
   CellSelectReselectInfoSIB_3_4& c = b.s.cellSelectReselectInfo;
   c.m = 1;
-  b.mappings[0].rat = 3;
-  b.addParams(b.mappings[0].mappingFunctionParameterList, 2, 4);
-  b.add(c.mappingInfo, b.mappings[0]);
+  b.addMapping(3, 2, 4);
 }
 
 void checkRscpWithMapping(const umts_sib3_info& f) {
@@ -233,12 +211,11 @@ TEST_F(ConvertSib3, WholeAndBchGiveTheRecordBuilt) {
 // Decoded lists longer than their record (which the decoder never delivers) are copied up to
 // the record's bound; the count keeps what the list said.
 TEST_F(ConvertSib3, ListsAreCopiedWithinTheirBound) {
-  Sib3Builder b;
+  Pool p;
   MappingInfo mappings{};
-  for (int i = 0; i < 20; i++) b.add(mappings, b.mappings[i % 16]);
+  for (int i = 0; i < 20; i++) p.add<Mapping>(mappings);
   RAT_FDD_InfoList rats{};
-  for (int i = 0; i < 17; i++) b.add(rats, b.fddRats[i % 15]);
-  b.fddRats[14].s_SearchRAT = 9;
+  for (int i = 0; i < 17; i++) p.add<RAT_FDD_Info>(rats)->s_SearchRAT = static_cast<int8_t>(i == 14 ? 9 : 0);
   AccessClassBarredList classes{};
   classes.n = 20;
   classes.elem[15] = 1;
