@@ -127,14 +127,16 @@ struct Sib16Builder {
     return o;
   }
   SRB_InformationSetup& addSrb(uint8_t id) {
-    SRB_InformationSetup& e = *pool.add<SRB_InformationSetup>(s.preDefinedRadioConfiguration.predefinedRB_Configuration.srb_InformationList);
+    SRB_InformationSetup& e =
+        *pool.add<SRB_InformationSetup>(s.preDefinedRadioConfiguration.predefinedRB_Configuration.srb_InformationList);
     e.m = 1;
     e.rb_Identity = id;
     e.rlc_InfoChoice = amRlc(id);
     return e;
   }
   RB_InformationSetup& addRb(uint8_t id) {
-    RB_InformationSetup& e = *pool.add<RB_InformationSetup>(s.preDefinedRadioConfiguration.predefinedRB_Configuration.rb_InformationList);
+    RB_InformationSetup& e =
+        *pool.add<RB_InformationSetup>(s.preDefinedRadioConfiguration.predefinedRB_Configuration.rb_InformationList);
     e.rb_Identity = id;
     e.rlc_InfoChoice.t = 2;
     e.rlc_InfoChoice.u.same_as_RB = static_cast<uint8_t>(id - 1);

@@ -1,7 +1,6 @@
 // SIB18: built in code, encoded by the codec, sent whole and over the BCH, and the record
 // compared with the values it was built from at every level of its extensions.
 #include <array>
-#include <deque>
 
 #include "convert_test.h"
 
@@ -12,22 +11,10 @@ namespace {
 // A SysInfoType18 built in code, with the storage of its list elements. List sizes are given
 // as {intra, inter, inter-RAT} (or {intra, inter} for multiple PLMNs); 0 leaves a list out.
 struct Sib18 {
-  SysInfoType18 s;
-  std::deque<PLMNsOfIntraFreqCellsList_element> cells;  // the three element types share one shape
-  std::deque<MultiplePLMNsOfIntraFreqCellsList_element> multiple;  // so do these two
-  std::deque<PLMN_IdentityWithOptionalMCC_r6> plmns;
-  std::deque<rtxDListNode> nodes;
+  Pool pool;
+  SysInfoType18 s{};
   uint32_t seed = 0;
 
-  Sib18() { std::memset(&s, 0, sizeof s); }
-  template <typename T>
-  T& add(rtxDList& list, std::deque<T>& store) {
-    store.emplace_back();
-    std::memset(&store.back(), 0, sizeof(T));
-    nodes.emplace_back();
-    append(list, nodes.back(), store.back());
-    return store.back();
-  }
   PLMN_Identity next() {
     seed++;
     return plmnIdentity(std::to_string(200 + seed).c_str(), std::to_string(seed % 2 ? 10 + seed : 100 + seed).c_str());
@@ -38,7 +25,7 @@ struct Sib18 {
     for (uint32_t l = 0; l < 3; l++) {
       n.m |= sizes[l] ? 1u << l : 0;
       for (uint32_t i = 0; i < sizes[l]; i++) {
-        auto& e = add(*lists[l], cells);
+        auto& e = *pool.add<PLMNsOfIntraFreqCellsList_element>(*lists[l]);  // the three element types share one shape
         if (i % 3 != 1) e = {1, next()};
       }
     }
@@ -50,11 +37,11 @@ struct Sib18 {
     for (uint32_t l = 0; l < 2; l++) {
       n.m |= sizes[l] ? 1u << l : 0;
       for (uint32_t i = 0; i < sizes[l]; i++) {
-        auto& e = add(*lists[l], multiple);
+        auto& e = *pool.add<MultiplePLMNsOfIntraFreqCellsList_element>(*lists[l]);  // so do these two
         e.m = i % 4 != 2;
         for (uint32_t j = 0; e.m && j < 6 - i % 6; j++) {
           const PLMN_Identity id = next();
-          add(e.multiplePLMN_list, plmns) = {j % 2 == 0, j % 2 == 0 ? id.mcc : MCC{}, id.mnc};
+          *pool.add<PLMN_IdentityWithOptionalMCC_r6>(e.multiplePLMN_list) = {j % 2 == 0, j % 2 == 0 ? id.mcc : MCC{}, id.mnc};
         }
       }
     }
