@@ -92,8 +92,7 @@ void buildNewInter(Pool& p, rtxDList& list, const Shape& s) {
     if (i % 2 == 0) {
       e->m |= 2u;
       e->frequencyInfo.modeSpecificInfo.t = 2;
-      e->frequencyInfo.modeSpecificInfo.u.tdd = p.make<FrequencyInfoTDD>();
-      e->frequencyInfo.modeSpecificInfo.u.tdd->uarfcn_Nt = static_cast<uint16_t>(10054 + i);
+      p.alloc(e->frequencyInfo.modeSpecificInfo.u.tdd)->uarfcn_Nt = static_cast<uint16_t>(10054 + i);
     }
     buildCell(p, e->cellInfo, 10 + i, s);
   }
@@ -111,10 +110,9 @@ void fillForbidden(Pool& p, rtxDList& list, unsigned n) {
 
 void buildReporting(Pool& p, ReportingInfoForCellDCH_LCR_r4& r, const Shape& s) {
   r.intraFreqReportingQuantity.activeSetReportingQuantities.modeSpecificInfo.t = 2;
-  auto* tdd = p.make<CellReportingQuantities_modeSpecificInfo_tdd>();
+  auto* tdd = p.alloc(r.intraFreqReportingQuantity.activeSetReportingQuantities.modeSpecificInfo.u.tdd);
   tdd->timeslotISCP_reportingIndicator = 1;
   tdd->pathloss_reportingIndicator = 1;
-  r.intraFreqReportingQuantity.activeSetReportingQuantities.modeSpecificInfo.u.tdd = tdd;
   r.intraFreqReportingQuantity.activeSetReportingQuantities.cellIdentity_reportingIndicator = 1;
   r.intraFreqReportingQuantity.monitoredSetReportingQuantities.modeSpecificInfo.t = 2;
   r.intraFreqReportingQuantity.monitoredSetReportingQuantities.modeSpecificInfo.u.tdd = tdd;
@@ -122,13 +120,11 @@ void buildReporting(Pool& p, ReportingInfoForCellDCH_LCR_r4& r, const Shape& s) 
   r.measurementReportingMode.measurementReportTransferMode = 1;
   r.measurementReportingMode.periodicalOrEventTrigger = 1;
   r.reportCriteria.t = 1;
-  auto* crit = p.make<IntraFreqReportingCriteria_LCR_r4>();
-  r.reportCriteria.u.intraFreqReportingCriteria = crit;
+  auto* crit = p.alloc(r.reportCriteria.u.intraFreqReportingCriteria);
   crit->m = 1;
   auto* c1 = p.add<IntraFreqEventCriteria_LCR_r4>(crit->eventCriteriaList);
   c1->event.t = 1;
-  c1->event.u.e1a = p.make<Event1a_LCR_r4>();
-  c1->event.u.e1a->m = 1;
+  p.alloc(c1->event.u.e1a)->m = 1;
   fillForbidden(p, c1->event.u.e1a->forbiddenAffectCellList, 3);
   c1->event.u.e1a->triggeringCondition = 2;
   c1->event.u.e1a->reportingRange = 12;
@@ -143,8 +139,7 @@ void buildReporting(Pool& p, ReportingInfoForCellDCH_LCR_r4& r, const Shape& s) 
   c1->reportingCellStatus.u.allActivePlusDetectedSet = 2;
   auto* c2 = p.add<IntraFreqEventCriteria_LCR_r4>(crit->eventCriteriaList);
   c2->event.t = 2;
-  c2->event.u.e1b = p.make<Event1b_LCR_r4>();
-  c2->event.u.e1b->m = 1;
+  p.alloc(c2->event.u.e1b)->m = 1;
   fillForbidden(p, c2->event.u.e1b->forbiddenAffectCellList, 1);
   c2->event.u.e1b->triggeringCondition = 1;
   c2->event.u.e1b->reportingRange = 29;
@@ -152,18 +147,10 @@ void buildReporting(Pool& p, ReportingInfoForCellDCH_LCR_r4& r, const Shape& s) 
   c2->hysteresis = 15;
   auto* c3 = p.add<IntraFreqEventCriteria_LCR_r4>(crit->eventCriteriaList);
   c3->event.t = s.event;
-  if (s.event == 3) {
-    c3->event.u.e1c = p.make<Event1c>();
-    *c3->event.u.e1c = Event1c{5, 2, 7};
-  } else if (s.event == 5) {
-    c3->event.u.e1e = p.make<Event1e>();
-    *c3->event.u.e1e = Event1e{1, -80};
-  } else if (s.event == 6) {
-    c3->event.u.e1f = p.make<Event1f>();
-    *c3->event.u.e1f = Event1f{1, -80};
-  } else if (s.event == 8 || s.event == 9) {
-    c3->event.u.e1h = static_cast<int16_t>(s.event == 8 ? 150 : -115);
-  }
+  if (s.event == 3) *p.alloc(c3->event.u.e1c) = Event1c{5, 2, 7};
+  if (s.event == 5) *p.alloc(c3->event.u.e1e) = Event1e{1, -80};
+  if (s.event == 6) *p.alloc(c3->event.u.e1f) = Event1f{1, -80};
+  if (s.event == 8 || s.event == 9) c3->event.u.e1h = static_cast<int16_t>(s.event == 8 ? 150 : -115);
   c3->timeToTrigger = 1;
 }
 
@@ -175,26 +162,17 @@ void buildIntraMeas(Pool& p, typename F::IntraMeas& m, const Shape& s) {
   if (s.removedIntra > 0) {
     list.m = 1;
     list.removedIntraFreqCellList.t = 2;
-    auto* some = p.make<RemovedIntraFreqCellList_removeSomeIntraFreqCells>();
+    auto* some = p.alloc(list.removedIntraFreqCellList.u.removeSomeIntraFreqCells);
     some->n = s.removedIntra;
     for (unsigned i = 0; i < s.removedIntra; i++) some->elem[i] = static_cast<uint8_t>(31 - i);
-    list.removedIntraFreqCellList.u.removeSomeIntraFreqCells = some;
   }
   buildNewIntra<F>(p, list.newIntraFreqCellList, s);
   m.intraFreqMeasQuantity.filterCoefficient = 3;
   m.intraFreqMeasQuantity.modeSpecificInfo.t = 2;
-  auto* q = p.make<IntraFreqMeasQuantity_modeSpecificInfo_tdd>();
-  q->intraFreqMeasQuantity_TDDList.n = 3;
-  q->intraFreqMeasQuantity_TDDList.elem[0] = 0;
-  q->intraFreqMeasQuantity_TDDList.elem[1] = 2;
-  q->intraFreqMeasQuantity_TDDList.elem[2] = 1;
-  m.intraFreqMeasQuantity.modeSpecificInfo.u.tdd = q;
+  p.alloc(m.intraFreqMeasQuantity.modeSpecificInfo.u.tdd)->intraFreqMeasQuantity_TDDList = {3, {0, 2, 1}};
   m.intraFreqReportingQuantityForRACH.sfn_SFN_OTD_Type = 1;
   m.intraFreqReportingQuantityForRACH.modeSpecificInfo.t = 2;
-  auto* r = p.make<IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd>();
-  r->intraFreqRepQuantityRACH_TDDList.n = 1;
-  r->intraFreqRepQuantityRACH_TDDList.elem[0] = 1;
-  m.intraFreqReportingQuantityForRACH.modeSpecificInfo.u.tdd = r;
+  p.alloc(m.intraFreqReportingQuantityForRACH.modeSpecificInfo.u.tdd)->intraFreqRepQuantityRACH_TDDList = {1, {1}};
   m.maxReportedCellsOnRACH = 4;
   buildReporting(p, m.reportingInfoForCellDCH, s);
 }
@@ -206,10 +184,9 @@ void buildInterMeas(Pool& p, typename F::InterMeas& m, const Shape& s) {
   if (s.removedInter > 0) {
     list.m |= 1u;
     list.removedInterFreqCellList.t = 2;
-    auto* some = p.make<RemovedInterFreqCellList_removeSomeInterFreqCells>();
+    auto* some = p.alloc(list.removedInterFreqCellList.u.removeSomeInterFreqCells);
     some->n = s.removedInter;
     for (unsigned i = 0; i < s.removedInter; i++) some->elem[i] = static_cast<uint8_t>((1 + i) % 32);
-    list.removedInterFreqCellList.u.removeSomeInterFreqCells = some;
   }
   if (s.interCells > 0) {
     list.m |= 2u;
@@ -394,10 +371,9 @@ const char* const kFormNames[] = {"RSCP", "ECN0", "HCS_RSCP", "HCS_ECN0"};
 // The smallest main measurement control information: hcs_not_used, cpich_RSCP, no member.
 void buildMeasurementControl(Pool& p, MeasurementControlSysInfo& mc) {
   mc.use_of_HCS.t = 1;
-  mc.use_of_HCS.u.hcs_not_used = p.make<MeasurementControlSysInfo_use_of_HCS_hcs_not_used>();
-  mc.use_of_HCS.u.hcs_not_used->cellSelectQualityMeasure.t = 1;
-  mc.use_of_HCS.u.hcs_not_used->cellSelectQualityMeasure.u.cpich_RSCP =
-      p.make<MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP>();
+  auto& q = p.alloc(mc.use_of_HCS.u.hcs_not_used)->cellSelectQualityMeasure;
+  q.t = 1;
+  p.alloc(q.u.cpich_RSCP);
 }
 
 // The messages: SIB11 and SIB12 with the LCR tree in their v4b0 extension (beside the smallest
