@@ -1,8 +1,6 @@
 // The scheduling blocks SB1 and SB2: built in code, encoded by the codec, sent whole and
 // over the BCH, and compared field by field with what they were built from.
-#include "bch_segmenter.h"
-#include "frame_test_util.h"
-#include "umts_sib_convert.h"
+#include "convert_test.h"
 
 using namespace frametest;
 
@@ -23,33 +21,26 @@ uint16_t lastPos(uint32_t posTag) { return static_cast<uint16_t>((1u << posTag) 
 bool noValue(uint32_t tag) { return tag == 7 || tag == 9 || tag == 10 || tag == 18 || tag == 21 || tag >= 29; }
 
 struct Builder {
-  SysInfoTypeSB1 sb;
-  SchedulingInformationSIB refs[32];
+  converttest::Pool pool;
+  SysInfoTypeSB1 sb{};
   PredefinedConfigIdentityAndValueTag predefined{15, 7};
   SIBOccurrenceIdentityAndValueTag occurrences[3]{{3, 12}, {4, 11}, {9, 6}};
-  ExtSIBTypeInfoSchedulingInfo ext;
-  ExtSIBTypeInfoSchedulingInfo2 ext2;
-  ExtGANSS_SIBTypeInfoSchedulingInfo ganss;
-  ExtGANSS_SchedulingInfo ganssScheduling;
-  rtxDListNode nodes[40];
-  unsigned used = 0;
 
   // Entry i has the alternative i + 1 (every alternative of SIB-TypeAndTag) and every
   // repetition period at its largest position; every tenth entry has offsets.
   explicit Builder(uint32_t n, bool extensions) {
-    std::memset(&sb, 0, sizeof sb);
     for (uint32_t i = 0; i < n; i++) {
       const uint32_t tag = i + 1, posTag = i % 11 + 1;
       std::vector<uint32_t> offsets;
       if (i == 0) offsets = {15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1};  // the longest SibOFF-List
       if (i % 10 == 0 && i != 0) offsets = {i % 16};
-      refs[i] = {{tag, {}}, scheduling(posTag, lastPos(posTag), static_cast<uint8_t>(i % 16 + 1), offsets)};
-      auto& u = refs[i].sib_Type.u;
+      SchedulingInformationSIB& ref = *pool.add<SchedulingInformationSIB>(sb.sib_ReferenceList);
+      ref = {{tag, {}}, scheduling(posTag, lastPos(posTag), static_cast<uint8_t>(i % 16 + 1), offsets)};
+      auto& u = ref.sib_Type.u;
       if (tag == 1) u.sysInfoType1 = 256;
       else if (tag == 20) u.sysInfoType16 = &predefined;
       else if (tag == 23 || tag == 24) u.sysInfoType15_2 = &occurrences[tag - 23];
       else if (!noValue(tag)) u.sysInfoType2 = cellTag(tag);  // every CellValueTag alternative lies here
-      append(sb.sib_ReferenceList, nodes[used++], refs[i]);
     }
     if (!extensions) return;
     sb.m = 1;
@@ -57,19 +48,15 @@ struct Builder {
     v6b0.m = 1;
     v6b0.v860NonCriticalExtensions.m = 1;
     v6b0.sysInfoTypeSB1_v6b0ext.m = 1;
-    ext = {{5, {}}, scheduling(6, 63, 3, {2}), {2, {}}};
-    ext.valueTagInfo.u.cellValueTag = 4;
-    append(v6b0.sysInfoTypeSB1_v6b0ext.extSIBTypeInfoSchedulingInfo_List, nodes[used++], ext);
+    pool.add(v6b0.sysInfoTypeSB1_v6b0ext.extSIBTypeInfoSchedulingInfo_List,
+             ExtSIBTypeInfoSchedulingInfo{{5, {}}, scheduling(6, 63, 3, {2}), {2, {}}})
+        ->valueTagInfo.u.cellValueTag = 4;
     SysInfoTypeSB1_v860ext& v860 = v6b0.v860NonCriticalExtensions.sysInfoTypeSB1_v860ext;
     v860.m = 3;
-    ext2 = {{2, {}}, scheduling(9, 300), {4, {}}};
-    ext2.valueTagInfo.u.sIBOccurrenceIdentityAndValueTag = &occurrences[2];
-    append(v860.extSIBTypeInfoSchedulingInfo_List, nodes[used++], ext2);
-    ganss = {2, 0, 3, {}};
-    ganssScheduling = {{4, {}}, scheduling(2, 3), {3, {}}};
-    ganssScheduling.valueTagInfo.u.plmn_ValueTag = 200;
-    append(ganss.ganssScheduling, nodes[used++], ganssScheduling);
-    append(v860.extGANSS_SIBTypeInfoSchedulingInfoList, nodes[used++], ganss);
+    pool.add(v860.extSIBTypeInfoSchedulingInfo_List, ExtSIBTypeInfoSchedulingInfo2{{2, {}}, scheduling(9, 300), {4, {}}})
+        ->valueTagInfo.u.sIBOccurrenceIdentityAndValueTag = &occurrences[2];
+    auto* ganss = pool.add(v860.extGANSS_SIBTypeInfoSchedulingInfoList, ExtGANSS_SIBTypeInfoSchedulingInfo{2, 0, 3, {}});
+    pool.add(ganss->ganssScheduling, ExtGANSS_SchedulingInfo{{4, {}}, scheduling(2, 3), {3, {}}})->valueTagInfo.u.plmn_ValueTag = 200;
   }
 
   std::vector<uint8_t> encode(umts_sib_id id, uint32_t* bits = nullptr) const {
