@@ -28,13 +28,8 @@ namespace {
 
 using frametest::captureStdout;
 using frametest::FrameTest;
+using frametest::fromHex;
 using Bytes = std::vector<uint8_t>;
-
-Bytes fromHex(const std::string& hex) {
-  Bytes out;
-  for (size_t i = 0; i + 1 < hex.size(); i += 2) out.push_back(static_cast<uint8_t>(std::stoul(hex.substr(i, 2), nullptr, 16)));
-  return out;
-}
 
 // The codec type of each block that a set holds.
 const std::map<std::string, umts_sib_id>& blockTypes() {

@@ -86,7 +86,7 @@ void checkCell(const Flat& f, unsigned i) {
     EXPECT_EQ(g.primaryCCPCH_Info.u.tdd.syncCase.u.timeslot, i % 2 ? i % 7 : i % 15);
     EXPECT_EQ(g.primaryCCPCH_TX_Power, i % 3 != 1 ? 6 + i % 38 : 0u);
     ASSERT_EQ(g.timeslotInfoList.count, i % 3 != 0 ? 2 + i % 13 : 0u);
-    if (g.timeslotInfoList.count > 0) EXPECT_EQ(g.timeslotInfoList.entries[1].burstType, 1u);
+    if (g.timeslotInfoList.count > 0) { EXPECT_EQ(g.timeslotInfoList.entries[1].burstType, 1u); }
   }
   if (i % 3 == 1) {
     EXPECT_TRUE(allZero(f.cellSelectionReselectionInfo));
@@ -394,8 +394,8 @@ TEST(ConvertTrafficVolume, RachorcpchValue) {
   EXPECT_EQ(flat.choice_tag, 2u);
   EXPECT_EQ(flat.u.dch, 7u);
   rtxDList list{};
-  rtxDListNode node{};
-  append(list, node, id);
+  Pool p;
+  p.add(list, id);
   umts_traffic_volume_measurement_object_list objects{};
   convert_traffic_volume_measurement_object_list(&list, &objects);
   EXPECT_EQ(objects.count, 1);
