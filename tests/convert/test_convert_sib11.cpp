@@ -12,17 +12,6 @@ namespace {
 
 // ---- Cells: built from their index, in any of the four forms ---------------------------------
 
-void buildPrimaryCcpch(Pool& p, PrimaryCCPCH_Info& c, unsigned i) {
-  c.t = 2;
-  auto* tdd = p.alloc(c.u.tdd);
-  tdd->m = 3;
-  tdd->syncCase.t = 1 + i % 2;
-  if (tdd->syncCase.t == 1) p.alloc(tdd->syncCase.u.syncCase1)->timeslot = static_cast<uint8_t>(i % 15);
-  else p.alloc(tdd->syncCase.u.syncCase2)->timeslotSync2 = static_cast<uint8_t>(i % 7);
-  tdd->cellParametersID = static_cast<uint8_t>(i % 128);
-  tdd->sctd_Indicator = 1;
-}
-
 // CellInfoSI: timing in turn of the three accuracies and none, fdd cells at even and tdd
 // cells at odd indices, a selection record on two cells of three.
 template <class Cell>
@@ -46,7 +35,13 @@ void buildCell(Pool& p, Cell& c, unsigned i) {
   } else {
     mode.t = 2;
     auto* tdd = p.alloc(mode.u.tdd);
-    buildPrimaryCcpch(p, tdd->primaryCCPCH_Info, i);
+    tdd->primaryCCPCH_Info.t = 2;
+    auto* ccpch = p.alloc(tdd->primaryCCPCH_Info.u.tdd);
+    ccpch->m = 3;
+    ccpch->syncCase.t = 2;
+    p.alloc(ccpch->syncCase.u.syncCase2)->timeslotSync2 = static_cast<uint8_t>(i % 7);
+    ccpch->cellParametersID = static_cast<uint8_t>(i % 128);
+    ccpch->sctd_Indicator = 1;
     tdd->m = 1 + i % 3;  // the TX power, the timeslots or both
     tdd->primaryCCPCH_TX_Power = static_cast<uint8_t>(6 + i % 38);
     for (unsigned k = 0; k < 2 + i % 13; k++) {
@@ -82,8 +77,8 @@ void checkCell(const Flat& f, unsigned i) {
     const auto& g = f.modeSpecificInfo.u.tdd;
     ASSERT_EQ(f.modeSpecificInfo.choice_tag, 2u);
     EXPECT_EQ(g.presence_bitmask, 1 + i % 3);
-    EXPECT_EQ(g.primaryCCPCH_Info.u.tdd.syncCase.choice_tag, 1 + i % 2);
-    EXPECT_EQ(g.primaryCCPCH_Info.u.tdd.syncCase.u.timeslot, i % 2 ? i % 7 : i % 15);
+    EXPECT_EQ(g.primaryCCPCH_Info.u.tdd.syncCase.choice_tag, 2u);
+    EXPECT_EQ(g.primaryCCPCH_Info.u.tdd.syncCase.u.timeslot, i % 7);
     EXPECT_EQ(g.primaryCCPCH_TX_Power, i % 3 != 1 ? 6 + i % 38 : 0u);
     ASSERT_EQ(g.timeslotInfoList.count, i % 3 != 0 ? 2 + i % 13 : 0u);
     if (g.timeslotInfoList.count > 0) { EXPECT_EQ(g.timeslotInfoList.entries[1].burstType, 1u); }
