@@ -22,8 +22,8 @@ import mkarchive  # noqa: E402
 TABLES = ["cells.csv", "cells.jsonl", "neighbours.csv", "errors.csv", "index.html"]
 
 
-def archive(*args):
-    env = dict(os.environ, PYTHONPATH=str(PYTHON_DIR), SIBDUMP=str(mkarchive.SIBDUMP))
+def archive(*args, sibdump=mkarchive.SIBDUMP):
+    env = dict(os.environ, PYTHONPATH=str(PYTHON_DIR), SIBDUMP=str(sibdump))
     return subprocess.run([sys.executable, "-m", "sibdecoder_umts.archive", *map(str, args)], env=env,
                           capture_output=True, text=True, check=True)
 
@@ -118,9 +118,7 @@ def test_a_lost_worker_has_its_task_run_again(runs):
     killer.write_text(f"#!/bin/sh\nif mkdir '{root}/killed' 2>/dev/null; then kill -9 $PPID; exit 1; fi\n"
                       f"exec '{mkarchive.SIBDUMP}' \"$@\"\n")
     killer.chmod(0o755)
-    env = dict(os.environ, PYTHONPATH=str(PYTHON_DIR), SIBDUMP=str(killer))
-    subprocess.run([sys.executable, "-m", "sibdecoder_umts.archive", str(root / "captures"), "--workers", "2",
-                    "--out", str(root / "lost"), "--quiet"], env=env, check=True)
+    archive(root / "captures", "--workers", 2, "--out", root / "lost", "--quiet", sibdump=killer)
     assert (root / "killed").is_dir()
     for name in TABLES:
         assert (root / "lost" / name).read_bytes() == (root / "two" / name).read_bytes(), name

@@ -16,10 +16,6 @@ def stream_records(offset=0):
     return [dec.feed_block(b, strict=False) for b in (cycle[offset:] + cycle) * 2]
 
 
-def _decode_in_worker(offset):
-    return stream_records(offset)
-
-
 def test_decoders_on_threads_and_in_worker_processes_keep_their_own_streams():
     alone = [stream_records(k) for k in range(4)]
     assert any(alone[0][i] != alone[1][i] for i in range(len(alone[0])))  # the streams differ
@@ -33,7 +29,7 @@ def test_decoders_on_threads_and_in_worker_processes_keep_their_own_streams():
     for method in ("fork", "spawn"):
         context = multiprocessing.get_context(method)
         with concurrent.futures.ProcessPoolExecutor(max_workers=2, mp_context=context) as pool:
-            assert list(pool.map(_decode_in_worker, range(4))) == alone, method
+            assert list(pool.map(stream_records, range(4))) == alone, method
 
 
 def test_a_thread_runs_while_another_waits_inside_the_library(tmp_path):

@@ -28,13 +28,8 @@ namespace {
 
 using frametest::captureStdout;
 using frametest::FrameTest;
+using frametest::fromHex;
 using Bytes = std::vector<uint8_t>;
-
-Bytes fromHex(const std::string& hex) {
-  Bytes out;
-  for (size_t i = 0; i + 1 < hex.size(); i += 2) out.push_back(static_cast<uint8_t>(std::stoul(hex.substr(i, 2), nullptr, 16)));
-  return out;
-}
 
 // The codec type of each block that a set holds.
 const std::map<std::string, umts_sib_id>& blockTypes() {
@@ -210,23 +205,17 @@ class LibrarySetClearing : public FrameTest {
   umts_sib_set* copied = static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)));
 };
 
-TEST_F(LibrarySetClearing, RandomEncodingsInTurnReadAsInTheCallersSet) {
+// The random encodings one after another, the sample's small lists over their long lists,
+// then the random encodings backwards over the sample's: each follows both neighbours.
+TEST_F(LibrarySetClearing, RandomEncodingsInTurnAndTheSampleCellReadAsInTheCallersSet) {
   ASSERT_NE(own, nullptr);
   const std::vector<Encoding> all = randomEncodings();
   ASSERT_EQ(all.size(), (12u + kBlockVectors + kExtensionVectors) * blockTypes().size());
-  for (size_t i = 0; i < all.size(); i++) convertBoth(all[i], "random encoding " + std::to_string(i));
-  for (size_t i = all.size(); i-- > 0;) convertBoth(all[i], "random encoding " + std::to_string(i) + ", backwards");
-}
-
-TEST_F(LibrarySetClearing, SampleCellAfterRandomEncodings) {
-  ASSERT_NE(own, nullptr);
   const std::vector<Encoding> samples = sampleEncodings();
   ASSERT_GE(samples.size(), 12u);
-  for (const Encoding& e : randomEncodings()) convertBoth(e, "random encoding");
+  for (size_t i = 0; i < all.size(); i++) convertBoth(all[i], "random encoding " + std::to_string(i));
   for (const Encoding& e : samples) convertBoth(e, std::string("sample ") + umts_sib_name(e.id));
-  // And back: the sample's small lists over the random ones' long lists, then the random
-  // ones over the sample's.
-  for (const Encoding& e : randomEncodings()) convertBoth(e, "random encoding after the samples");
+  for (size_t i = all.size(); i-- > 0;) convertBoth(all[i], "random encoding " + std::to_string(i) + ", backwards");
 }
 
 // The ECN0 form of the inter-frequency list holds each cell's frequency with its bit clear:
@@ -265,6 +254,12 @@ TEST_F(LibrarySetClearing, FailedDecodingClearsNothing) {
     convertBoth({type.second, damaged}, "damaged " + type.first);
     if (status != 0) continue;  // every bit pattern is a SIB2
     EXPECT_EQ(std::memcmp(before.data(), record, before.size()), 0) << type.first;
+    // The log names the conversion that failed (the scheduling blocks' as scheduling_block1, 2).
+    const std::string name = type.second == umts_sib_sb1   ? "scheduling_block1"
+                             : type.second == umts_sib_sb2 ? "scheduling_block2"
+                                                           : umts_sib_name(type.second);
+    EXPECT_TRUE(frametest::logged("2:decode_system_info_msg:umts_convert_" + name + (name == "mib" ? " failed!" : " failed")))
+        << type.first;
     for (char& c : printed) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
     if (type.second == umts_sib_mib) EXPECT_EQ(printed, "") << "the MIB's failure is silent";
     else EXPECT_NE(printed.find("decoding failed"), std::string::npos) << type.first << ": " << printed;

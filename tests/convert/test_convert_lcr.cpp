@@ -92,8 +92,7 @@ void buildNewInter(Pool& p, rtxDList& list, const Shape& s) {
     if (i % 2 == 0) {
       e->m |= 2u;
       e->frequencyInfo.modeSpecificInfo.t = 2;
-      e->frequencyInfo.modeSpecificInfo.u.tdd = p.make<FrequencyInfoTDD>();
-      e->frequencyInfo.modeSpecificInfo.u.tdd->uarfcn_Nt = static_cast<uint16_t>(10054 + i);
+      p.alloc(e->frequencyInfo.modeSpecificInfo.u.tdd)->uarfcn_Nt = static_cast<uint16_t>(10054 + i);
     }
     buildCell(p, e->cellInfo, 10 + i, s);
   }
@@ -111,10 +110,9 @@ void fillForbidden(Pool& p, rtxDList& list, unsigned n) {
 
 void buildReporting(Pool& p, ReportingInfoForCellDCH_LCR_r4& r, const Shape& s) {
   r.intraFreqReportingQuantity.activeSetReportingQuantities.modeSpecificInfo.t = 2;
-  auto* tdd = p.make<CellReportingQuantities_modeSpecificInfo_tdd>();
+  auto* tdd = p.alloc(r.intraFreqReportingQuantity.activeSetReportingQuantities.modeSpecificInfo.u.tdd);
   tdd->timeslotISCP_reportingIndicator = 1;
   tdd->pathloss_reportingIndicator = 1;
-  r.intraFreqReportingQuantity.activeSetReportingQuantities.modeSpecificInfo.u.tdd = tdd;
   r.intraFreqReportingQuantity.activeSetReportingQuantities.cellIdentity_reportingIndicator = 1;
   r.intraFreqReportingQuantity.monitoredSetReportingQuantities.modeSpecificInfo.t = 2;
   r.intraFreqReportingQuantity.monitoredSetReportingQuantities.modeSpecificInfo.u.tdd = tdd;
@@ -122,13 +120,11 @@ void buildReporting(Pool& p, ReportingInfoForCellDCH_LCR_r4& r, const Shape& s) 
   r.measurementReportingMode.measurementReportTransferMode = 1;
   r.measurementReportingMode.periodicalOrEventTrigger = 1;
   r.reportCriteria.t = 1;
-  auto* crit = p.make<IntraFreqReportingCriteria_LCR_r4>();
-  r.reportCriteria.u.intraFreqReportingCriteria = crit;
+  auto* crit = p.alloc(r.reportCriteria.u.intraFreqReportingCriteria);
   crit->m = 1;
   auto* c1 = p.add<IntraFreqEventCriteria_LCR_r4>(crit->eventCriteriaList);
   c1->event.t = 1;
-  c1->event.u.e1a = p.make<Event1a_LCR_r4>();
-  c1->event.u.e1a->m = 1;
+  p.alloc(c1->event.u.e1a)->m = 1;
   fillForbidden(p, c1->event.u.e1a->forbiddenAffectCellList, 3);
   c1->event.u.e1a->triggeringCondition = 2;
   c1->event.u.e1a->reportingRange = 12;
@@ -143,8 +139,7 @@ void buildReporting(Pool& p, ReportingInfoForCellDCH_LCR_r4& r, const Shape& s) 
   c1->reportingCellStatus.u.allActivePlusDetectedSet = 2;
   auto* c2 = p.add<IntraFreqEventCriteria_LCR_r4>(crit->eventCriteriaList);
   c2->event.t = 2;
-  c2->event.u.e1b = p.make<Event1b_LCR_r4>();
-  c2->event.u.e1b->m = 1;
+  p.alloc(c2->event.u.e1b)->m = 1;
   fillForbidden(p, c2->event.u.e1b->forbiddenAffectCellList, 1);
   c2->event.u.e1b->triggeringCondition = 1;
   c2->event.u.e1b->reportingRange = 29;
@@ -152,18 +147,10 @@ void buildReporting(Pool& p, ReportingInfoForCellDCH_LCR_r4& r, const Shape& s) 
   c2->hysteresis = 15;
   auto* c3 = p.add<IntraFreqEventCriteria_LCR_r4>(crit->eventCriteriaList);
   c3->event.t = s.event;
-  if (s.event == 3) {
-    c3->event.u.e1c = p.make<Event1c>();
-    *c3->event.u.e1c = Event1c{5, 2, 7};
-  } else if (s.event == 5) {
-    c3->event.u.e1e = p.make<Event1e>();
-    *c3->event.u.e1e = Event1e{1, -80};
-  } else if (s.event == 6) {
-    c3->event.u.e1f = p.make<Event1f>();
-    *c3->event.u.e1f = Event1f{1, -80};
-  } else if (s.event == 8 || s.event == 9) {
-    c3->event.u.e1h = static_cast<int16_t>(s.event == 8 ? 150 : -115);
-  }
+  if (s.event == 3) *p.alloc(c3->event.u.e1c) = Event1c{5, 2, 7};
+  if (s.event == 5) *p.alloc(c3->event.u.e1e) = Event1e{1, -80};
+  if (s.event == 6) *p.alloc(c3->event.u.e1f) = Event1f{1, -80};
+  if (s.event == 8 || s.event == 9) c3->event.u.e1h = static_cast<int16_t>(s.event == 8 ? 150 : -115);
   c3->timeToTrigger = 1;
 }
 
@@ -175,26 +162,17 @@ void buildIntraMeas(Pool& p, typename F::IntraMeas& m, const Shape& s) {
   if (s.removedIntra > 0) {
     list.m = 1;
     list.removedIntraFreqCellList.t = 2;
-    auto* some = p.make<RemovedIntraFreqCellList_removeSomeIntraFreqCells>();
+    auto* some = p.alloc(list.removedIntraFreqCellList.u.removeSomeIntraFreqCells);
     some->n = s.removedIntra;
     for (unsigned i = 0; i < s.removedIntra; i++) some->elem[i] = static_cast<uint8_t>(31 - i);
-    list.removedIntraFreqCellList.u.removeSomeIntraFreqCells = some;
   }
   buildNewIntra<F>(p, list.newIntraFreqCellList, s);
   m.intraFreqMeasQuantity.filterCoefficient = 3;
   m.intraFreqMeasQuantity.modeSpecificInfo.t = 2;
-  auto* q = p.make<IntraFreqMeasQuantity_modeSpecificInfo_tdd>();
-  q->intraFreqMeasQuantity_TDDList.n = 3;
-  q->intraFreqMeasQuantity_TDDList.elem[0] = 0;
-  q->intraFreqMeasQuantity_TDDList.elem[1] = 2;
-  q->intraFreqMeasQuantity_TDDList.elem[2] = 1;
-  m.intraFreqMeasQuantity.modeSpecificInfo.u.tdd = q;
+  p.alloc(m.intraFreqMeasQuantity.modeSpecificInfo.u.tdd)->intraFreqMeasQuantity_TDDList = {3, {0, 2, 1}};
   m.intraFreqReportingQuantityForRACH.sfn_SFN_OTD_Type = 1;
   m.intraFreqReportingQuantityForRACH.modeSpecificInfo.t = 2;
-  auto* r = p.make<IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd>();
-  r->intraFreqRepQuantityRACH_TDDList.n = 1;
-  r->intraFreqRepQuantityRACH_TDDList.elem[0] = 1;
-  m.intraFreqReportingQuantityForRACH.modeSpecificInfo.u.tdd = r;
+  p.alloc(m.intraFreqReportingQuantityForRACH.modeSpecificInfo.u.tdd)->intraFreqRepQuantityRACH_TDDList = {1, {1}};
   m.maxReportedCellsOnRACH = 4;
   buildReporting(p, m.reportingInfoForCellDCH, s);
 }
@@ -206,10 +184,9 @@ void buildInterMeas(Pool& p, typename F::InterMeas& m, const Shape& s) {
   if (s.removedInter > 0) {
     list.m |= 1u;
     list.removedInterFreqCellList.t = 2;
-    auto* some = p.make<RemovedInterFreqCellList_removeSomeInterFreqCells>();
+    auto* some = p.alloc(list.removedInterFreqCellList.u.removeSomeInterFreqCells);
     some->n = s.removedInter;
     for (unsigned i = 0; i < s.removedInter; i++) some->elem[i] = static_cast<uint8_t>((1 + i) % 32);
-    list.removedInterFreqCellList.u.removeSomeInterFreqCells = some;
   }
   if (s.interCells > 0) {
     list.m |= 2u;
@@ -217,65 +194,43 @@ void buildInterMeas(Pool& p, typename F::InterMeas& m, const Shape& s) {
   }
 }
 
-// The tree of SIB11 and SIB12 in the form (hcs, quality): 1 1 RSCP, 1 2 ECN0, 2 1 HCS_RSCP,
-// 2 2 HCS_ECN0.
-template <class F, class Q>
-void buildQuality(Pool& p, Q*& q, const Shape& s) {
-  q = p.make<Q>();
-  q->m = 3;
-  buildIntraMeas<F>(p, q->intraFreqMeasurementSysInfo, s);
-  buildInterMeas<F>(p, q->interFreqMeasurementSysInfo, s);
+// The alternative of the form (hcs, quality) under `use`: 1 1 RSCP, 1 2 ECN0, 2 1 HCS_RSCP,
+// 2 2 HCS_ECN0; `build` fills it, given the form's decoded types.
+template <class Use, class Build>
+void buildForm(Pool& p, Use& use, int form, Build build) {
+  use.t = form < 2 ? 1 : 2;
+  auto quality = [&](auto& q, auto rscp, auto ecno) {
+    q.t = 1 + form % 2;
+    if (form % 2 == 0) build(rscp, *p.alloc(q.u.cpich_RSCP));
+    else build(ecno, *p.alloc(q.u.cpich_Ec_N0));
+  };
+  if (form < 2) quality(p.alloc(use.u.hcs_not_used)->cellSelectQualityMeasure, Rscp{}, Ecno{});
+  else quality(p.alloc(use.u.hcs_used)->cellSelectQualityMeasure, HcsRscp{}, HcsEcno{});
 }
 
+// The tree of SIB11 and SIB12: both frequency records.
 void buildExt(Pool& p, MeasurementControlSysInfo_LCR_r4_ext& e, int form, const Shape& s) {
-  auto& use = e.use_of_HCS;
-  use.t = form < 2 ? 1 : 2;
-  if (form < 2) {
-    use.u.hcs_not_used = p.make<MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used>();
-    auto& q = use.u.hcs_not_used->cellSelectQualityMeasure;
-    q.t = 1 + form % 2;
-    if (form == 0) buildQuality<Rscp>(p, q.u.cpich_RSCP, s);
-    else buildQuality<Ecno>(p, q.u.cpich_Ec_N0, s);
-  } else {
-    use.u.hcs_used = p.make<MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used>();
-    auto& q = use.u.hcs_used->cellSelectQualityMeasure;
-    q.t = 1 + form % 2;
-    if (form == 2) buildQuality<HcsRscp>(p, q.u.cpich_RSCP, s);
-    else buildQuality<HcsEcno>(p, q.u.cpich_Ec_N0, s);
-  }
+  buildForm(p, e.use_of_HCS, form, [&](auto f, auto& q) {
+    q.m = 3;
+    buildIntraMeas<decltype(f)>(p, q.intraFreqMeasurementSysInfo, s);
+    buildInterMeas<decltype(f)>(p, q.interFreqMeasurementSysInfo, s);
+  });
 }
 
 // SIB11bis: the two new-cell lists, and one inter-RAT cell in the hcs_used branch.
-template <class F, class Q>
-void buildBisQuality(Pool& p, Q*& q, const Shape& s) {
-  q = p.make<Q>();
-  q->m = 3;
-  buildNewIntra<F>(p, q->newIntraFreqCellList, s);
-  buildNewInter<F>(p, q->newInterFreqCellList, s);
-}
-
 void buildBis(Pool& p, MeasurementControlSysInfoExtension_LCR_r4& e, int form, const Shape& s) {
-  auto& use = e.use_of_HCS;
-  use.t = form < 2 ? 1 : 2;
-  if (form < 2) {
-    use.u.hcs_not_used = p.make<MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used>();
-    auto& q = use.u.hcs_not_used->cellSelectQualityMeasure;
-    q.t = 1 + form % 2;
-    if (form == 0) buildBisQuality<Rscp>(p, q.u.cpich_RSCP, s);
-    else buildBisQuality<Ecno>(p, q.u.cpich_Ec_N0, s);
-  } else {
-    use.u.hcs_used = p.make<MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used>();
-    auto& h = *use.u.hcs_used;
-    h.m = 1;
-    NewInterRATCell* rat = p.add<NewInterRATCell>(h.newInterRATCellList);
-    rat->m = 1;
-    rat->interRATCellID = 17;
-    rat->technologySpecificInfo.t = 3;  // absent
-    auto& q = h.cellSelectQualityMeasure;
-    q.t = 1 + form % 2;
-    if (form == 2) buildBisQuality<HcsRscp>(p, q.u.cpich_RSCP, s);
-    else buildBisQuality<HcsEcno>(p, q.u.cpich_Ec_N0, s);
-  }
+  buildForm(p, e.use_of_HCS, form, [&](auto f, auto& q) {
+    q.m = 3;
+    buildNewIntra<decltype(f)>(p, q.newIntraFreqCellList, s);
+    buildNewInter<decltype(f)>(p, q.newInterFreqCellList, s);
+  });
+  if (form < 2) return;
+  auto& h = *e.use_of_HCS.u.hcs_used;
+  h.m = 1;
+  NewInterRATCell* rat = p.add<NewInterRATCell>(h.newInterRATCellList);
+  rat->m = 1;
+  rat->interRATCellID = 17;
+  rat->technologySpecificInfo.t = 3;  // absent
 }
 
 // ---- Checks ---------------------------------------------------------------------------------
@@ -301,12 +256,9 @@ void checkCells(const Intra& intra, const Inter& inter, const Shape& s) {
   const auto& c1 = intra.entries[0].cellInfo;
   const auto& c2 = intra.entries[1].cellInfo;
   EXPECT_EQ(intra.entries[1].intraFreqCellID, s.noIdAt == 1 ? 0 : 4);
-  EXPECT_EQ(c1.cellIndividualOffset, -4);
   EXPECT_EQ(c1.presence_bitmask, 2u | (s.timeslots ? 4u : 0u) | (s.selection ? 8u : 0u));
   EXPECT_EQ(c1.primaryCCPCH_Info.presence_bitmask, 0);
   EXPECT_EQ(c1.primaryCCPCH_Info.tstd_Indicator, 1);
-  EXPECT_EQ(c1.primaryCCPCH_Info.sctd_Indicator, 0);
-  EXPECT_EQ(c1.primaryCCPCH_TX_Power, 7);
   EXPECT_EQ(c2.referenceTimeDifferenceToCell.choice_tag, 2u);
   EXPECT_EQ(c2.referenceTimeDifferenceToCell.u.accuracy256, 12);
   EXPECT_EQ(c2.primaryCCPCH_Info.cellParametersID, 17);  // (2 * 7 + 3) % 128
@@ -322,9 +274,7 @@ void checkCells(const Intra& intra, const Inter& inter, const Shape& s) {
   if (s.interCells == 0) return;
   ASSERT_EQ(inter.count, s.interCells);
   EXPECT_EQ(inter.entries[0].presence_bitmask, 3);
-  EXPECT_EQ(inter.entries[0].interFreqCellID, 20);
   EXPECT_EQ(inter.entries[0].frequencyInfo.u.tdd.uarfcn_Nt, 10054);
-  EXPECT_EQ(inter.entries[0].cellInfo.cellIndividualOffset, -5);
   EXPECT_EQ(inter.entries[1].frequencyInfo.choice_tag, 0u);
 }
 
@@ -333,26 +283,18 @@ void checkSib12(const umts_measurement_control_sys_info_lcr_r4_ext& f, int form,
   alternativeOf(f.use_of_HCS, form, [&](const auto& q) {
     EXPECT_EQ(q.presence_bitmask, 3);
     const auto& intra = q.intraFreqMeasurementSysInfo;
-    EXPECT_EQ(intra.intraFreqMeasurementID, 7);
     const auto& removed = intra.intraFreqCellInfoSI_List.removedIntraFreqCellList.u.removeSomeIntraFreqCells;
     EXPECT_EQ(removed.count, s.removedIntra);
     if (s.removedIntra) { EXPECT_EQ(removed.entries[s.removedIntra - 1], 32 - s.removedIntra); }
-    const auto& quantity = intra.intraFreqMeasQuantity.modeSpecificInfo.u.intraFreqMeasQuantity_TDDList;
-    EXPECT_EQ(Bytes(quantity.entries, quantity.entries + 4), (Bytes{0, 2, 1, 0}));
-    EXPECT_EQ(intra.maxReportedCellsOnRACH, 4u);
     const auto& events = intra.reportingInfoForCellDCH.reportCriteria.u.intraFreqReportingCriteria.eventCriteriaList;
     ASSERT_EQ(events.count, 3);
     const auto& e1a = events.entries[0].event.u.e1a;
-    EXPECT_EQ(e1a.reportingRange, 12);
-    EXPECT_EQ(e1a.reportDeactivationThreshold, 3u);
     EXPECT_EQ(e1a.reportingInterval, 6u);
     ASSERT_EQ(e1a.forbiddenAffectCellList.count, 3);
     EXPECT_EQ(e1a.forbiddenAffectCellList.entries[1].presence_bitmask, 1);
     EXPECT_EQ(e1a.forbiddenAffectCellList.entries[1].cellParametersID, 41);
     EXPECT_EQ(e1a.forbiddenAffectCellList.entries[2].cellParametersID, 0) << "its bit clear";
-    EXPECT_EQ(events.entries[0].reportingCellStatus.u.allActivePlusDetectedSet, 2u);
     EXPECT_EQ(events.entries[1].event.u.e1b.w, 20);
-    EXPECT_EQ(events.entries[1].hysteresis, 15);
     // The third event: its tag, and the union as the tag's row leaves it (e1d and e1g: zero).
     umts_intra_freq_event_lcr_r4_u expected{};
     if (s.event == 3) expected.e1c = umts_event_1c{5, 2, 7};
@@ -429,10 +371,9 @@ const char* const kFormNames[] = {"RSCP", "ECN0", "HCS_RSCP", "HCS_ECN0"};
 // The smallest main measurement control information: hcs_not_used, cpich_RSCP, no member.
 void buildMeasurementControl(Pool& p, MeasurementControlSysInfo& mc) {
   mc.use_of_HCS.t = 1;
-  mc.use_of_HCS.u.hcs_not_used = p.make<MeasurementControlSysInfo_use_of_HCS_hcs_not_used>();
-  mc.use_of_HCS.u.hcs_not_used->cellSelectQualityMeasure.t = 1;
-  mc.use_of_HCS.u.hcs_not_used->cellSelectQualityMeasure.u.cpich_RSCP =
-      p.make<MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP>();
+  auto& q = p.alloc(mc.use_of_HCS.u.hcs_not_used)->cellSelectQualityMeasure;
+  q.t = 1;
+  p.alloc(q.u.cpich_RSCP);
 }
 
 // The messages: SIB11 and SIB12 with the LCR tree in their v4b0 extension (beside the smallest

@@ -156,21 +156,6 @@ TEST_F(ConvertSib1, WholeAndOverTheBchGiveTheBuiltValues) {
   }
 }
 
-// A failed decoding (here a rerun over the emptied slot, which has no bits to decode)
-// prints its line and leaves the previous record in place.
-TEST_F(ConvertSib1, FailedDecodingKeepsTheRecord) {
-  ASSERT_EQ(whole(umts_sib_sib1, encode(asn1PE_UMTS_SysInfoType1, Sib1Builder(kCases[0]).sib)), 1);
-  const umts_sib1_info before = result->sib1;
-  result->presence_bitmask = 0;
-  umts_sib_decoder_set_gb_ctxt_bitmask(umts_sib_sib1);
-  uint8_t ret = 0xEE;
-  EXPECT_EQ(captureStdout([&] { ret = decode_system_info_msg(result); }), "umts_convert_sib1:asn decoding failed\n");
-  EXPECT_EQ(ret, 0);
-  EXPECT_EQ(std::memcmp(&result->sib1, &before, sizeof before), 0);
-  EXPECT_EQ(result->presence_bitmask, 0);
-  EXPECT_TRUE(logged("2:decode_system_info_msg:umts_convert_sib1 failed"));
-}
-
 // Values the decoder never delivers: an unknown cn-Type keeps its tag alone, silently; a bit
 // count beyond the decoded store keeps the count, and the copy stops at the record's 256
 // octets, reading nothing past the store.

@@ -68,15 +68,12 @@ TEST_F(ConvertSib5, SampleCellWholeAndOverTheBch) {
 // Every CTFC of an added TFCS is kept in one octet, whatever its size; complete and addition
 // differ only in the tag; an unknown tag is kept alone.
 TEST(ConvertTfcs, CtfcInOneOctetAndTheExplicitConfigurations) {
-  TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element e12[2] = {{0, 0x123, {}}, {0, 4095, {}}};
-  TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element e16{0, 0xBEEF, {}};
-  TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element e24{0, 66051, {}};
+  Pool p;
   rtxDList l12{}, l16{}, l24{};
-  rtxDListNode nodes[4]{};
-  append(l12, nodes[0], e12[0]);
-  append(l12, nodes[1], e12[1]);
-  append(l16, nodes[2], e16);
-  append(l24, nodes[3], e24);
+  p.add(l12, TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element{0, 0x123, {}});
+  p.add(l12, TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element{0, 4095, {}});
+  p.add(l16, TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element{0, 0xBEEF, {}});
+  p.add(l24, TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element{0, 66051, {}});
   const struct {
     uint32_t tag;
     rtxDList* list;
@@ -108,18 +105,17 @@ TEST(ConvertTfcs, CtfcInOneOctetAndTheExplicitConfigurations) {
 
 // tfci-Range: 255 ranges keep their count; 256 read 0 in the octet, with all 256 written.
 TEST(ConvertTfcs, TfciRangeCountInOneOctet) {
-  std::vector<TFCI_Range> ranges(256);
-  std::vector<rtxDListNode> nodes(256);
-  for (unsigned i = 0; i < 256; i++) {
-    ranges[i].maxTFCIField2Value = static_cast<uint16_t>(i + 1);
-    ranges[i].tfcs_InfoForDSCH.t = 7;
-    ranges[i].tfcs_InfoForDSCH.u.ctfc24bit = 66051 + i;
-  }
+  Pool p;
   auto flat = std::make_unique<umts_tfci_range_list>();
   for (unsigned n : {255u, 256u}) {
     SCOPED_TRACE(n);
     TFCI_RangeList list{};
-    for (unsigned i = 0; i < n; i++) append(list, nodes[i] = rtxDListNode{}, ranges[i]);
+    for (unsigned i = 0; i < n; i++) {
+      TFCI_Range* r = p.add<TFCI_Range>(list);
+      r->maxTFCIField2Value = static_cast<uint16_t>(i + 1);
+      r->tfcs_InfoForDSCH.t = 7;
+      r->tfcs_InfoForDSCH.u.ctfc24bit = 66051 + i;
+    }
     *flat = umts_tfci_range_list{};
     convert_tfci_rangelist(&list, flat.get());
     EXPECT_EQ(flat->count, n == 256 ? 0 : 255);
@@ -131,26 +127,20 @@ TEST(ConvertTfcs, TfciRangeCountInOneOctet) {
 // The dynamic list of a common set ends with its last element in entry 0 and its full count;
 // a commonTDD-Choice tag keeps its low 16 bits.
 TEST(ConvertTransportFormat, DynamicListsAndTheCommonTddTag) {
-  CommonDynamicTF_Info_DynamicTTI elements[3]{};
-  OctetModeRLC_SizeInfoType1 sizes[3]{};
-  NumberOfTbSizeAndTTIList_element tti[3]{};
-  rtxDListNode nodes[6]{};
+  Pool p;
   CommonDynamicTF_InfoList_DynamicTTI list{};
-  NumberOfTbSizeAndTTIList_element firstsSecond{};
-  firstsSecond.numberOfTransportBlocks.t = 3;
-  firstsSecond.numberOfTransportBlocks.u.small = 17;
-  rtxDListNode extra{};
   for (int i = 0; i < 3; i++) {
-    sizes[i].t = 1;
-    sizes[i].u.sizeType1 = static_cast<uint8_t>(40 + i);
-    elements[i].commonTDD_Choice.t = 2;
-    elements[i].commonTDD_Choice.u.octetModeRLC_SizeInfoType1 = &sizes[i];
-    tti[i].numberOfTransportBlocks.t = 4;
-    tti[i].numberOfTransportBlocks.u.large = static_cast<uint16_t>(500 + i);
-    tti[i].transmissionTimeInterval = static_cast<uint32_t>(i);
-    append(elements[i].numberOfTbSizeAndTTIList, nodes[3 + i], tti[i]);
-    if (i == 0) append(elements[i].numberOfTbSizeAndTTIList, extra, firstsSecond);
-    append(list, nodes[i], elements[i]);
+    CommonDynamicTF_Info_DynamicTTI* element = p.add<CommonDynamicTF_Info_DynamicTTI>(list);
+    element->commonTDD_Choice.t = 2;
+    *p.alloc(element->commonTDD_Choice.u.octetModeRLC_SizeInfoType1) = {1, {static_cast<uint8_t>(40 + i)}};
+    NumberOfTbSizeAndTTIList_element* tti = p.add<NumberOfTbSizeAndTTIList_element>(element->numberOfTbSizeAndTTIList);
+    tti->numberOfTransportBlocks.t = 4;
+    tti->numberOfTransportBlocks.u.large = static_cast<uint16_t>(500 + i);
+    tti->transmissionTimeInterval = static_cast<uint32_t>(i);
+    if (i > 0) continue;  // the first element's second block count, small
+    auto* second = p.add<NumberOfTbSizeAndTTIList_element>(element->numberOfTbSizeAndTTIList);
+    second->numberOfTransportBlocks.t = 3;
+    second->numberOfTransportBlocks.u.small = 17;
   }
   auto flat = std::make_unique<umts_common_dynamic_tf_info_list_dynamic_tti>();
   convert_common_dynamic_tf_info_list_dynamic_tti(&list, flat.get());
@@ -261,18 +251,16 @@ TEST(ConvertPrach, TddAlternativesAndUnknownTags) {
   // TDD access classes: channelisationCodeIndices is its count and one octet; subchannel
   // sizes 1 (tag alone) to 8.
   AccessServiceClass_TDD_subchannelSize_size4 s4{1, bitString<AccessServiceClass_TDD_subchannelSize_size4_subchannels>({0xC0}, 2)};
-  ASCSetting_TDD settings[2]{};
-  settings[0].m = 1;
-  settings[0].accessServiceClass_TDD.m = 1;
-  settings[0].accessServiceClass_TDD.channelisationCodeIndices = bitString<AccessServiceClass_TDD_channelisationCodeIndices>({0xA5}, 8);
-  settings[0].accessServiceClass_TDD.subchannelSize.t = 1;
-  settings[1].m = 1;
-  settings[1].accessServiceClass_TDD.subchannelSize.t = 3;
-  settings[1].accessServiceClass_TDD.subchannelSize.u.size4 = &s4;
+  Pool p;
   PRACH_Partitioning_tdd list{};
-  rtxDListNode nodes[2]{};
-  append(list, nodes[0], settings[0]);
-  append(list, nodes[1], settings[1]);
+  ASCSetting_TDD* settings[2] = {p.add<ASCSetting_TDD>(list), p.add<ASCSetting_TDD>(list)};
+  settings[0]->m = 1;
+  settings[0]->accessServiceClass_TDD.m = 1;
+  settings[0]->accessServiceClass_TDD.channelisationCodeIndices = bitString<AccessServiceClass_TDD_channelisationCodeIndices>({0xA5}, 8);
+  settings[0]->accessServiceClass_TDD.subchannelSize.t = 1;
+  settings[1]->m = 1;
+  settings[1]->accessServiceClass_TDD.subchannelSize.t = 3;
+  settings[1]->accessServiceClass_TDD.subchannelSize.u.size4 = &s4;
   PRACH_Partitioning part{2, {}};
   part.u.tdd = &list;
   auto flat = std::make_unique<umts_prach_partitioning>();

@@ -76,8 +76,8 @@ TEST(ConvertSib5HspaParts, ResourceKeepsItsRgCombinationIndex) {
   resource.m = 1;
   resource.e_RGCH_Information = {7, 5};
   rtxDList list{};
-  rtxDListNode node{};
-  append(list, node, resource);
+  Pool p;
+  p.add(list, resource);
   auto out = std::make_unique<umts_common_e_dch_resource_info_list>();
   convert_common_edch_resource_info_list(&list, out.get());
   EXPECT_EQ(out->entries[0].presence_bitmask, 7);
