@@ -167,7 +167,9 @@ ParallelFeed::ParallelFeed(unsigned workers, const std::function<std::unique_ptr
     b.shares.resize(s.workers);
   }
   s.finished.assign(s.workers, 0);
-  for (unsigned w = 0; w < s.workers; w++) {
+  /* The calling thread is worker 0 itself: it decodes its share of each batch as it hands the
+     batch out, so that N jobs are N threads on N processors. */
+  for (unsigned w = 1; w < s.workers; w++) {
     s.threads.emplace_back([this, w] {
       Shared& sh = *shared_;
       for (unsigned long next = 0;; next++) {
@@ -209,8 +211,12 @@ unsigned ParallelFeed::worker_of(const std::string& source, uint16_t arfcn) {
   if (it != s.owner.end()) {
     w = it->second;
   } else {
-    w = s.next_worker;
-    s.next_worker = (s.next_worker + 1) % s.workers;
+    /* New cells are dealt out in turn, the calling thread, which also reads and writes,
+       taking one turn in three among two workers (one in 2N-1 among N) rather than one in two. */
+    const unsigned turns = 2 * s.workers - 1;
+    const unsigned turn = s.next_worker;
+    s.next_worker = (s.next_worker + 1) % turns;
+    w = s.workers == 1 ? 0 : (turn == 0 ? 0 : 1 + (turn - 1) % (s.workers - 1));
     s.owner.emplace(key, w);
   }
   if (s.recent.size() < kRecent) {
@@ -281,11 +287,17 @@ void ParallelFeed::write_finished(bool all) {
 
 void ParallelFeed::next_batch() {
   Shared& s = *shared_;
+  const unsigned long number = s.handed;
   {
     std::lock_guard<std::mutex> lock(s.mutex);
     s.handed++;
   }
   s.start.notify_all();
+  decode_share(0, static_cast<int>(number % kParallelBatches));
+  {
+    std::lock_guard<std::mutex> lock(s.mutex);
+    s.finished[0] = number + 1;
+  }
   write_finished(false);
   /* The next batch is gathered where the batch kParallelBatches before it lay: that one must
      be written out first. */

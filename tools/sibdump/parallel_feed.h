@@ -4,7 +4,9 @@
  * Frames are read on the calling thread and gathered in batches. Each cell belongs to one
  * worker (the cells in the order they are first heard, dealt out in turn), and each worker
  * decodes the frames of its cells, in order, through a CellFeed of its own, into buffers of
- * its own. When a batch is decoded the calling thread writes what each frame produced, frame
+ * its own. The calling thread is the first worker: it decodes its share of each batch as it
+ * hands the batch out, and is dealt fewer cells, since it also reads and writes; N workers
+ * are N threads. When a batch is decoded the calling thread writes what each frame produced, frame
  * by frame, to the real streams: the records, the ASN.1 text and the messages come out in the
  * same bytes as from one CellFeed. What a worker's output must do on the calling thread (a
  * summary to write, say) it defers to the frame it belongs to.
