@@ -95,24 +95,24 @@ TEST(ConvertSib5TddParts, BitStringsStayInTheirFields) {
 }
 
 // VHCR additional timeslots with new parameters, uplink and downlink, which the random
-// encodings do not reach.
+// encodings do not reach: the one shape, checked for each direction.
+template <class NewParameters, class Timeslots, class Out>
+void expectNewParameters(void (*convert)(const Timeslots*, Out*), uint8_t timeslot) {
+  NewParameters parameters{};
+  parameters.individualTimeslotInfo.timeslotNumber = timeslot;
+  Timeslots in{};
+  in.parameters.t = 2;
+  in.parameters.u.newParameters = &parameters;
+  Out out{};
+  convert(&in, &out);
+  EXPECT_EQ(out.u.newParameters.individualTimeslotInfo.timeslotNumber, timeslot);
+}
+
 TEST(ConvertSib5TddParts, VhcrAdditionalTimeslotsWithNewParameters) {
-  UplinkAdditionalTimeslots_VHCR_parameters_newParameters upNew{};
-  upNew.individualTimeslotInfo.timeslotNumber = 5;
-  UplinkAdditionalTimeslots_VHCR up{};
-  up.parameters.t = 2;
-  up.parameters.u.newParameters = &upNew;
-  umts_uplink_additional_timeslots_vhcr upOut{};
-  convert_uplink_additional_timeslots_vhcr(&up, &upOut);
-  EXPECT_EQ(upOut.u.newParameters.individualTimeslotInfo.timeslotNumber, 5);
-  DownlinkAdditionalTimeslots_VHCR_parameters_newParameters downNew{};
-  downNew.individualTimeslotInfo.timeslotNumber = 6;
-  DownlinkAdditionalTimeslots_VHCR down{};
-  down.parameters.t = 2;
-  down.parameters.u.newParameters = &downNew;
-  umts_downlink_additional_timeslots_vhcr downOut{};
-  convert_downlink_additional_timeslots_vhcr(&down, &downOut);
-  EXPECT_EQ(downOut.u.newParameters.individualTimeslotInfo.timeslotNumber, 6);
+  expectNewParameters<UplinkAdditionalTimeslots_VHCR_parameters_newParameters>(
+      convert_uplink_additional_timeslots_vhcr, 5);
+  expectNewParameters<DownlinkAdditionalTimeslots_VHCR_parameters_newParameters>(
+      convert_downlink_additional_timeslots_vhcr, 6);
 }
 
 // The 1.28 Mcps common E-DCH keeps up to 256 E-RNTI groups under an 8-bit count (a full list
