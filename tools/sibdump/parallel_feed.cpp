@@ -147,6 +147,12 @@ struct ParallelFeed::Shared {
   bool stop = false;
 
   Batch& gathering() { return batches[handed % kParallelBatches]; }
+  /* Whether every worker is done with the oldest batch not written out (under `mutex`). */
+  bool oldest_done() const {
+    for (const unsigned long f : finished)
+      if (f <= written) return false;
+    return true;
+  }
 };
 
 ParallelFeed::ParallelFeed(unsigned workers, const std::function<std::unique_ptr<CellFeed>(WorkerOutput& out)>& make_feed,
@@ -233,8 +239,7 @@ void ParallelFeed::add(Item&& item) {
   Shared::Batch& b = s.gathering();
   b.shares[item.worker].push_back(static_cast<uint32_t>(b.items.size()));
   b.items.push_back(std::move(item));
-  std::vector<Item>& items = b.items;
-  if (items.size() >= kBatchFrames) next_batch();
+  if (b.items.size() >= kBatchFrames) next_batch();
 }
 
 void ParallelFeed::datagram(unsigned long number, uint64_t time_us, const gsmtap::Datagram& d) {
@@ -270,14 +275,9 @@ void ParallelFeed::write_finished(bool all) {
   while (s.written < s.handed) {
     {
       std::unique_lock<std::mutex> lock(s.mutex);
-      auto ready = [&] {
-        for (const unsigned long f : s.finished)
-          if (f <= s.written) return false;
-        return true;
-      };
       if (all)
-        s.done.wait(lock, ready);
-      else if (!ready())
+        s.done.wait(lock, [&] { return s.oldest_done(); });
+      else if (!s.oldest_done())
         return;
     }
     write_batch(static_cast<int>(s.written % kParallelBatches));
@@ -304,11 +304,7 @@ void ParallelFeed::next_batch() {
   while (s.handed - s.written >= static_cast<unsigned long>(kParallelBatches)) {
     {
       std::unique_lock<std::mutex> lock(s.mutex);
-      s.done.wait(lock, [&] {
-        for (const unsigned long f : s.finished)
-          if (f <= s.written) return false;
-        return true;
-      });
+      s.done.wait(lock, [&] { return s.oldest_done(); });
     }
     write_finished(false);
   }
