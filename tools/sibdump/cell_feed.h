@@ -71,15 +71,18 @@ class FrameSink {
 
 class CellFeed : public FrameSink {
  public:
-  /* `set` is the caller's result record, reused for every call. `input` names the input in
-     the messages ("sibdump: <input>: frame N: ...", written to `messages`); `unit` is "frame"
-     or "datagram". The cells' decoders print their ASN.1 text and messages on `text` (null:
-     nowhere). */
+  /* `set` is the caller's result record, reused for every call (null: given by use_set before
+     the first frame). `input` names the input in the messages ("sibdump: <input>: frame N:
+     ...", written to `messages`); `unit` is "frame" or "datagram". The cells' decoders print
+     their ASN.1 text and messages on `text` (null: nowhere). */
   CellFeed(umts_sib_set* set, RecordOutput output, std::string input, const char* unit, FILE* messages = stderr,
            FILE* text = nullptr);
   ~CellFeed() override; /* releases the cells' decoders and the segments in collection */
   CellFeed(const CellFeed&) = delete;
   CellFeed& operator=(const CellFeed&) = delete;
+
+  /* The result record from now on (one of each thread that decodes this feed's frames). */
+  void use_set(umts_sib_set* set) { set_ = set; }
 
   void datagram(unsigned long number, uint64_t time_us, const gsmtap::Datagram& d) override;
   void not_gsmtap() override { not_gsmtap_++; }

@@ -2,10 +2,12 @@
  * The cells of one capture decoded on several threads: see parallel_feed.h.
  *
  * Batches go round a ring of kParallelBatches: the calling thread gathers one while the
- * workers decode those handed out before, and writes out each batch once every worker is done
- * with it. A worker goes on with the next batch as soon as it is done with its share of one,
- * without waiting for the others: a worker whose cells cost more in one batch catches up in
- * the next ones, and no core stands idle at the end of each batch.
+ * threads decode those handed out before, and writes out each batch once all its units (its
+ * frames of one cell each) are decoded. A thread takes the first unit, oldest batch first,
+ * whose cell no thread is decoding and has no earlier unit left to take: each cell's frames
+ * are decoded in their order, one unit after the other, on whichever thread is free. So no
+ * thread waits for another while there is a cell to decode, and a slower processor simply
+ * takes fewer units.
  */
 #include "parallel_feed.h"
 
@@ -23,16 +25,11 @@
 
 namespace {
 
-/* Frames gathered before the workers decode them. A batch's records (some 300 KB for 256
-   frames of the sample cycle) stay in the workers' buffers until the batch is written out:
+/* Frames gathered before the threads decode them. A batch's records (some 300 KB for 256
+   frames of the sample cycle) stay in the cells' buffers until the batch is written out:
    larger batches spread the ring over more memory than the caches hold, smaller ones cost
    more hand-overs. */
 constexpr size_t kBatchFrames = 256;
-/* A worker wakes the calling thread once it is done with every this many batches (or has
-   caught up with the batches handed out), so that the calling thread, when it waits for room
-   in the ring, writes out half the ring at a time rather than taking a core from a worker
-   for every batch. */
-constexpr unsigned long kWakeEvery = kParallelBatches / 2;
 
 FILE* append_stream(void* cookie, ssize_t (*append)(void*, const char*, size_t)) {
   const cookie_io_functions_t io = {nullptr, append, nullptr, nullptr};
@@ -65,48 +62,74 @@ void TextBuffer::reserve(size_t more) {
   cap = grown;
 }
 
-ssize_t WorkerOutput::append_records(void* cookie, const char* buf, size_t size) {
-  WorkerOutput* o = static_cast<WorkerOutput*>(cookie);
+ssize_t CellOutput::append_records(void* cookie, const char* buf, size_t size) {
+  CellOutput* o = static_cast<CellOutput*>(cookie);
   o->records_->append(buf, size);
   return static_cast<ssize_t>(size);
 }
 
-ssize_t WorkerOutput::append_text(void* cookie, const char* buf, size_t size) {
-  WorkerOutput* o = static_cast<WorkerOutput*>(cookie);
+ssize_t CellOutput::append_text(void* cookie, const char* buf, size_t size) {
+  CellOutput* o = static_cast<CellOutput*>(cookie);
   o->buffers_[o->current_].text.append(buf, size);
   return static_cast<ssize_t>(size);
 }
 
-ssize_t WorkerOutput::append_messages(void* cookie, const char* buf, size_t size) {
-  WorkerOutput* o = static_cast<WorkerOutput*>(cookie);
+ssize_t CellOutput::append_messages(void* cookie, const char* buf, size_t size) {
+  CellOutput* o = static_cast<CellOutput*>(cookie);
   o->buffers_[o->current_].messages.append(buf, size);
   return static_cast<ssize_t>(size);
 }
 
-WorkerOutput::WorkerOutput()
+CellOutput::CellOutput()
     : records_stream_(append_stream(this, append_records)), text_stream_(append_stream(this, append_text)),
       messages_stream_(append_stream(this, append_messages)) {}
 
-WorkerOutput::~WorkerOutput() {
+CellOutput::~CellOutput() {
   std::fclose(records_stream_);
   std::fclose(text_stream_);
   std::fclose(messages_stream_);
 }
 
+struct ParallelFeed::Cell {
+  std::unique_ptr<CellOutput> out;
+  CellDecoding decoding;
+  /* Under the mutex: whether a thread is decoding the cell, and the last search for a unit
+     that found the cell busy or with a unit not taken. */
+  bool busy = false;
+  unsigned long passed = 0;
+  /* The calling thread's: the batch whose unit of this cell is being gathered, and its place. */
+  unsigned long gathering = ULONG_MAX;
+  size_t unit = 0;
+  /* The calling thread's, while it writes a batch out: the cell's frames written, where its
+     buffers were written up to (its records alone, in a batch of records only), its
+     deferred actions run. */
+  size_t written = 0, deferred_run = 0, records_written = 0;
+  const CellOutput::Ends* at = nullptr;
+};
+
 struct ParallelFeed::Item {
   enum Kind { kDatagram, kBad } kind;
   unsigned long number;
   uint64_t time_us;
-  unsigned worker;
+  Cell* cell;
   size_t offset, length; /* the datagram's octets in the batch's arena */
   std::string source;    /* the sender; for kBad the message */
   uint16_t source_port, destination_port;
 };
 
+/* A batch's frames of one cell, by their places in the batch. */
+struct ParallelFeed::Unit {
+  Cell* cell = nullptr;
+  std::vector<uint32_t> frames;
+  bool taken = false; /* under the mutex */
+};
+
 struct ParallelFeed::Shared {
-  unsigned workers = 1;
-  std::vector<std::unique_ptr<WorkerOutput>> outs;
-  std::vector<std::unique_ptr<CellFeed>> feeds;
+  unsigned threads = 1;
+  std::function<CellDecoding(CellOutput&)> make_feed;
+  std::vector<std::unique_ptr<Cell>> cells; /* added by the calling thread only */
+  Cell* no_cell = nullptr;                  /* frames whose cell is not known: reported there */
+  std::vector<umts_sib_set*> sets;          /* each thread's result set */
   FILE* records = nullptr;
   FILE* text = nullptr;
   FILE* messages = nullptr;
@@ -116,78 +139,93 @@ struct ParallelFeed::Shared {
   struct KeyHash {
     size_t operator()(const CellKey& k) const { return std::hash<std::string>()(k.first) * 31u + k.second; }
   };
-  std::unordered_map<CellKey, unsigned, KeyHash> owner; /* each cell's worker */
-  unsigned next_worker = 0;
-  /* A batch: its frames, each worker's frames by their places in it, the datagrams' octets.
-     The workers only read it. */
-  struct Batch {
-    std::vector<Item> items;
-    std::vector<std::vector<uint32_t>> shares;
-    std::vector<uint8_t> arena;
-  };
-  Batch batches[kParallelBatches]; /* batch number n lies at n % kParallelBatches */
-  /* The cells last looked up, before `owner` is searched. */
+  std::unordered_map<CellKey, Cell*, KeyHash> by_key;
+  /* The cells last looked up, before `by_key` is searched. */
   struct Recent {
     CellKey key;
-    unsigned worker;
+    Cell* cell;
   };
   std::vector<Recent> recent;
   size_t recent_next = 0;
-  std::vector<iovec> pieces; /* write_records_only's list, kept for its room */
 
-  std::vector<std::thread> threads;
+  /* A batch: its frames, its units (the first `unit_count` of `units`, kept with their room
+     from batch to batch), the datagrams' octets. The threads only read it, but for the units'
+     and the batch's counts under the mutex. */
+  struct Batch {
+    std::vector<Item> items;
+    std::vector<Unit> units;
+    size_t unit_count = 0;
+    size_t first_open = 0; /* the units before it are taken (under the mutex) */
+    size_t units_done = 0; /* under the mutex */
+    std::vector<uint8_t> arena;
+  };
+  Batch batches[kParallelBatches]; /* batch number n lies at n % kParallelBatches */
+  std::vector<iovec> pieces;       /* write_records_only's list, kept for its room */
+
+  std::vector<std::thread> pool;
   std::mutex mutex;
-  std::condition_variable start, done;
-  /* Batch numbers, counted from the first: those handed to the workers, those each worker is
-     done with (under `mutex`), those written out (by the calling thread). The batch gathered
-     is number `handed`. */
+  std::condition_variable work, done;
+  /* Batch numbers, counted from the first: those handed to the threads, the first with a unit
+     not taken (both under the mutex), those written out (by the calling thread). The batch
+     gathered is number `handed`. */
   unsigned long handed = 0;
-  std::vector<unsigned long> finished;
+  unsigned long open = 0;
   unsigned long written = 0;
+  /* Under the mutex: searches for a unit so far, units decoded so far, threads waiting for a
+     unit, whether the calling thread waits for one to be decoded. */
+  unsigned long searches = 0;
+  unsigned long units_decoded = 0;
+  unsigned idle = 0;
+  bool caller_waits = false;
   bool stop = false;
 
-  Batch& gathering() { return batches[handed % kParallelBatches]; }
-  /* Whether every worker is done with the oldest batch not written out (under `mutex`). */
-  bool oldest_done() const {
-    for (const unsigned long f : finished)
-      if (f <= written) return false;
-    return true;
+  Batch& batch(unsigned long number) { return batches[number % kParallelBatches]; }
+  Cell* new_cell() {
+    cells.emplace_back(new Cell);
+    Cell* c = cells.back().get();
+    c->out.reset(new CellOutput);
+    c->decoding = make_feed(*c->out);
+    return c;
   }
 };
 
-ParallelFeed::ParallelFeed(unsigned workers, const std::function<std::unique_ptr<CellFeed>(WorkerOutput& out)>& make_feed,
+ParallelFeed::ParallelFeed(unsigned workers, const std::function<CellDecoding(CellOutput& out)>& make_feed,
                            FILE* records, FILE* text, FILE* messages, const char* unit)
     : shared_(new Shared) {
   Shared& s = *shared_;
-  s.workers = workers == 0 ? 1 : workers;
+  s.threads = workers == 0 ? 1 : workers;
+  s.make_feed = make_feed;
   s.records = records;
   s.text = text;
   s.messages = messages;
   s.unit = unit;
-  for (unsigned w = 0; w < s.workers; w++) {
-    s.outs.emplace_back(new WorkerOutput);
-    s.feeds.push_back(make_feed(*s.outs.back()));
+  s.no_cell = s.new_cell();
+  for (unsigned t = 0; t < s.threads; t++) {
+    umts_sib_set* set = umts_sib_set_alloc();
+    if (set == nullptr) {
+      std::fprintf(stderr, "sibdump: out of memory\n");
+      std::exit(2);
+    }
+    s.sets.push_back(set);
   }
-  for (Shared::Batch& b : s.batches) {
-    b.items.reserve(kBatchFrames);
-    b.shares.resize(s.workers);
-  }
-  s.finished.assign(s.workers, 0);
-  /* The calling thread is worker 0 itself: it decodes its share of each batch as it hands the
-     batch out, so that N jobs are N threads on N processors. */
-  for (unsigned w = 1; w < s.workers; w++) {
-    s.threads.emplace_back([this, w] {
+  for (Shared::Batch& b : s.batches) b.items.reserve(kBatchFrames);
+  /* The calling thread is one of the threads: N jobs are N threads on N processors. */
+  for (unsigned t = 1; t < s.threads; t++) {
+    s.pool.emplace_back([this, t] {
       Shared& sh = *shared_;
-      for (unsigned long next = 0;; next++) {
+      for (;;) {
+        unsigned long batch;
+        size_t unit;
         {
           std::unique_lock<std::mutex> lock(sh.mutex);
-          sh.start.wait(lock, [&] { return sh.stop || sh.handed > next; });
-          if (sh.handed <= next) return; /* stopped, with nothing left */
+          while (!take_unit(&batch, &unit)) {
+            if (sh.stop) return;
+            sh.idle++;
+            sh.work.wait(lock);
+            sh.idle--;
+          }
         }
-        decode_share(w, static_cast<int>(next % kParallelBatches));
-        std::lock_guard<std::mutex> lock(sh.mutex);
-        sh.finished[w] = next + 1;
-        if ((next + 1) % kWakeEvery == 0 || next + 1 == sh.handed) sh.done.notify_one();
+        decode_unit(t, batch, unit);
       }
     });
   }
@@ -195,195 +233,249 @@ ParallelFeed::ParallelFeed(unsigned workers, const std::function<std::unique_ptr
 
 ParallelFeed::~ParallelFeed() {
   Shared& s = *shared_;
-  write_finished(true);
+  work_until(1);
   {
     std::lock_guard<std::mutex> lock(s.mutex);
     s.stop = true;
   }
-  s.start.notify_all();
-  for (std::thread& t : s.threads) t.join();
-  s.feeds.clear();
+  s.work.notify_all();
+  for (std::thread& t : s.pool) t.join();
+  s.cells.clear();
+  for (umts_sib_set* set : s.sets) umts_sib_set_free(set);
 }
 
-unsigned ParallelFeed::worker_of(const std::string& source, uint16_t arfcn) {
+ParallelFeed::Cell* ParallelFeed::cell_of(const std::string& source, uint16_t arfcn) {
   Shared& s = *shared_;
   /* A capture comes from a few cells at a time: they are found among the last ones. */
   constexpr size_t kRecent = 16;
   for (const Shared::Recent& r : s.recent)
-    if (r.key.second == arfcn && r.key.first == source) return r.worker;
+    if (r.key.second == arfcn && r.key.first == source) return r.cell;
   CellKey key(source, arfcn);
-  unsigned w;
-  auto it = s.owner.find(key);
-  if (it != s.owner.end()) {
-    w = it->second;
+  Cell* c;
+  auto it = s.by_key.find(key);
+  if (it != s.by_key.end()) {
+    c = it->second;
   } else {
-    /* New cells are dealt out in turn, the calling thread, which also reads and writes,
-       taking one turn in three among two workers (one in 2N-1 among N) rather than one in two. */
-    const unsigned turns = 2 * s.workers - 1;
-    const unsigned turn = s.next_worker;
-    s.next_worker = (s.next_worker + 1) % turns;
-    w = s.workers == 1 ? 0 : (turn == 0 ? 0 : 1 + (turn - 1) % (s.workers - 1));
-    s.owner.emplace(key, w);
+    c = s.new_cell();
+    s.by_key.emplace(key, c);
   }
   if (s.recent.size() < kRecent) {
-    s.recent.push_back(Shared::Recent{std::move(key), w});
+    s.recent.push_back(Shared::Recent{std::move(key), c});
   } else {
-    s.recent[s.recent_next] = Shared::Recent{std::move(key), w};
+    s.recent[s.recent_next] = Shared::Recent{std::move(key), c};
     s.recent_next = (s.recent_next + 1) % kRecent;
   }
-  return w;
+  return c;
 }
 
 void ParallelFeed::add(Item&& item) {
   Shared& s = *shared_;
-  Shared::Batch& b = s.gathering();
-  b.shares[item.worker].push_back(static_cast<uint32_t>(b.items.size()));
+  Shared::Batch& b = s.batch(s.handed);
+  Cell* c = item.cell;
+  if (c->gathering != s.handed) {
+    c->gathering = s.handed;
+    c->unit = b.unit_count++;
+    if (b.units.size() < b.unit_count) b.units.emplace_back();
+    b.units[c->unit].cell = c;
+  }
+  b.units[c->unit].frames.push_back(static_cast<uint32_t>(b.items.size()));
   b.items.push_back(std::move(item));
   if (b.items.size() >= kBatchFrames) next_batch();
 }
 
 void ParallelFeed::datagram(unsigned long number, uint64_t time_us, const gsmtap::Datagram& d) {
   Shared& s = *shared_;
-  /* The cell decides the worker; a datagram whose header cannot be read goes to the first,
-     whose feed reports it. */
+  /* The cell decides the feed; a datagram whose header cannot be read goes to the feed of no
+     cell, which reports it. */
   gsmtap::Header h;
   size_t message_at = 0;
   std::string why;
-  unsigned worker = 0;
+  Cell* cell = s.no_cell;
   if (gsmtap::parse_header(d.payload, d.length, &h, &message_at, &why))
-    worker = worker_of(d.source, gsmtap::arfcn_number(h.arfcn));
-  std::vector<uint8_t>& arena = s.gathering().arena;
+    cell = cell_of(d.source, gsmtap::arfcn_number(h.arfcn));
+  std::vector<uint8_t>& arena = s.batch(s.handed).arena;
   const size_t offset = arena.size();
   arena.insert(arena.end(), d.payload, d.payload + d.length);
-  add(Item{Item::kDatagram, number, time_us, worker, offset, d.length, d.source, d.source_port, d.destination_port});
+  add(Item{Item::kDatagram, number, time_us, cell, offset, d.length, d.source, d.source_port, d.destination_port});
 }
 
 void ParallelFeed::not_gsmtap() { shared_->not_gsmtap++; }
 
 void ParallelFeed::bad(unsigned long number, const std::string& why) {
-  add(Item{Item::kBad, number, 0, 0, 0, 0, why, 0, 0});
+  add(Item{Item::kBad, number, 0, shared_->no_cell, 0, 0, why, 0, 0});
 }
 
 void ParallelFeed::finish() {
   Shared& s = *shared_;
-  if (!s.gathering().items.empty()) next_batch();
-  write_finished(true);
+  if (!s.batch(s.handed).items.empty()) next_batch();
+  work_until(1);
 }
 
-void ParallelFeed::write_finished(bool all) {
+bool ParallelFeed::take_unit(unsigned long* batch, size_t* unit) {
   Shared& s = *shared_;
-  while (s.written < s.handed) {
-    {
-      std::unique_lock<std::mutex> lock(s.mutex);
-      if (all)
-        s.done.wait(lock, [&] { return s.oldest_done(); });
-      else if (!s.oldest_done())
-        return;
+  /* A cell passed over in this search (busy, or with a unit not taken) is not taken from a
+     later batch either. */
+  const unsigned long search = ++s.searches;
+  for (unsigned long n = s.open; n < s.handed; n++) {
+    Shared::Batch& b = s.batch(n);
+    for (size_t u = b.first_open; u < b.unit_count; u++) {
+      Unit& candidate = b.units[u];
+      if (candidate.taken) continue;
+      Cell& c = *candidate.cell;
+      if (c.busy || c.passed == search) {
+        c.passed = search;
+        continue;
+      }
+      candidate.taken = true;
+      c.busy = true;
+      while (b.first_open < b.unit_count && b.units[b.first_open].taken) b.first_open++;
+      while (s.open < s.handed && s.batch(s.open).first_open == s.batch(s.open).unit_count) s.open++;
+      *batch = n;
+      *unit = u;
+      return true;
     }
-    write_batch(static_cast<int>(s.written % kParallelBatches));
-    s.written++;
   }
+  return false;
 }
 
-void ParallelFeed::next_batch() {
+void ParallelFeed::decode_unit(unsigned thread, unsigned long batch, size_t unit) {
   Shared& s = *shared_;
-  const unsigned long number = s.handed;
-  {
-    std::lock_guard<std::mutex> lock(s.mutex);
-    s.handed++;
-  }
-  s.start.notify_all();
-  decode_share(0, static_cast<int>(number % kParallelBatches));
-  {
-    std::lock_guard<std::mutex> lock(s.mutex);
-    s.finished[0] = number + 1;
-  }
-  write_finished(false);
-  /* The next batch is gathered where the batch kParallelBatches before it lay: that one must
-     be written out first. */
-  while (s.handed - s.written >= static_cast<unsigned long>(kParallelBatches)) {
-    {
-      std::unique_lock<std::mutex> lock(s.mutex);
-      s.done.wait(lock, [&] { return s.oldest_done(); });
-    }
-    write_finished(false);
-  }
-}
-
-void ParallelFeed::decode_share(unsigned worker, int batch) {
-  Shared& s = *shared_;
-  WorkerOutput& out = *s.outs[worker];
-  CellFeed& feed = *s.feeds[worker];
-  out.current_ = batch;
-  out.records_ = &out.buffers_[batch].records;
-  const std::vector<Item>& items = s.batches[batch].items;
-  const std::vector<uint8_t>& arena = s.batches[batch].arena;
-  WorkerOutput::Buffers& buffers = out.buffers_[batch];
+  const int slot = static_cast<int>(batch % kParallelBatches);
+  Shared::Batch& b = s.batches[slot];
+  const Unit& u = b.units[unit];
+  Cell& cell = *u.cell;
+  cell.decoding.use_set(s.sets[thread]);
+  CellFeed& feed = *cell.decoding.feed;
+  CellOutput& out = *cell.out;
+  out.current_ = slot;
+  out.records_ = &out.buffers_[slot].records;
+  CellOutput::Buffers& buffers = out.buffers_[slot];
   gsmtap::Datagram d;
-  for (const uint32_t i : s.batches[batch].shares[worker]) {
-    const Item& item = items[i];
+  for (const uint32_t i : u.frames) {
+    const Item& item = b.items[i];
     out.item_ = i;
     if (item.kind == Item::kBad) {
       feed.bad(item.number, item.source);
     } else {
-      d.payload = arena.data() + item.offset;
+      d.payload = b.arena.data() + item.offset;
       d.length = item.length;
       d.source = item.source;
       d.source_port = item.source_port;
       d.destination_port = item.destination_port;
       feed.datagram(item.number, item.time_us, d);
     }
-    buffers.ends.push_back(WorkerOutput::Ends{buffers.records.len, buffers.text.size(), buffers.messages.size()});
+    buffers.ends.push_back(CellOutput::Ends{buffers.records.len, buffers.text.size(), buffers.messages.size()});
   }
+  std::lock_guard<std::mutex> lock(s.mutex);
+  cell.busy = false;
+  b.units_done++;
+  s.units_decoded++;
+  if (s.caller_waits) s.done.notify_one();
+  if (s.idle > 0) s.work.notify_one(); /* the cell's next unit may be waiting */
+}
+
+void ParallelFeed::write_finished() {
+  Shared& s = *shared_;
+  while (s.written < s.handed) {
+    Shared::Batch& b = s.batch(s.written);
+    {
+      std::lock_guard<std::mutex> lock(s.mutex);
+      if (b.units_done < b.unit_count) return;
+    }
+    write_batch(static_cast<int>(s.written % kParallelBatches));
+    s.written++;
+  }
+}
+
+void ParallelFeed::work_until(unsigned long room) {
+  Shared& s = *shared_;
+  for (;;) {
+    write_finished();
+    if (s.handed - s.written < room) return;
+    unsigned long batch;
+    size_t unit;
+    {
+      std::unique_lock<std::mutex> lock(s.mutex);
+      if (!take_unit(&batch, &unit)) {
+        /* Every unit left is being decoded, or waits for its cell: wait for one to be done. */
+        const unsigned long decoded = s.units_decoded;
+        s.caller_waits = true;
+        s.done.wait(lock, [&] { return s.units_decoded != decoded; });
+        s.caller_waits = false;
+        continue;
+      }
+    }
+    decode_unit(0, batch, unit);
+  }
+}
+
+void ParallelFeed::next_batch() {
+  Shared& s = *shared_;
+  {
+    std::lock_guard<std::mutex> lock(s.mutex);
+    s.handed++;
+    if (s.idle > 0) s.work.notify_all();
+  }
+  /* The next batch is gathered where the batch kParallelBatches before it lay: that one must
+     be written out first. Until then the calling thread decodes too. */
+  work_until(kParallelBatches);
 }
 
 void ParallelFeed::write_batch(int batch) {
   Shared& s = *shared_;
   if (write_records_only(batch)) return;
-  std::vector<size_t> done(s.workers, 0), deferred_at(s.workers, 0);
-  WorkerOutput::Ends zero = {0, 0, 0};
-  std::vector<const WorkerOutput::Ends*> at(s.workers, &zero);
-  std::vector<Item>& items = s.batches[batch].items;
-  for (size_t i = 0; i < items.size(); i++) {
-    const unsigned w = items[i].worker;
-    WorkerOutput::Buffers& b = s.outs[w]->buffers_[batch];
-    const WorkerOutput::Ends& end = b.ends[done[w]++];
+  Shared::Batch& b = s.batches[batch];
+  static const CellOutput::Ends zero = {0, 0, 0};
+  for (size_t u = 0; u < b.unit_count; u++) {
+    Cell& c = *b.units[u].cell;
+    c.written = c.deferred_run = 0;
+    c.at = &zero;
+  }
+  for (size_t i = 0; i < b.items.size(); i++) {
+    Cell& c = *b.items[i].cell;
+    CellOutput::Buffers& out = c.out->buffers_[batch];
+    const CellOutput::Ends& end = out.ends[c.written++];
     /* The text may be going where the messages go (standard error): what came before first. */
-    if (end.messages > at[w]->messages && s.text != nullptr) std::fflush(s.text);
-    put(s.messages, b.messages.data(), at[w]->messages, end.messages);
-    put(s.records, b.records.data, at[w]->records, end.records);
-    put(s.text, b.text.data(), at[w]->text, end.text);
-    at[w] = &end;
-    for (size_t& k = deferred_at[w]; k < b.deferred.size() && b.deferred[k].first == i; k++) b.deferred[k].second();
+    if (end.messages > c.at->messages && s.text != nullptr) std::fflush(s.text);
+    put(s.messages, out.messages.data(), c.at->messages, end.messages);
+    put(s.records, out.records.data, c.at->records, end.records);
+    put(s.text, out.text.data(), c.at->text, end.text);
+    c.at = &end;
+    for (size_t& k = c.deferred_run; k < out.deferred.size() && out.deferred[k].first == i; k++) out.deferred[k].second();
   }
   clear_batch(batch);
 }
 
 /* The usual batch has records and nothing else: its records go to the stream's file as they
-   lie in the workers' buffers, a frame's piece after the other, in a few gathered writes
+   lie in the cells' buffers, a frame's piece after the other, in a few gathered writes
    rather than a copy of each piece into the stream's buffer and a write for every few
    frames. Returns false, having written nothing, for any other batch or a stream that is no
    file. */
 bool ParallelFeed::write_records_only(int batch) {
   Shared& s = *shared_;
   if (s.records == nullptr) return false;
-  for (auto& out : s.outs) {
-    const WorkerOutput::Buffers& b = out->buffers_[batch];
-    if (!b.text.empty() || !b.messages.empty() || !b.deferred.empty()) return false;
+  Shared::Batch& b = s.batches[batch];
+  for (size_t u = 0; u < b.unit_count; u++) {
+    const CellOutput::Buffers& out = b.units[u].cell->out->buffers_[batch];
+    if (!out.text.empty() || !out.messages.empty() || !out.deferred.empty()) return false;
   }
   const int fd = fileno(s.records);
   if (fd < 0) return false;
+  for (size_t u = 0; u < b.unit_count; u++) {
+    Cell& c = *b.units[u].cell;
+    c.written = 0;
+    c.records_written = 0;
+  }
   std::vector<iovec>& pieces = s.pieces;
   pieces.clear();
-  std::vector<size_t> records_at(s.workers, 0), done(s.workers, 0);
-  for (const Item& item : s.batches[batch].items) {
-    const unsigned w = item.worker;
-    const WorkerOutput::Buffers& b = s.outs[w]->buffers_[batch];
-    const size_t end = b.ends[done[w]++].records;
-    if (end == records_at[w]) continue;
-    char* from = b.records.data + records_at[w];
-    const size_t length = end - records_at[w];
-    records_at[w] = end;
+  for (const Item& item : b.items) {
+    Cell& c = *item.cell;
+    const CellOutput::Buffers& out = c.out->buffers_[batch];
+    const size_t end = out.ends[c.written++].records;
+    if (end == c.records_written) continue;
+    char* from = out.records.data + c.records_written;
+    const size_t length = end - c.records_written;
+    c.records_written = end;
     if (!pieces.empty() && static_cast<char*>(pieces.back().iov_base) + pieces.back().iov_len == from)
       pieces.back().iov_len += length;
     else
@@ -414,29 +506,33 @@ bool ParallelFeed::write_records_only(int batch) {
 
 void ParallelFeed::clear_batch(int batch) {
   Shared& s = *shared_;
-  for (auto& out : s.outs) {
-    WorkerOutput::Buffers& b = out->buffers_[batch];
-    b.records.len = 0;
-    b.text.clear();
-    b.messages.clear();
-    b.deferred.clear();
-    b.ends.clear();
-  }
   Shared::Batch& b = s.batches[batch];
+  for (size_t u = 0; u < b.unit_count; u++) {
+    Unit& unit = b.units[u];
+    CellOutput::Buffers& out = unit.cell->out->buffers_[batch];
+    out.records.len = 0;
+    out.text.clear();
+    out.messages.clear();
+    out.deferred.clear();
+    out.ends.clear();
+    unit.frames.clear();
+  }
+  std::lock_guard<std::mutex> lock(s.mutex);
+  for (size_t u = 0; u < b.unit_count; u++) b.units[u].taken = false;
+  b.unit_count = b.first_open = b.units_done = 0;
   b.items.clear();
   b.arena.clear();
-  for (std::vector<uint32_t>& share : b.shares) share.clear();
 }
 
 void ParallelFeed::summary(FILE* out, unsigned long frames) const {
   std::map<CellKey, CellCounts> cells;
   unsigned long not_gsmtap = shared_->not_gsmtap, bad = 0;
-  for (const auto& f : shared_->feeds) f->add_counts(&cells, &not_gsmtap, &bad);
+  for (const auto& c : shared_->cells) c->decoding.feed->add_counts(&cells, &not_gsmtap, &bad);
   CellFeed::write_counts(out, shared_->unit, frames, cells, not_gsmtap, bad);
 }
 
 unsigned long ParallelFeed::errors() const {
   unsigned long n = 0;
-  for (const auto& f : shared_->feeds) n += f->errors();
+  for (const auto& c : shared_->cells) n += c->decoding.feed->errors();
   return n;
 }

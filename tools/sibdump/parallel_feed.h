@@ -1,15 +1,16 @@
 /*
  * The cells of one capture decoded on several threads, the output as one thread writes it.
  *
- * Frames are read on the calling thread and gathered in batches. Each cell belongs to one
- * worker (the cells in the order they are first heard, dealt out in turn), and each worker
- * decodes the frames of its cells, in order, through a CellFeed of its own, into buffers of
- * its own. The calling thread is the first worker: it decodes its share of each batch as it
- * hands the batch out, and is dealt fewer cells, since it also reads and writes; N workers
- * are N threads. When a batch is decoded the calling thread writes what each frame produced, frame
- * by frame, to the real streams: the records, the ASN.1 text and the messages come out in the
- * same bytes as from one CellFeed. What a worker's output must do on the calling thread (a
- * summary to write, say) it defers to the frame it belongs to.
+ * Frames are read on the calling thread and gathered in batches. Each cell has a CellFeed of
+ * its own, writing into buffers of its own; a batch's frames of one cell are a unit of work,
+ * and any thread takes the next unit whose cell is not being decoded elsewhere, so that a
+ * cell's frames are decoded in order while the threads share the work by what each gets
+ * done (processors differ in speed, and one of them also reads and writes). The calling
+ * thread is one of the N threads of N jobs: it reads while there is room for another batch,
+ * and decodes otherwise. When a batch is decoded the calling thread writes what each frame
+ * produced, frame by frame, to the real streams: the records, the ASN.1 text and the
+ * messages come out in the same bytes as from one CellFeed. What a cell's output must do on
+ * the calling thread (a summary to write, say) it defers to the frame it belongs to.
  */
 #ifndef UMTS_TOOLS_PARALLEL_FEED_H
 #define UMTS_TOOLS_PARALLEL_FEED_H
@@ -46,15 +47,14 @@ struct TextBuffer {
 /* Batches in flight at once: gathered, being decoded or waiting to be written. */
 constexpr int kParallelBatches = 8;
 
-/* What one worker writes while it decodes a batch: a set of buffers for each batch in flight,
-   so that a worker goes on with the next batch while the calling thread writes out the ones
-   before. */
-class WorkerOutput {
+/* What the decoding of one cell writes: a set of buffers for each batch in flight, so that
+   the cell's next frames are decoded while the calling thread writes out the ones before. */
+class CellOutput {
  public:
-  WorkerOutput();
-  ~WorkerOutput();
-  WorkerOutput(const WorkerOutput&) = delete;
-  WorkerOutput& operator=(const WorkerOutput&) = delete;
+  CellOutput();
+  ~CellOutput();
+  CellOutput(const CellOutput&) = delete;
+  CellOutput& operator=(const CellOutput&) = delete;
 
   /* Streams that append to the buffers of the batch being decoded, unbuffered. */
   FILE* records() const { return records_stream_; }
@@ -76,7 +76,7 @@ class WorkerOutput {
     TextBuffer records;
     std::string text, messages;
     std::vector<std::pair<size_t, std::function<void()>>> deferred;
-    std::vector<Ends> ends; /* one for each frame of the worker's share, in order */
+    std::vector<Ends> ends; /* one for each frame of the cell in the batch, in order */
   };
   static ssize_t append_records(void* cookie, const char* buf, size_t size);
   static ssize_t append_text(void* cookie, const char* buf, size_t size);
@@ -91,13 +91,22 @@ class WorkerOutput {
   size_t item_ = 0; /* the frame being decoded, by its place in the batch */
 };
 
+/* The decoding of one cell: its feed, and how to point the feed at a result set (each thread
+   has one, which the conversions of whatever cell it decodes fill). */
+struct CellDecoding {
+  std::unique_ptr<CellFeed> feed;
+  std::function<void(umts_sib_set* set)> use_set;
+};
+
 class ParallelFeed : public FrameSink {
  public:
-  /* `make_feed(out)` builds a worker's CellFeed, writing its records, text and messages to
-     the streams of `out` (or its records to out.records_buffer()) by the end of each frame.
-     Each batch's output goes to `records`, `text` (null: none) and `messages`. */
-  ParallelFeed(unsigned workers, const std::function<std::unique_ptr<CellFeed>(WorkerOutput& out)>& make_feed,
-               FILE* records, FILE* text, FILE* messages, const char* unit);
+  /* `make_feed(out)` builds the decoding of a cell, its feed writing its records, text and
+     messages to the streams of `out` (or its records to out.records_buffer()) by the end of
+     each frame; it is called on the calling thread for each cell as it is first heard, and
+     once for the frames of no cell. Each batch's output goes to `records`, `text` (null:
+     none) and `messages`. */
+  ParallelFeed(unsigned workers, const std::function<CellDecoding(CellOutput& out)>& make_feed, FILE* records,
+               FILE* text, FILE* messages, const char* unit);
   ~ParallelFeed() override;
   ParallelFeed(const ParallelFeed&) = delete;
   ParallelFeed& operator=(const ParallelFeed&) = delete;
@@ -112,18 +121,23 @@ class ParallelFeed : public FrameSink {
 
  private:
   struct Item;
+  struct Unit;
+  struct Cell;
   struct Shared;
-  /* Hands the batch gathered to the workers and writes out every batch that all workers are
-     done with; waits only when no batch is free to gather the next frames in. */
+  /* Hands the batch gathered to the threads and writes out every batch that is decoded;
+     decodes while no batch is free to gather the next frames in. */
   void next_batch();
-  /* Writes out, in order, the batches that every worker is done with; with `all`, waits for
-     the workers to be done with every batch handed out. */
-  void write_finished(bool all);
-  void decode_share(unsigned worker, int batch);
+  /* Decodes, and writes out in order, until fewer than `room` batches are in flight. */
+  void work_until(unsigned long room);
+  /* Writes out, in order, the batches that are decoded. */
+  void write_finished();
+  /* The next unit that may be decoded, taken (under the mutex); false: none. */
+  bool take_unit(unsigned long* batch, size_t* unit);
+  void decode_unit(unsigned thread, unsigned long batch, size_t unit);
   void write_batch(int batch);
   bool write_records_only(int batch);
   void clear_batch(int batch);
-  unsigned worker_of(const std::string& source, uint16_t arfcn);
+  Cell* cell_of(const std::string& source, uint16_t arfcn);
   void add(Item&& item);
 
   std::unique_ptr<Shared> shared_;

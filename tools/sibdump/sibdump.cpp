@@ -424,7 +424,7 @@ class JsonLines {
   std::string prefix_;
 };
 
-/* One stream of decoding: an input, or one worker's share of a capture's cells. */
+/* One stream of decoding: an input, or one cell of a capture decoded on several threads. */
 struct Dumper {
   Dumper(JsonLines& j, const char* name, umts_sib_set* s) : json(j), input_name(name), set(s) {}
   JsonLines& json;
@@ -436,9 +436,10 @@ struct Dumper {
   Counts counts;
   CellCollection* cells = nullptr;   /* --summary: the records are collected here */
   SummaryWriter* summaries = nullptr; /* and the summaries written here */
-  /* A worker of a capture's cells: what must reach the summary writer goes through here, in
-     the order of the frames, into `order` (the cells in the order first heard). */
-  WorkerOutput* worker = nullptr;
+  /* A cell of a capture decoded on several threads: what must reach the summary writer goes
+     through here, in the order of the frames, into `order` (the cells in the order first
+     heard). */
+  CellOutput* cell_out = nullptr;
   std::vector<const CellRecords*>* order = nullptr;
 };
 
@@ -470,19 +471,19 @@ void collect(Dumper& d, const std::string& key, const std::string& label) {
   std::vector<SummaryNode> ended;
   const size_t cells_before = d.cells->cells().size();
   d.cells->take(key, label, d.set, &ended);
-  if (d.worker == nullptr) {
+  if (d.cell_out == nullptr) {
     for (const SummaryNode& n : ended) d.summaries->write(n);
     return;
   }
   if (d.cells->cells().size() != cells_before) {
     const CellRecords* cell = d.cells->cells().back().get();
     std::vector<const CellRecords*>* order = d.order;
-    d.worker->defer([order, cell] { order->push_back(cell); });
+    d.cell_out->defer([order, cell] { order->push_back(cell); });
   }
   for (SummaryNode& n : ended) {
     SummaryWriter* summaries = d.summaries;
     auto node = std::make_shared<SummaryNode>(std::move(n));
-    d.worker->defer([summaries, node] { summaries->write(*node); });
+    d.cell_out->defer([summaries, node] { summaries->write(*node); });
   }
 }
 
@@ -683,46 +684,49 @@ umts_sib_set* new_set() {
   return set;
 }
 
-/* A capture's cells on `jobs` threads, each worker with its own result set, record writer
-   and collection of cells; the summaries and the cells' order are kept on this thread. */
+/* A capture's cells on `jobs` threads, each cell with its own record writer and collection
+   of cells, each thread with its own result set; the summaries and the cells' order are kept
+   on this thread. */
 int run_parallel_capture(const Options& opt, FILE* in, const char* name, const Outputs& out, const std::string& prefix,
                          SummaryWriter& summaries, std::vector<const CellRecords*>& order, unsigned jobs) {
-  struct Worker {
-    umts_sib_set* set;
+  struct Cell {
     std::unique_ptr<JsonLines> json;
     std::unique_ptr<CellCollection> cells;
     std::unique_ptr<Dumper> dumper;
-    ~Worker() { umts_sib_set_free(set); }
   };
-  std::vector<std::unique_ptr<Worker>> workers;
-  auto make_feed = [&](WorkerOutput& wo) {
-    std::unique_ptr<Worker> w(new Worker);
-    w->set = new_set();
-    w->json.reset(new JsonLines(wo.records()));
-    w->json->gather_in(wo.records_buffer());
-    w->json->set_prefix(prefix);
-    w->dumper.reset(new Dumper(*w->json, name, w->set));
-    Dumper& d = *w->dumper;
-    d.messages = wo.messages();
-    d.text = out.text != nullptr ? wo.text() : nullptr;
+  std::vector<std::unique_ptr<Cell>> cells;
+  auto make_feed = [&](CellOutput& co) {
+    std::unique_ptr<Cell> c(new Cell);
+    c->json.reset(new JsonLines(co.records()));
+    c->json->gather_in(co.records_buffer());
+    c->json->set_prefix(prefix);
+    c->dumper.reset(new Dumper(*c->json, name, nullptr));
+    Dumper& d = *c->dumper;
+    d.messages = co.messages();
+    d.text = out.text != nullptr ? co.text() : nullptr;
     if (opt.summary != nullptr) {
-      w->cells.reset(new CellCollection);
-      d.cells = w->cells.get();
+      c->cells.reset(new CellCollection);
+      d.cells = c->cells.get();
       d.summaries = &summaries;
-      d.worker = &wo;
+      d.cell_out = &co;
       d.order = &order;
     }
-    std::unique_ptr<CellFeed> feed(new CellFeed(d.set, record_output(d), name, "frame", d.messages, d.text));
-    workers.push_back(std::move(w));
-    return feed;
+    CellDecoding decoding;
+    decoding.feed.reset(new CellFeed(nullptr, record_output(d), name, "frame", d.messages, d.text));
+    CellFeed* feed = decoding.feed.get();
+    decoding.use_set = [&d, feed](umts_sib_set* set) {
+      d.set = set;
+      feed->use_set(set);
+    };
+    cells.push_back(std::move(c));
+    return decoding;
   };
   int status;
   {
-    ParallelFeed feed(jobs, make_feed, out.json,
-                      out.text, out.messages, "frame");
+    ParallelFeed feed(jobs, make_feed, out.json, out.text, out.messages, "frame");
     status = run_capture(in, name, feed, out.messages);
   }
-  /* The cells live in the workers' collections. */
+  /* The cells live in the collections of their own. */
   if (opt.summary != nullptr) summaries.finish(order);
   return status;
 }
