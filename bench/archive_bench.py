@@ -12,6 +12,10 @@ The cluster times run from the first task submitted to the last result received;
 cluster is shown apart. Processor time per file counts this process and its children (the
 sibdump runs, the cluster's worker processes), less that of a run of no file on a cluster of
 the same size; it holds however busy the machine is, where the times do not. Needs the build tree's sibdump and mkcaptures (or SIBDUMP, MKCAPTURES).
+First it runs the task over 20 of the files on each processor alone, then on every processor
+at once, each process held on a processor of its own: the processors of a virtual machine need
+not be equal, nor as fast busy together as alone, and what N workers can do at most is the sum
+of their speeds at once, against 1 worker on the fastest alone.
 """
 import argparse
 import os
@@ -34,6 +38,28 @@ def cpu_seconds():
     worker processes once it is closed, the sibdump runs)."""
     return sum(r.ru_utime + r.ru_stime for r in (resource.getrusage(resource.RUSAGE_SELF),
                                                   resource.getrusage(resource.RUSAGE_CHILDREN)))
+
+
+def _files_per_second_on(cpu, files, queue):
+    os.sched_setaffinity(0, {cpu})  # sibdump, started from here, stays there too
+    start = time.perf_counter()
+    for f in files:
+        archive.decode_file(f)
+    queue.put((cpu, len(files) / (time.perf_counter() - start)))
+
+
+def processor_speeds(files, cpus):
+    """Files/s of the task on each of `cpus`, all of them busy at once."""
+    import multiprocessing
+    ctx = multiprocessing.get_context("fork")
+    queue = ctx.Queue()
+    runs = [ctx.Process(target=_files_per_second_on, args=(cpu, files, queue)) for cpu in cpus]
+    for r in runs:
+        r.start()
+    speeds = dict(queue.get() for _ in runs)
+    for r in runs:
+        r.join()
+    return speeds
 
 
 def empty_task(x):
@@ -64,6 +90,15 @@ def main():
             mkarchive.bench_folder(folder, args.files, args.cycles)
         files = archive.find_files([str(folder)])
         print(f"{os.cpu_count()} processors, load average {os.getloadavg()[0]:.1f} before the runs")
+        cpus = sorted(os.sched_getaffinity(0))
+        single = {}
+        for cpu in cpus:
+            single.update(processor_speeds(files[:20], [cpu]))
+        together = processor_speeds(files[:20], cpus)
+        print("the task on each processor alone: " + ", ".join(f"{cpu}: {single[cpu]:.1f}" for cpu in cpus) +
+              " files/s; on all at once: " + ", ".join(f"{cpu}: {together[cpu]:.1f}" for cpu in cpus) +
+              f" files/s; {len(cpus)} workers do at most {sum(together.values()) / max(single.values()):.2f}x"
+              " 1 worker on the fastest alone")
         start, cpu = time.perf_counter(), cpu_seconds()
         blocks = sum(archive.decode_file(f)["blocks"] for f in files)
         alone = time.perf_counter() - start

@@ -12,27 +12,33 @@ cells.csv, cells.jsonl, neighbours.csv, errors.csv, index.html and the summary p
 pages/. Each task's result is kept in DIR/results/ as it arrives; --resume skips the files
 whose result is there (same path, size and modification time).
 
-How a task reads its capture: it runs sibdump --summary=json --jobs 1 on the file, as a
-subprocess, and parses one JSON line per cell and configuration (one thread: the cluster's
-workers are the parallel part, a file each).
+How a task reads its capture: it runs sibdump's decoding of the file as
+`sibdump --summary=json --jobs 1 FILE` would, and parses one JSON line per cell and
+configuration (one thread: the cluster's workers are the parallel part, a file each). It runs
+it inside the worker process, through libsibdump.so (sibdump_run_file, the same code as the
+program, built and installed beside it), and as a sibdump process where that library is not
+found.
 
 - sibdump reads pcap and pcapng through libpcap and the hex text itself, and keeps each
   cell (sender and ARFCN) apart while it decodes. A reader in Python would take every frame's
   link, IP, UDP and GSMTAP headers apart and cross ctypes for every block, a Decoder per cell;
   in sibdump the whole file is decoded at the library's speed, and the task's Python only
   reads the few summary lines.
-- A damaged file cannot take a worker down with it: whatever happens inside sibdump is its
-  exit status and its messages, which go to errors.csv, and tasks of one worker can run on
-  threads side by side, sharing nothing.
-- The module stays installable: standard library and Dask; sibdump is installed with the
-  library (bin/ of the prefix) and found as below. The price is one process start per file,
-  some 30 ms of processor time (loading the library), where a reader in Python would pay
-  several microseconds per block through ctypes instead, for thousands of blocks a file
-  (bench/archive_bench.py measures a task and the cluster's cost beside it).
+- Inside the worker, not a process per file: a process start (loading the library and
+  libpcap with its eight libraries) cost more processor time than the file's decoding, and
+  on a virtual machine process starts on two processors at once take longer each than on one
+  alone, so that two workers did not get twice as far as one. A damaged file gives sibdump's
+  exit status and messages either way, which go to errors.csv; a worker that dies in a task
+  (the process with it) has the task run again by the cluster, which gives it up after
+  distributed.scheduler.allowed-failures and then lists it in errors.csv.
+- The module stays installable: standard library and Dask; sibdump and libsibdump.so are
+  installed with the library and found as below.
 
 sibdump is looked for in this order: the environment variable SIBDUMP; the build tree, when
 the module is used from the source tree (build/tools/sibdump/sibdump); the bin directory of
-the installation that this package belongs to; the PATH. A worker takes the one the client
+the installation that this package belongs to; the PATH. libsibdump.so is looked for beside
+the sibdump found (its directory, a build tree's, then ../lib, ../lib64 and ../lib/*/ of it,
+an installation's). A worker takes the one the client
 found when that file exists where the worker runs, and looks for its own the same way
 otherwise (its environment); each capture must be readable under the same path there. The
 tasks carry this module's functions with them (cloudpickle by value), so the workers of a
@@ -57,6 +63,7 @@ latest summary: the client keeps a few numbers per sighting, not the summaries o
 from __future__ import annotations
 
 import argparse
+import ctypes
 import csv
 import hashlib
 import html
@@ -193,24 +200,67 @@ def file_id(path: str) -> str:
     return f"{stem}-{hashlib.sha1(path.encode('utf-8', 'surrogateescape')).hexdigest()[:10]}"
 
 
-def decode_file(path: str, sibdump: Optional[str] = None) -> dict:
+LIBRARY_NAME = "libsibdump.so"
+
+
+def find_library(program: str) -> Optional[str]:
+    """libsibdump.so beside sibdump `program` (its directory, then the library directories of
+    the installation it is in), or None."""
+    here = Path(program).resolve().parent
+    places = [here, here.parent / "lib", here.parent / "lib64"] + sorted((here.parent / "lib").glob("*/"))
+    for place in places:
+        if (place / LIBRARY_NAME).is_file():
+            return str(place / LIBRARY_NAME)
+    return None
+
+
+def run_in_process(library: str, path: str) -> Tuple[int, bytes, bytes]:
+    """sibdump --summary=json --jobs 1 `path` through libsibdump.so in this process: the exit
+    status, standard output and standard error. ctypes lets other threads run meanwhile."""
+    lib = ctypes.CDLL(library)  # once per process: loading it again finds it loaded
+    run = lib.sibdump_run_file
+    run.restype = ctypes.c_int
+    run.argtypes = [ctypes.c_char_p, ctypes.c_char_p, ctypes.POINTER(ctypes.c_void_p), ctypes.POINTER(ctypes.c_size_t),
+                    ctypes.POINTER(ctypes.c_void_p), ctypes.POINTER(ctypes.c_size_t)]
+    lib.sibdump_free.restype = None
+    lib.sibdump_free.argtypes = [ctypes.c_void_p]
+    out, out_length = ctypes.c_void_p(), ctypes.c_size_t()
+    err, err_length = ctypes.c_void_p(), ctypes.c_size_t()
+    status = run(os.fsencode(path), b"json", ctypes.byref(out), ctypes.byref(out_length), ctypes.byref(err),
+                 ctypes.byref(err_length))
+    texts = [ctypes.string_at(p, n.value) if p.value else b"" for p, n in ((out, out_length), (err, err_length))]
+    lib.sibdump_free(out)
+    lib.sibdump_free(err)
+    return status, texts[0], texts[1]
+
+
+def decode_file(path: str, sibdump: Optional[str] = None, in_process: bool = True) -> dict:
     """The task of one file: its cells' summaries (sibdump --summary=json), with the file,
     its size and modification time, the times of its first and last frame, the blocks read,
-    and what went wrong ("error", None when nothing did). Never raises for a bad file."""
+    and what went wrong ("error", None when nothing did). Never raises for a bad file.
+    Decodes inside this process when libsibdump.so is found beside sibdump and `in_process`
+    holds, through a sibdump process otherwise."""
     result = {"file": path, "size": None, "mtime": None, "first_time": None, "last_time": None,
               "blocks": 0, "summaries": [], "error": None}
     try:
         st = os.stat(path)
         result["size"], result["mtime"] = st.st_size, st.st_mtime
         program = find_sibdump(sibdump)
-        # One thread: the cluster runs files side by side, one per worker thread.
-        run = subprocess.Popen([program, "--summary=json", "--jobs", "1", path], stdin=subprocess.DEVNULL,
-                               stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        library = find_library(program) if in_process else None
+        if library is None:
+            # One thread: the cluster runs files side by side, one per worker thread.
+            run = subprocess.Popen([program, "--summary=json", "--jobs", "1", path], stdin=subprocess.DEVNULL,
+                                   stdout=subprocess.PIPE, stderr=subprocess.PIPE)
     except OSError as err:  # no such file, no permission, no sibdump
         result["error"] = f"cannot read: {err.strerror}" if err.strerror else str(err)
         return result
-    result["first_time"], result["last_time"] = capture_times(path)  # while sibdump decodes
-    stdout, stderr = run.communicate()
+    if library is None:
+        result["first_time"], result["last_time"] = capture_times(path)  # while sibdump decodes
+        stdout, stderr = run.communicate()
+        returncode = run.returncode
+    else:
+        returncode, stdout, stderr = run_in_process(library, path)
+        result["first_time"], result["last_time"] = capture_times(path)
     stderr = stderr.decode("utf-8", "replace").splitlines()
     messages = [line for line in stderr if line.startswith("sibdump: ") and not _COUNT_LINE.match(line)]
     for line in stderr:
@@ -228,16 +278,16 @@ def decode_file(path: str, sibdump: Optional[str] = None) -> dict:
         if isinstance(summary, dict) and "identity" in summary:
             result["summaries"].append(summary)
     why = None
-    if run.returncode < 0:
-        why = f"sibdump ended by signal {-run.returncode}"
-    elif run.returncode != 0:
-        why = messages[0][len("sibdump: "):] if messages else f"sibdump exit status {run.returncode}"
+    if returncode < 0:
+        why = f"sibdump ended by signal {-returncode}"
+    elif returncode != 0:
+        why = messages[0][len("sibdump: "):] if messages else f"sibdump exit status {returncode}"
         if len(messages) > 1:
             why += f" (and {len(messages) - 1} more messages)"
     elif not result["summaries"]:
         why = "no system information of any cell in it"
     if why is not None:
-        if run.returncode == 1 and result["summaries"] and "kept" not in why:
+        if returncode == 1 and result["summaries"] and "kept" not in why:
             why += f"; the {len(result['summaries'])} cell summaries read are kept"
         result["error"] = why
     return result

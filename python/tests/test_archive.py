@@ -112,7 +112,9 @@ def test_resume_skips_the_files_done(runs):
 
 def test_a_lost_worker_has_its_task_run_again(runs):
     """The first sibdump run kills its worker process (SIGKILL to its parent): the cluster
-    runs the task again on the worker that replaces it, and nothing is lost."""
+    runs the task again on the worker that replaces it, and nothing is lost. No libsibdump.so
+    lies beside this sibdump, so every file goes through a sibdump process here, and the tables
+    are those of the runs that decoded inside the workers."""
     root = runs[0]
     killer = root / "sibdump_that_kills_its_worker"
     killer.write_text(f"#!/bin/sh\nif mkdir '{root}/killed' 2>/dev/null; then kill -9 $PPID; exit 1; fi\n"

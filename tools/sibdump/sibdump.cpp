@@ -905,6 +905,37 @@ int run_inputs(const Options& opt, const Outputs& out, unsigned jobs) {
 
 }  // namespace
 
+#ifdef SIBDUMP_LIBRARY
+/* sibdump over one input inside the calling process: the archive's tasks decode their files
+   this way, where a process started for each file cost more than the file's decoding. As
+   `sibdump [--summary=FORMAT] --jobs 1 PATH` (`summary` null: the records), with what it
+   writes on standard output gathered in *out and what it writes on standard error in *err,
+   each released with sibdump_free. Returns sibdump's exit status. Any thread, one input each. */
+extern "C" __attribute__((visibility("default"))) int sibdump_run_file(const char* path, const char* summary,
+                                                                      char** out, size_t* out_length, char** err,
+                                                                      size_t* err_length) {
+  *out = *err = nullptr;
+  *out_length = *err_length = 0;
+  FILE* json = open_memstream(out, out_length);
+  FILE* messages = open_memstream(err, err_length);
+  if (json == nullptr || messages == nullptr) {
+    if (json != nullptr) std::fclose(json);
+    if (messages != nullptr) std::fclose(messages);
+    return 2;
+  }
+  Options opt;
+  opt.inputs.push_back(path);
+  opt.jobs = 1;
+  opt.summary = summary;
+  const Outputs o{json, nullptr, messages};
+  int status = run_input(opt, path, o, "", false, 1);
+  if (std::fclose(json) != 0) status = 2;
+  std::fclose(messages);
+  return status;
+}
+
+extern "C" __attribute__((visibility("default"))) void sibdump_free(char* text) { std::free(text); }
+#else
 int main(int argc, char** argv) {
   Options opt;
   if (!parse_args(argc, argv, &opt)) {
@@ -972,3 +1003,4 @@ int main(int argc, char** argv) {
   }
   return status;
 }
+#endif
