@@ -317,6 +317,10 @@ bool parse_hex(const char* text, size_t length, uint8_t* out, size_t capacity, s
 class JsonLines {
  public:
   explicit JsonLines(FILE* out) : out_(out) { own_.reserve(kInitial); }
+  /* The lines go to the buffer at `*where` (which may change between lines) and stay there
+     for its owner to write: none of the stream's own (a megabyte, for each of a capture's
+     cells when they are decoded on several threads). */
+  explicit JsonLines(TextBuffer* const* where) : out_(nullptr), where_(where) {}
   JsonLines(const JsonLines&) = delete;
   JsonLines& operator=(const JsonLines&) = delete;
 
@@ -391,13 +395,6 @@ class JsonLines {
     put(head, static_cast<size_t>(p - head));
     put(name, std::strlen(name));
     put("\",\"record\":", 11);
-  }
-
-  /* The lines go to the buffer at `*where` (which may change between lines) and stay there
-     for its owner to write, instead of going to the stream. */
-  void gather_in(TextBuffer* const* where) {
-    where_ = where;
-    out_ = nullptr;
   }
 
   /* Everything gathered goes to the stream. */
@@ -697,8 +694,7 @@ int run_parallel_capture(const Options& opt, FILE* in, const char* name, const O
   std::vector<std::unique_ptr<Cell>> cells;
   auto make_feed = [&](CellOutput& co) {
     std::unique_ptr<Cell> c(new Cell);
-    c->json.reset(new JsonLines(co.records()));
-    c->json->gather_in(co.records_buffer());
+    c->json.reset(new JsonLines(co.records_buffer()));
     c->json->set_prefix(prefix);
     c->dumper.reset(new Dumper(*c->json, name, nullptr));
     Dumper& d = *c->dumper;
