@@ -77,16 +77,22 @@ unsigned long feed_frames(gsmtap::Link link, const uint8_t* data, size_t size, F
   return number;
 }
 
+/* The JSON of record `id` of `set` in `json` (grown as needed); returns its length. */
+size_t record_json(const umts_sib_set* set, unsigned id, std::vector<char>& json) {
+  size_t n = umts_sib_record_json(set, static_cast<umts_sib_id>(id), json.data(), json.size());
+  if (n >= json.size()) {
+    json.resize(n + 1);
+    n = umts_sib_record_json(set, static_cast<umts_sib_id>(id), json.data(), json.size());
+  }
+  return n;
+}
+
 /* A line per record that the last call converted into `set`: the head, then the record. */
 size_t json_lines(const umts_sib_set* set, const std::string& head, FILE* out, std::vector<char>& json) {
   size_t lines = 0;
   for (unsigned id = 0; id < umts_sib_count; id++) {
     if ((set->presence_bitmask >> id & 1u) == 0) continue;
-    size_t n = umts_sib_record_json(set, static_cast<umts_sib_id>(id), json.data(), json.size());
-    if (n >= json.size()) {
-      json.resize(n + 1);
-      n = umts_sib_record_json(set, static_cast<umts_sib_id>(id), json.data(), json.size());
-    }
+    const size_t n = record_json(set, id, json);
     std::fputs(head.c_str(), out);
     std::fwrite(json.data(), 1, n, out);
     std::fputc('\n', out);
@@ -177,11 +183,7 @@ std::string run_gsmtap(const uint8_t* data, size_t size) {
                         size_t lines = 0;
                         for (unsigned id = 0; id < umts_sib_count; id++) {
                           if ((set->presence_bitmask >> id & 1u) == 0) continue;
-                          size_t n = umts_sib_record_json(set, static_cast<umts_sib_id>(id), json.data(), json.size());
-                          if (n >= json.size()) {
-                            json.resize(n + 1);
-                            n = umts_sib_record_json(set, static_cast<umts_sib_id>(id), json.data(), json.size());
-                          }
+                          const size_t n = record_json(set, id, json);
                           if (n == 0 || json[0] != '{' || json[n - 1] != '}') problem = "record " + std::to_string(id) + ": not a JSON object";
                           lines++;
                         }
