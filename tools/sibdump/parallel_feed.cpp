@@ -397,11 +397,16 @@ void ParallelFeed::work_until(unsigned long room) {
     {
       std::unique_lock<std::mutex> lock(s.mutex);
       if (!take_unit(&batch, &unit)) {
-        /* Every unit left is being decoded, or waits for its cell: wait for one to be done. */
-        const unsigned long decoded = s.units_decoded;
-        s.caller_waits = true;
-        s.done.wait(lock, [&] { return s.units_decoded != decoded; });
-        s.caller_waits = false;
+        /* Every unit left is being decoded, or waits for its cell: wait for one to be done,
+           unless the oldest batch was done since it was last looked at (then nothing more
+           may be decoded before it is written out). */
+        const Shared::Batch& oldest = s.batch(s.written);
+        if (oldest.units_done < oldest.unit_count) {
+          const unsigned long decoded = s.units_decoded;
+          s.caller_waits = true;
+          s.done.wait(lock, [&] { return s.units_decoded != decoded; });
+          s.caller_waits = false;
+        }
         continue;
       }
     }
