@@ -884,7 +884,11 @@ SummaryNode cell_summary(const CellRecords& cell) {
 void CellCollection::take(const std::string& key, const std::string& label, const umts_sib_set* set,
                           std::vector<SummaryNode>* ended) {
   if (set->presence_bitmask == 0) return;
-  CellRecords& c = cell(key, label);
+  take(cell(key, label), set, ended);
+}
+
+void CellCollection::take(CellRecords& c, const umts_sib_set* set, std::vector<SummaryNode>* ended) {
+  if (set->presence_bitmask == 0) return;
   if (c.configuration_changes(set)) {
     SummaryNode n = cell_summary(c);
     /* Right after the cell's name: what ended this configuration. */

@@ -133,6 +133,8 @@ class CellCollection {
      tag ends the configuration collected so far: its summary, with what ended it, is added
      to `ended`, and the cell starts anew. */
   void take(const std::string& key, const std::string& label, const umts_sib_set* set, std::vector<SummaryNode>* ended);
+  /* The same into `cell`, a cell of this collection. */
+  void take(CellRecords& cell, const umts_sib_set* set, std::vector<SummaryNode>* ended);
   const std::vector<std::unique_ptr<CellRecords>>& cells() const { return cells_; }
 
  private:

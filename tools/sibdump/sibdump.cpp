@@ -438,6 +438,15 @@ struct Dumper {
      heard). */
   CellOutput* cell_out = nullptr;
   std::vector<const CellRecords*>* order = nullptr;
+  /* --summary of a capture: the cells of `cells` met last, by the members of the records'
+     head that name them ("source":...), found again without taking the head apart or
+     searching the collection (twice a frame). */
+  struct KnownCell {
+    std::string key;
+    CellRecords* records;
+  };
+  std::vector<KnownCell> known;
+  size_t known_next = 0;
 };
 
 /* Bits set in the set's presence_bitmask: the blocks the last call converted. */
@@ -445,12 +454,6 @@ size_t converted(const umts_sib_set* set) {
   size_t n = 0;
   for (uint32_t i = 0; i < umts_sib_count; i++) n += (set->presence_bitmask >> i) & 1u;
   return n;
-}
-
-/* The cell of a capture line's members: what follows "source" ("...","arfcn":N). */
-std::string cell_key(const std::string& head) {
-  const size_t at = head.find("\"source\":");
-  return at == std::string::npos ? std::string() : head.substr(at);
 }
 
 /* "source 127.0.0.1, ARFCN 10700" from the key. */
@@ -462,26 +465,57 @@ std::string cell_label(const std::string& key) {
   return "source " + key.substr(s + 2, e - s - 2) + ", ARFCN " + key.substr(a + 8);
 }
 
-/* The records of the last call join the cell's; a MIB with a new value tag first ends the
-   configuration collected so far, whose summary is written then. */
-void collect(Dumper& d, const std::string& key, const std::string& label) {
+/* The records of the last call join `cell`'s (`created` by this call or not); a MIB with a
+   new value tag first ends the configuration collected so far, whose summary is written then. */
+void collect_into(Dumper& d, CellRecords& cell, bool created) {
   std::vector<SummaryNode> ended;
-  const size_t cells_before = d.cells->cells().size();
-  d.cells->take(key, label, d.set, &ended);
+  d.cells->take(cell, d.set, &ended);
   if (d.cell_out == nullptr) {
     for (const SummaryNode& n : ended) d.summaries->write(n);
     return;
   }
-  if (d.cells->cells().size() != cells_before) {
-    const CellRecords* cell = d.cells->cells().back().get();
+  if (created) {
+    const CellRecords* c = &cell;
     std::vector<const CellRecords*>* order = d.order;
-    d.cell_out->defer([order, cell] { order->push_back(cell); });
+    d.cell_out->defer([order, c] { order->push_back(c); });
   }
   for (SummaryNode& n : ended) {
     SummaryWriter* summaries = d.summaries;
     auto node = std::make_shared<SummaryNode>(std::move(n));
     d.cell_out->defer([summaries, node] { summaries->write(*node); });
   }
+}
+
+/* The same into the cell of `key`, made with `label` the first time. */
+void collect(Dumper& d, const std::string& key, const std::string& label) {
+  if (d.set->presence_bitmask == 0) return;
+  const size_t before = d.cells->cells().size();
+  CellRecords& cell = d.cells->cell(key, label);
+  collect_into(d, cell, d.cells->cells().size() != before);
+}
+
+/* The cell that a capture line's head names (its members from "source" on); one that the
+   collection does not have yet is made when `create` holds (`*created` says so), null
+   otherwise. */
+CellRecords* cell_of_head(Dumper& d, const std::string& head, bool create, bool* created) {
+  const size_t at = head.find("\"source\":");
+  const size_t from = at == std::string::npos ? head.size() : at;
+  const size_t length = head.size() - from;
+  for (const Dumper::KnownCell& k : d.known)
+    if (k.key.size() == length && head.compare(from, length, k.key) == 0) return k.records;
+  const std::string key = head.substr(from);
+  if (!create && !d.cells->has(key)) return nullptr;
+  const size_t before = d.cells->cells().size();
+  CellRecords* cell = &d.cells->cell(key, cell_label(key));
+  if (created != nullptr) *created = d.cells->cells().size() != before;
+  constexpr size_t kKnown = 16;
+  if (d.known.size() < kKnown) {
+    d.known.push_back(Dumper::KnownCell{key, cell});
+  } else {
+    d.known[d.known_next] = Dumper::KnownCell{key, cell};
+    d.known_next = (d.known_next + 1) % kKnown;
+  }
+  return cell;
 }
 
 void bad_line(Dumper& d, unsigned long line, const char* why) {
@@ -531,8 +565,11 @@ void write_records(Dumper& d, unsigned long line) {
    Returns the number of lines. */
 size_t write_records(Dumper& d, const std::string& head) {
   if (d.cells != nullptr) {
-    const std::string key = cell_key(head);
-    collect(d, key, cell_label(key));
+    if (d.set->presence_bitmask != 0) {
+      bool created = false;
+      CellRecords* cell = cell_of_head(d, head, true, &created);
+      collect_into(d, *cell, created);
+    }
     d.counts.records += converted(d.set);
     return converted(d.set);
   }
@@ -552,11 +589,10 @@ RecordOutput record_output(Dumper& d) {
   RecordOutput output{[&d](const std::string& head) { return write_records(d, head); }, nullptr};
   if (d.cells != nullptr)
     output.block = [&d](const std::string& head, const uint8_t* block, size_t length, const umts_decoder_ctxt* state) {
-      const std::string key = cell_key(head);
-      if (!d.cells->has(key)) return;
-      CellRecords& cell = d.cells->cell(key, cell_label(key));
-      cell.take_block(block, length);
-      cell.take_collection(state);
+      CellRecords* cell = cell_of_head(d, head, false, nullptr);
+      if (cell == nullptr) return;
+      cell->take_block(block, length);
+      cell->take_collection(state);
     };
   return output;
 }
