@@ -128,7 +128,7 @@ std::string compare_threads(gsmtap::Link link, const uint8_t* data, size_t size)
   umts_sib_set* set = feedRecord();
   std::vector<char> json(1 << 16);
   {
-    CellFeed feed(set, RecordOutput{[&](const std::string& head) { return json_lines(set, head, records[0].stream, json); },
+    CellFeed feed(set, RecordOutput{[&](const std::string& head, const CellKey&) { return json_lines(set, head, records[0].stream, json); },
                                     nullptr},
                   "fuzz", "frame", messages[0].stream);
     feed.summary(messages[0].stream, feed_frames(link, data, size, feed, &problem));
@@ -144,7 +144,7 @@ std::string compare_threads(gsmtap::Link link, const uint8_t* data, size_t size)
     FILE* lines = out.records();
     CellDecoding decoding;
     decoding.feed.reset(new CellFeed(
-        nullptr, RecordOutput{[c, lines](const std::string& head) { return json_lines(c->set, head, lines, c->json); }, nullptr},
+        nullptr, RecordOutput{[c, lines](const std::string& head, const CellKey&) { return json_lines(c->set, head, lines, c->json); }, nullptr},
         "fuzz", "frame", out.messages()));
     CellFeed* feed = decoding.feed.get();
     decoding.use_set = [c, feed](umts_sib_set* s) {
@@ -179,7 +179,7 @@ std::string run_gsmtap(const uint8_t* data, size_t size) {
   if (summary == nullptr) return "";
   // Every record that a datagram completes is written as sibdump writes it, so that the JSON
   // of whatever the conversions left in the record is made too.
-  RecordOutput output{[&](const std::string& head) {
+  RecordOutput output{[&](const std::string& head, const CellKey&) {
                         size_t lines = 0;
                         for (unsigned id = 0; id < umts_sib_count; id++) {
                           if ((set->presence_bitmask >> id & 1u) == 0) continue;
@@ -191,7 +191,8 @@ std::string run_gsmtap(const uint8_t* data, size_t size) {
                         return lines;
                       },
                       nullptr};
-  output.block = [&](const std::string& head, const uint8_t* block, size_t length, const umts_decoder_ctxt* state) {
+  output.block = [&](const std::string& head, const CellKey&, const uint8_t* block, size_t length,
+                     const umts_decoder_ctxt* state) {
     if (umts_summary_take(summary, head.c_str(), "fuzz", noRecords(), block, length) < 0) problem = "summary refused a block";
     umts_summary_take_collection(summary, head.c_str(), state);
   };

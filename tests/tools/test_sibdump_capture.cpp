@@ -277,7 +277,7 @@ InProcess read_in_process(const std::string& name, Bytes file) {
   size_t text_size = 0;
   FILE* messages = open_memstream(&text, &text_size);
   if (in == nullptr || messages == nullptr || set == nullptr || discard == nullptr) return r;
-  RecordOutput output{[&r](const std::string&) {
+  RecordOutput output{[&r](const std::string&, const CellKey&) {
                         const size_t n = std::bitset<32>(set->presence_bitmask).count();
                         r.records += n;
                         return n;

@@ -132,8 +132,8 @@ void CellFeed::datagram(unsigned long number, uint64_t time_us, const gsmtap::Da
   head.append(d.source);
   head.append("\",\"arfcn\":");
   head.append(arfcn_text, std::to_chars(arfcn_text, arfcn_text + sizeof arfcn_text, arfcn).ptr);
-  cell.counts.records += output_.write(head);
-  if (block && output_.block) output_.block(head, data, length, umts_sib_decoder_state(cell.decoder));
+  cell.counts.records += output_.write(head, *last_key_);
+  if (block && output_.block) output_.block(head, *last_key_, data, length, umts_sib_decoder_state(cell.decoder));
 }
 
 void CellFeed::decode(Cell& cell, bool transport_block, int sib_id, const uint8_t* data, size_t length) {

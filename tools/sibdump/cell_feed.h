@@ -17,16 +17,22 @@
 #include "gsmtap.h"
 #include "umts_sib_decoder.h"
 
+/* A cell: the source address and the ARFCN. */
+using CellKey = std::pair<std::string, uint16_t>;
+
 /* Where the records go: `write` writes one JSON line per sub-record whose presence bit the
    last call set, each starting with `head` (JSON members, without braces), and returns how
-   many it wrote; `flush` writes out what is gathered (the live input calls it whenever the
-   socket goes quiet), or is empty. */
+   many it wrote; `cell` is the frame's cell, the same object for every frame of that cell
+   while the feed lives (an output may know the cell again by its address). `flush` writes
+   out what is gathered (the live input calls it whenever the socket goes quiet), or is
+   empty. */
 struct RecordOutput {
-  std::function<size_t(const std::string& head)> write;
+  std::function<size_t(const std::string& head, const CellKey& cell)> write;
   std::function<void()> flush;
-  /* Each transport block after its records, with the same head and the state of the cell's
-     decoder (the SIBs in collection); may be empty. */
-  std::function<void(const std::string& head, const uint8_t* block, size_t length, const umts_decoder_ctxt* state)>
+  /* Each transport block after its records, with the same head and cell and the state of the
+     cell's decoder (the SIBs in collection); may be empty. */
+  std::function<void(const std::string& head, const CellKey& cell, const uint8_t* block, size_t length,
+                     const umts_decoder_ctxt* state)>
       block = nullptr;
 };
 
@@ -47,9 +53,6 @@ struct CellCounts {
     return *this;
   }
 };
-
-/* A cell: the source address and the ARFCN. */
-using CellKey = std::pair<std::string, uint16_t>;
 
 /* What reads frames hands them to: a CellFeed, or several through ParallelFeed. */
 class FrameSink {

@@ -12,6 +12,7 @@
 #include <memory>
 #include <mutex>
 #include <thread>
+#include <unordered_map>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -438,15 +439,8 @@ struct Dumper {
      heard). */
   CellOutput* cell_out = nullptr;
   std::vector<const CellRecords*>* order = nullptr;
-  /* --summary of a capture: the cells of `cells` met last, by the members of the records'
-     head that name them ("source":...), found again without taking the head apart or
-     searching the collection (twice a frame). */
-  struct KnownCell {
-    std::string key;
-    CellRecords* records;
-  };
-  std::vector<KnownCell> known;
-  size_t known_next = 0;
+  /* --summary of a capture: each cell's records in `cells`, by the feed's object of the cell. */
+  std::unordered_map<const CellKey*, CellRecords*> cell_records;
 };
 
 /* Bits set in the set's presence_bitmask: the blocks the last call converted. */
@@ -454,15 +448,6 @@ size_t converted(const umts_sib_set* set) {
   size_t n = 0;
   for (uint32_t i = 0; i < umts_sib_count; i++) n += (set->presence_bitmask >> i) & 1u;
   return n;
-}
-
-/* "source 127.0.0.1, ARFCN 10700" from the key. */
-std::string cell_label(const std::string& key) {
-  const size_t s = key.find(":\"");
-  const size_t e = s == std::string::npos ? s : key.find('"', s + 2);
-  const size_t a = key.find("\"arfcn\":");
-  if (s == std::string::npos || e == std::string::npos || a == std::string::npos) return key;
-  return "source " + key.substr(s + 2, e - s - 2) + ", ARFCN " + key.substr(a + 8);
 }
 
 /* The records of the last call join `cell`'s (`created` by this call or not); a MIB with a
@@ -494,28 +479,18 @@ void collect(Dumper& d, const std::string& key, const std::string& label) {
   collect_into(d, cell, d.cells->cells().size() != before);
 }
 
-/* The cell that a capture line's head names (its members from "source" on); one that the
-   collection does not have yet is made when `create` holds (`*created` says so), null
-   otherwise. */
-CellRecords* cell_of_head(Dumper& d, const std::string& head, bool create, bool* created) {
-  const size_t at = head.find("\"source\":");
-  const size_t from = at == std::string::npos ? head.size() : at;
-  const size_t length = head.size() - from;
-  for (const Dumper::KnownCell& k : d.known)
-    if (k.key.size() == length && head.compare(from, length, k.key) == 0) return k.records;
-  const std::string key = head.substr(from);
-  if (!create && !d.cells->has(key)) return nullptr;
+/* The records of a capture's cell in the collection; one that the collection does not have
+   yet is made when `create` holds ("source 127.0.0.1, ARFCN 10700"), null otherwise. */
+CellRecords* records_of(Dumper& d, const CellKey& cell, bool create, bool* created) {
+  const auto known = d.cell_records.find(&cell);
+  if (known != d.cell_records.end()) return known->second;
+  if (!create) return nullptr;
+  const std::string arfcn = std::to_string(cell.second);
   const size_t before = d.cells->cells().size();
-  CellRecords* cell = &d.cells->cell(key, cell_label(key));
-  if (created != nullptr) *created = d.cells->cells().size() != before;
-  constexpr size_t kKnown = 16;
-  if (d.known.size() < kKnown) {
-    d.known.push_back(Dumper::KnownCell{key, cell});
-  } else {
-    d.known[d.known_next] = Dumper::KnownCell{key, cell};
-    d.known_next = (d.known_next + 1) % kKnown;
-  }
-  return cell;
+  CellRecords* records = &d.cells->cell(cell.first + '/' + arfcn, "source " + cell.first + ", ARFCN " + arfcn);
+  *created = d.cells->cells().size() != before;
+  d.cell_records.emplace(&cell, records);
+  return records;
 }
 
 void bad_line(Dumper& d, unsigned long line, const char* why) {
@@ -563,12 +538,12 @@ void write_records(Dumper& d, unsigned long line) {
 
 /* The same, each line starting with the members `head` (a capture's frame, time and cell).
    Returns the number of lines. */
-size_t write_records(Dumper& d, const std::string& head) {
+size_t write_records(Dumper& d, const std::string& head, const CellKey& cell) {
   if (d.cells != nullptr) {
     if (d.set->presence_bitmask != 0) {
       bool created = false;
-      CellRecords* cell = cell_of_head(d, head, true, &created);
-      collect_into(d, *cell, created);
+      CellRecords* records = records_of(d, cell, true, &created);
+      collect_into(d, *records, created);
     }
     d.counts.records += converted(d.set);
     return converted(d.set);
@@ -586,13 +561,15 @@ size_t write_records(Dumper& d, const std::string& head) {
 
 /* Where a capture's records go (and, with a summary, its blocks). */
 RecordOutput record_output(Dumper& d) {
-  RecordOutput output{[&d](const std::string& head) { return write_records(d, head); }, nullptr};
+  RecordOutput output{[&d](const std::string& head, const CellKey& cell) { return write_records(d, head, cell); },
+                      nullptr};
   if (d.cells != nullptr)
-    output.block = [&d](const std::string& head, const uint8_t* block, size_t length, const umts_decoder_ctxt* state) {
-      CellRecords* cell = cell_of_head(d, head, false, nullptr);
-      if (cell == nullptr) return;
-      cell->take_block(block, length);
-      cell->take_collection(state);
+    output.block = [&d](const std::string&, const CellKey& cell, const uint8_t* block, size_t length,
+                        const umts_decoder_ctxt* state) {
+      CellRecords* records = records_of(d, cell, false, nullptr);
+      if (records == nullptr) return;
+      records->take_block(block, length);
+      records->take_collection(state);
     };
   return output;
 }
