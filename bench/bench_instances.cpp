@@ -84,30 +84,43 @@ void BM_Road_Instances_OnThreads(benchmark::State& state) {
 }
 BENCHMARK(BM_Road_Instances_OnThreads)->Threads(1)->Threads(2)->ThreadPerCpu()->UseRealTime();
 
-// The same with thread i held on the i-th processor: each processor's own speed, all of them
-// busy at once (ns_cpuN: nanoseconds a block on processor N). What N threads can do at most
-// is the sum of these speeds: the processors of a virtual machine need not be equal (on the
-// 2-processor machine of the README's figures one ran the road 1.5 times slower than the
-// other at any moment, by the host's doing, and ran plain arithmetic as fast).
-void BM_Road_Instances_EachProcessor(benchmark::State& state) {
+// The processors this process may run on.
+std::vector<int> processors() {
   cpu_set_t allowed;
   CPU_ZERO(&allowed);
   sched_getaffinity(0, sizeof allowed, &allowed);
-  int cpu = -1;
-  for (int seen = -1; seen < state.thread_index();) {
-    cpu++;
-    if (CPU_ISSET(cpu, &allowed)) seen++;
-  }
+  std::vector<int> cpus;
+  for (int cpu = 0; cpu < CPU_SETSIZE; cpu++)
+    if (CPU_ISSET(cpu, &allowed)) cpus.push_back(cpu);
+  return cpus;
+}
+
+// Holds the calling thread (and what it starts) on `cpu`.
+void hold_on(int cpu) {
   cpu_set_t one;
   CPU_ZERO(&one);
   CPU_SET(cpu, &one);
   sched_setaffinity(0, sizeof one, &one);
+}
+
+// The same with thread i held on the i-th processor: each processor's own speed, all of them
+// busy at once (ns_cpuN: nanoseconds a block on processor N). What N threads can do at most
+// is the sum of these speeds: the processors of a virtual machine need not be equal (on the
+// 2-processor machine of docs/speed.md one ran the road 1.5 times slower than the other at
+// any moment, by the host's doing, and ran plain arithmetic as fast).
+void BM_Road_Instances_EachProcessor(benchmark::State& state) {
+  const std::vector<int> cpus = processors();
+  const int cpu = cpus[static_cast<size_t>(state.thread_index()) % cpus.size()];
+  hold_on(cpu);
   umts_sib_decoder_t* d = umts_sib_decoder_new();
   double ns = 0;
   road(state, d, &ns);
   state.counters["ns_cpu" + std::to_string(cpu)] = ns;
   umts_sib_decoder_free(d);
-  sched_setaffinity(0, sizeof allowed, &allowed);
+  cpu_set_t all;
+  CPU_ZERO(&all);
+  for (const int c : cpus) CPU_SET(c, &all);
+  sched_setaffinity(0, sizeof all, &all);
 }
 BENCHMARK(BM_Road_Instances_EachProcessor)->ThreadPerCpu()->UseRealTime();
 
@@ -163,40 +176,35 @@ BENCHMARK(BM_Sibdump_EightCells)->Arg(1)->Arg(2)->UseRealTime()->Unit(benchmark:
 // --jobs 1 on the fastest processor as the sum of the processors' speeds allows.
 void BM_Sibdump_EightCells_EachProcessor(benchmark::State& state) {
   const std::string cmd = std::string("'") + SIBDUMP_PATH + "' --jobs 1 '" + eight_cell_capture() + "' >/dev/null 2>&1";
-  cpu_set_t allowed;
-  CPU_ZERO(&allowed);
-  sched_getaffinity(0, sizeof allowed, &allowed);
-  std::vector<double> ms(CPU_SETSIZE, 0.0);
+  const std::vector<int> cpus = processors();
+  std::vector<double> ms(cpus.size(), 0.0);
+  bool failed = false;
   for (auto _ : state) {
     const auto start = std::chrono::steady_clock::now();
-    std::vector<std::pair<pid_t, int>> runs;
-    for (int cpu = 0; cpu < CPU_SETSIZE; cpu++) {
-      if (!CPU_ISSET(cpu, &allowed)) continue;
+    std::vector<pid_t> runs;
+    for (const int cpu : cpus) {
       const pid_t pid = fork();
       if (pid == 0) {
-        cpu_set_t one;
-        CPU_ZERO(&one);
-        CPU_SET(cpu, &one);
-        sched_setaffinity(0, sizeof one, &one);
+        hold_on(cpu);
         execl("/bin/sh", "sh", "-c", cmd.c_str(), static_cast<char*>(nullptr));
         _exit(127);
       }
-      runs.emplace_back(pid, cpu);
+      runs.push_back(pid);
     }
     for (size_t left = runs.size(); left > 0; left--) {
       int status = 0;
       const pid_t pid = wait(&status);
-      if (pid < 0 || !WIFEXITED(status) || WEXITSTATUS(status) != 0) {
-        state.SkipWithError("sibdump failed (built without capture input?)");
-        return;
-      }
-      for (const auto& r : runs)
-        if (r.first == pid)
-          ms[r.second] += std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+      failed = failed || pid < 0 || !WIFEXITED(status) || WEXITSTATUS(status) != 0;
+      for (size_t k = 0; k < runs.size(); k++)
+        if (runs[k] == pid) ms[k] += std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+    }
+    if (failed) {
+      state.SkipWithError("sibdump failed (built without capture input?)");
+      return;
     }
   }
-  for (int cpu = 0; cpu < CPU_SETSIZE; cpu++)
-    if (CPU_ISSET(cpu, &allowed)) state.counters["ms_cpu" + std::to_string(cpu)] = ms[cpu] / static_cast<double>(state.iterations());
+  for (size_t k = 0; k < cpus.size(); k++)
+    state.counters["ms_cpu" + std::to_string(cpus[k])] = ms[k] / static_cast<double>(state.iterations());
 }
 BENCHMARK(BM_Sibdump_EightCells_EachProcessor)->UseRealTime()->Unit(benchmark::kMillisecond)->Iterations(3);
 
