@@ -10,7 +10,7 @@ the project's capture writer; each cell's cycle CYCLES times), then times:
   2 workers     the same with two
 The cluster times run from the first task submitted to the last result received; starting the
 cluster is shown apart. Processor time per file counts this process and its children (the
-sibdump runs, the cluster's worker processes), less that of a run of no file on a cluster of
+cluster's worker processes, and sibdump runs where libsibdump.so is not found), less that of a run of no file on a cluster of
 the same size; it holds however busy the machine is, where the times do not. Needs the build tree's sibdump and mkcaptures (or SIBDUMP, MKCAPTURES).
 First it runs the task over 20 of the files on each processor alone, then on every processor
 at once, each process held on a processor of its own: the processors of a virtual machine need
