@@ -2,6 +2,7 @@
  * sibdump's capture input: pcap and pcapng files of GSMTAP over UDP, read through libpcap,
  * on Ethernet, Linux cooked capture (v1, v2) or raw IP.
  */
+#include <stdio_ext.h>
 #include <sys/stat.h>
 
 #include <algorithm>
@@ -77,7 +78,12 @@ FILE* peek_input(FILE* in, const char* name, bool* is_capture) {
   if (f == nullptr) {
     std::fprintf(stderr, "sibdump: cannot read '%s': %s\n", name, std::strerror(errno));
     peeked_close(p);
+    return nullptr;
   }
+  /* One thread reads a file: the stream's lock, taken at each of its small reads once the
+     process has threads (--jobs), protects nothing. */
+  __fsetlocking(in, FSETLOCKING_BYCALLER);
+  __fsetlocking(f, FSETLOCKING_BYCALLER);
   return f;
 }
 

@@ -93,36 +93,48 @@ CellOutput::~CellOutput() {
 struct ParallelFeed::Cell {
   std::unique_ptr<CellOutput> out;
   CellDecoding decoding;
-  /* Under the mutex: whether a thread is decoding the cell, and the last search for a unit
-     that found the cell busy or with a unit not taken. */
-  bool busy = false;
+  /* Under the mutex: whether a thread is decoding the cell, the last search for a unit that
+     passed the cell over, the thread that decoded it last. Apart from the calling thread's
+     fields below: what one processor writes often lies in a cache line of its own. */
+  alignas(64) bool busy = false;
   unsigned long passed = 0;
+  unsigned thread = 0;
   /* The calling thread's: the batch whose unit of this cell is being gathered, and its place. */
-  unsigned long gathering = ULONG_MAX;
+  alignas(64) unsigned long gathering = ULONG_MAX;
   size_t unit = 0;
   /* The calling thread's, while it writes a batch out: the cell's frames written, where its
      buffers were written up to (its records alone, in a batch of records only), its
      deferred actions run. */
   size_t written = 0, deferred_run = 0, records_written = 0;
   const CellOutput::Ends* at = nullptr;
+  const std::string* source = nullptr; /* the sender of the cell's frames (none: the frames of no cell) */
 };
 
+/* A frame, in its unit. */
 struct ParallelFeed::Item {
-  enum Kind { kDatagram, kBad } kind;
+  enum Kind : uint8_t { kDatagram, kBad } kind;
+  uint16_t source_port, destination_port;
+  uint32_t place;          /* in the batch */
+  uint32_t offset, length; /* the datagram's octets in the unit's arena */
+  uint32_t text;           /* in the unit's texts: the sender (kOwnSource: the cell's), or for kBad the message */
   unsigned long number;
   uint64_t time_us;
-  Cell* cell;
-  size_t offset, length; /* the datagram's octets in the batch's arena */
-  std::string source;    /* the sender; for kBad the message */
-  uint16_t source_port, destination_port;
 };
 
-/* A batch's frames of one cell, by their places in the batch. */
+/* A batch's frames of one cell, and their octets, one after the other: the thread that
+   decodes them reads them in the order they lie, rather than picking them out of the
+   batch's frames of every cell. */
 struct ParallelFeed::Unit {
   Cell* cell = nullptr;
-  std::vector<uint32_t> frames;
-  bool taken = false; /* under the mutex */
+  std::vector<Item> items;
+  std::vector<uint8_t> arena;
+  std::vector<std::string> texts; /* for the frames of no cell */
+  bool taken = false;             /* under the mutex */
 };
+
+namespace {
+constexpr uint32_t kOwnSource = UINT32_MAX;
+}
 
 struct ParallelFeed::Shared {
   unsigned threads = 1;
@@ -148,22 +160,21 @@ struct ParallelFeed::Shared {
   std::vector<Recent> recent;
   size_t recent_next = 0;
 
-  /* A batch: its frames, its units (the first `unit_count` of `units`, kept with their room
-     from batch to batch), the datagrams' octets. The threads only read it, but for the units'
-     and the batch's counts under the mutex. */
-  struct Batch {
-    std::vector<Item> items;
+  /* A batch: its units (the first `unit_count` of `units`, kept with their room from batch
+     to batch) and the unit of each frame, in the order of the frames. The threads only read
+     it, but for the units' and the batch's counts under the mutex. */
+  struct alignas(64) Batch {
+    std::vector<uint32_t> order;
     std::vector<Unit> units;
     size_t unit_count = 0;
     size_t first_open = 0; /* the units before it are taken (under the mutex) */
     size_t units_done = 0; /* under the mutex */
-    std::vector<uint8_t> arena;
   };
   Batch batches[kParallelBatches]; /* batch number n lies at n % kParallelBatches */
   std::vector<iovec> pieces;       /* write_records_only's list, kept for its room */
 
   std::vector<std::thread> pool;
-  std::mutex mutex;
+  alignas(64) std::mutex mutex;
   std::condition_variable work, done;
   /* Batch numbers, counted from the first: those handed to the threads, the first with a unit
      not taken (both under the mutex), those written out (by the calling thread). The batch
@@ -208,7 +219,7 @@ ParallelFeed::ParallelFeed(unsigned workers, const std::function<CellDecoding(Ce
     }
     s.sets.push_back(set);
   }
-  for (Shared::Batch& b : s.batches) b.items.reserve(kBatchFrames);
+  for (Shared::Batch& b : s.batches) b.order.reserve(kBatchFrames);
   /* The calling thread is one of the threads: N jobs are N threads on N processors. */
   for (unsigned t = 1; t < s.threads; t++) {
     s.pool.emplace_back([this, t] {
@@ -218,7 +229,7 @@ ParallelFeed::ParallelFeed(unsigned workers, const std::function<CellDecoding(Ce
         size_t unit;
         {
           std::unique_lock<std::mutex> lock(sh.mutex);
-          while (!take_unit(&batch, &unit)) {
+          while (!take_unit(t, &batch, &unit)) {
             if (sh.stop) return;
             sh.idle++;
             sh.work.wait(lock);
@@ -257,7 +268,7 @@ ParallelFeed::Cell* ParallelFeed::cell_of(const std::string& source, uint16_t ar
     c = it->second;
   } else {
     c = s.new_cell();
-    s.by_key.emplace(key, c);
+    c->source = &s.by_key.emplace(key, c).first->first.first;
   }
   if (s.recent.size() < kRecent) {
     s.recent.push_back(Shared::Recent{std::move(key), c});
@@ -268,19 +279,25 @@ ParallelFeed::Cell* ParallelFeed::cell_of(const std::string& source, uint16_t ar
   return c;
 }
 
-void ParallelFeed::add(Item&& item) {
+ParallelFeed::Unit& ParallelFeed::unit_of(Cell* c) {
   Shared& s = *shared_;
   Shared::Batch& b = s.batch(s.handed);
-  Cell* c = item.cell;
   if (c->gathering != s.handed) {
     c->gathering = s.handed;
     c->unit = b.unit_count++;
     if (b.units.size() < b.unit_count) b.units.emplace_back();
     b.units[c->unit].cell = c;
   }
-  b.units[c->unit].frames.push_back(static_cast<uint32_t>(b.items.size()));
-  b.items.push_back(std::move(item));
-  if (b.items.size() >= kBatchFrames) next_batch();
+  return b.units[c->unit];
+}
+
+void ParallelFeed::add(Unit& unit, const Item& item) {
+  Shared& s = *shared_;
+  Shared::Batch& b = s.batch(s.handed);
+  unit.items.push_back(item);
+  unit.items.back().place = static_cast<uint32_t>(b.order.size());
+  b.order.push_back(unit.cell->unit);
+  if (b.order.size() >= kBatchFrames) next_batch();
 }
 
 void ParallelFeed::datagram(unsigned long number, uint64_t time_us, const gsmtap::Datagram& d) {
@@ -293,29 +310,54 @@ void ParallelFeed::datagram(unsigned long number, uint64_t time_us, const gsmtap
   Cell* cell = s.no_cell;
   if (gsmtap::parse_header(d.payload, d.length, &h, &message_at, &why))
     cell = cell_of(d.source, gsmtap::arfcn_number(h.arfcn));
-  std::vector<uint8_t>& arena = s.batch(s.handed).arena;
-  const size_t offset = arena.size();
-  arena.insert(arena.end(), d.payload, d.payload + d.length);
-  add(Item{Item::kDatagram, number, time_us, cell, offset, d.length, d.source, d.source_port, d.destination_port});
+  Unit& unit = unit_of(cell);
+  uint32_t text = kOwnSource;
+  if (cell->source == nullptr) {
+    text = static_cast<uint32_t>(unit.texts.size());
+    unit.texts.push_back(d.source);
+  }
+  const size_t offset = unit.arena.size();
+  unit.arena.insert(unit.arena.end(), d.payload, d.payload + d.length);
+  add(unit, Item{Item::kDatagram, d.source_port, d.destination_port, 0, static_cast<uint32_t>(offset),
+                 static_cast<uint32_t>(d.length), text, number, time_us});
 }
 
 void ParallelFeed::not_gsmtap() { shared_->not_gsmtap++; }
 
 void ParallelFeed::bad(unsigned long number, const std::string& why) {
-  add(Item{Item::kBad, number, 0, shared_->no_cell, 0, 0, why, 0, 0});
+  Unit& unit = unit_of(shared_->no_cell);
+  unit.texts.push_back(why);
+  add(unit, Item{Item::kBad, 0, 0, 0, 0, 0, static_cast<uint32_t>(unit.texts.size() - 1), number, 0});
 }
 
 void ParallelFeed::finish() {
   Shared& s = *shared_;
-  if (!s.batch(s.handed).items.empty()) next_batch();
+  if (!s.batch(s.handed).order.empty()) next_batch();
   work_until(1);
 }
 
-bool ParallelFeed::take_unit(unsigned long* batch, size_t* unit) {
+bool ParallelFeed::take_unit(unsigned thread, unsigned long* batch, size_t* unit) {
   Shared& s = *shared_;
-  /* A cell passed over in this search (busy, or with a unit not taken) is not taken from a
-     later batch either. */
+  auto take = [&](unsigned long n, size_t u) {
+    Shared::Batch& b = s.batch(n);
+    Unit& taken = b.units[u];
+    taken.taken = true;
+    taken.cell->busy = true;
+    taken.cell->thread = thread;
+    while (b.first_open < b.unit_count && b.units[b.first_open].taken) b.first_open++;
+    while (s.open < s.handed && s.batch(s.open).first_open == s.batch(s.open).unit_count) s.open++;
+    *batch = n;
+    *unit = u;
+    return true;
+  };
+  /* A cell passed over in this search (busy, with a unit not taken, or one that may be
+     taken but not the thread's own) is not taken from a later batch either. A thread keeps
+     to the cells it decoded last while it finds one of them: a cell's state lies in the
+     cache of the processor that decoded it, and fetching it from the other costs more than
+     decoding a unit's frames. With none of its own, it takes the first that may be taken. */
   const unsigned long search = ++s.searches;
+  unsigned long first_batch = 0;
+  size_t first_unit = SIZE_MAX;
   for (unsigned long n = s.open; n < s.handed; n++) {
     Shared::Batch& b = s.batch(n);
     for (size_t u = b.first_open; u < b.unit_count; u++) {
@@ -326,23 +368,21 @@ bool ParallelFeed::take_unit(unsigned long* batch, size_t* unit) {
         c.passed = search;
         continue;
       }
-      candidate.taken = true;
-      c.busy = true;
-      while (b.first_open < b.unit_count && b.units[b.first_open].taken) b.first_open++;
-      while (s.open < s.handed && s.batch(s.open).first_open == s.batch(s.open).unit_count) s.open++;
-      *batch = n;
-      *unit = u;
-      return true;
+      c.passed = search;
+      if (c.thread == thread) return take(n, u);
+      if (first_unit == SIZE_MAX) {
+        first_batch = n;
+        first_unit = u;
+      }
     }
   }
-  return false;
+  return first_unit != SIZE_MAX && take(first_batch, first_unit);
 }
 
 void ParallelFeed::decode_unit(unsigned thread, unsigned long batch, size_t unit) {
   Shared& s = *shared_;
   const int slot = static_cast<int>(batch % kParallelBatches);
-  Shared::Batch& b = s.batches[slot];
-  const Unit& u = b.units[unit];
+  const Unit& u = s.batches[slot].units[unit];
   Cell& cell = *u.cell;
   cell.decoding.use_set(s.sets[thread]);
   CellFeed& feed = *cell.decoding.feed;
@@ -351,15 +391,16 @@ void ParallelFeed::decode_unit(unsigned thread, unsigned long batch, size_t unit
   out.records_ = &out.buffers_[slot].records;
   CellOutput::Buffers& buffers = out.buffers_[slot];
   gsmtap::Datagram d;
-  for (const uint32_t i : u.frames) {
-    const Item& item = b.items[i];
-    out.item_ = i;
+  if (cell.source != nullptr) d.source = *cell.source;
+  const uint8_t* const arena = u.arena.data();
+  for (const Item& item : u.items) {
+    out.item_ = item.place;
     if (item.kind == Item::kBad) {
-      feed.bad(item.number, item.source);
+      feed.bad(item.number, u.texts[item.text]);
     } else {
-      d.payload = b.arena.data() + item.offset;
+      d.payload = arena + item.offset;
       d.length = item.length;
-      d.source = item.source;
+      if (item.text != kOwnSource) d.source = u.texts[item.text];
       d.source_port = item.source_port;
       d.destination_port = item.destination_port;
       feed.datagram(item.number, item.time_us, d);
@@ -368,7 +409,7 @@ void ParallelFeed::decode_unit(unsigned thread, unsigned long batch, size_t unit
   }
   std::lock_guard<std::mutex> lock(s.mutex);
   cell.busy = false;
-  b.units_done++;
+  s.batches[slot].units_done++;
   s.units_decoded++;
   if (s.caller_waits) s.done.notify_one();
   if (s.idle > 0) s.work.notify_one(); /* the cell's next unit may be waiting */
@@ -396,7 +437,7 @@ void ParallelFeed::work_until(unsigned long room) {
     size_t unit;
     {
       std::unique_lock<std::mutex> lock(s.mutex);
-      if (!take_unit(&batch, &unit)) {
+      if (!take_unit(0, &batch, &unit)) {
         /* Every unit left is being decoded, or waits for its cell: wait for one to be done,
            unless the oldest batch was done since it was last looked at (then nothing more
            may be decoded before it is written out). */
@@ -436,8 +477,8 @@ void ParallelFeed::write_batch(int batch) {
     c.written = c.deferred_run = 0;
     c.at = &zero;
   }
-  for (size_t i = 0; i < b.items.size(); i++) {
-    Cell& c = *b.items[i].cell;
+  for (size_t i = 0; i < b.order.size(); i++) {
+    Cell& c = *b.units[b.order[i]].cell;
     CellOutput::Buffers& out = c.out->buffers_[batch];
     const CellOutput::Ends& end = out.ends[c.written++];
     /* The text may be going where the messages go (standard error): what came before first. */
@@ -473,8 +514,8 @@ bool ParallelFeed::write_records_only(int batch) {
   }
   std::vector<iovec>& pieces = s.pieces;
   pieces.clear();
-  for (const Item& item : b.items) {
-    Cell& c = *item.cell;
+  for (const uint32_t u : b.order) {
+    Cell& c = *b.units[u].cell;
     const CellOutput::Buffers& out = c.out->buffers_[batch];
     const size_t end = out.ends[c.written++].records;
     if (end == c.records_written) continue;
@@ -520,13 +561,14 @@ void ParallelFeed::clear_batch(int batch) {
     out.messages.clear();
     out.deferred.clear();
     out.ends.clear();
-    unit.frames.clear();
+    unit.items.clear();
+    unit.arena.clear();
+    unit.texts.clear();
   }
   std::lock_guard<std::mutex> lock(s.mutex);
   for (size_t u = 0; u < b.unit_count; u++) b.units[u].taken = false;
   b.unit_count = b.first_open = b.units_done = 0;
-  b.items.clear();
-  b.arena.clear();
+  b.order.clear();
 }
 
 void ParallelFeed::summary(FILE* out, unsigned long frames) const {

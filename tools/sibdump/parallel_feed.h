@@ -3,8 +3,8 @@
  *
  * Frames are read on the calling thread and gathered in batches. Each cell has a CellFeed of
  * its own, writing into buffers of its own; a batch's frames of one cell are a unit of work,
- * and any thread takes the next unit whose cell is not being decoded elsewhere, so that a
- * cell's frames are decoded in order while the threads share the work by what each gets
+ * and any thread takes the next unit whose cell is not being decoded elsewhere (the cells it
+ * decoded last first), so that a cell's frames are decoded in order while the threads share the work by what each gets
  * done (processors differ in speed, and one of them also reads and writes). The calling
  * thread is one of the N threads of N jobs: it reads while there is room for another batch,
  * and decodes otherwise. When a batch is decoded the calling thread writes what each frame
@@ -72,7 +72,9 @@ class CellOutput {
   struct Ends {
     size_t records, text, messages;
   };
-  struct Buffers {
+  /* Each in cache lines of its own: the calling thread clears one batch's while another
+     thread writes the next. */
+  struct alignas(64) Buffers {
     TextBuffer records;
     std::string text, messages;
     std::vector<std::pair<size_t, std::function<void()>>> deferred;
@@ -83,7 +85,7 @@ class CellOutput {
   static ssize_t append_messages(void* cookie, const char* buf, size_t size);
 
   Buffers buffers_[kParallelBatches];
-  int current_ = 0; /* the buffers of the batch being decoded */
+  alignas(64) int current_ = 0; /* the buffers of the batch being decoded */
   TextBuffer* records_ = &buffers_[0].records;
   FILE* records_stream_;
   FILE* text_stream_;
@@ -132,13 +134,15 @@ class ParallelFeed : public FrameSink {
   /* Writes out, in order, the batches that are decoded. */
   void write_finished();
   /* The next unit that may be decoded, taken (under the mutex); false: none. */
-  bool take_unit(unsigned long* batch, size_t* unit);
+  bool take_unit(unsigned thread, unsigned long* batch, size_t* unit);
   void decode_unit(unsigned thread, unsigned long batch, size_t unit);
   void write_batch(int batch);
   bool write_records_only(int batch);
   void clear_batch(int batch);
   Cell* cell_of(const std::string& source, uint16_t arfcn);
-  void add(Item&& item);
+  /* The unit of the batch gathered that takes the cell's frames. */
+  Unit& unit_of(Cell* c);
+  void add(Unit& unit, const Item& item);
 
   std::unique_ptr<Shared> shared_;
 };
