@@ -1,6 +1,7 @@
 // Decoder instances: the road of one instance next to the global entry's, instances on
 // several threads (blocks per second of each thread and of all), and sibdump on one and on
-// several threads over a capture of eight cells made by the project's capture writer.
+// several threads over a capture of eight cells made by the project's capture writer, with
+// the speed-up measured against each processor at the same moment.
 //
 // Input: bench/bch_cycle.bch (the sample cell's broadcast over one SFN cycle).
 #include <benchmark/benchmark.h>
@@ -8,6 +9,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -171,42 +173,110 @@ void BM_Sibdump_EightCells(benchmark::State& state) {
 }
 BENCHMARK(BM_Sibdump_EightCells)->Arg(1)->Arg(2)->UseRealTime()->Unit(benchmark::kMillisecond);
 
+// Runs `cmd` through the shell on each of `cpus` at once, each run held on its processor;
+// the milliseconds each took (empty if one failed).
+std::vector<double> timed_runs(const std::string& cmd, const std::vector<int>& cpus) {
+  const auto start = std::chrono::steady_clock::now();
+  std::vector<pid_t> runs;
+  for (const int cpu : cpus) {
+    const pid_t pid = fork();
+    if (pid == 0) {
+      if (cpu >= 0) hold_on(cpu);
+      execl("/bin/sh", "sh", "-c", cmd.c_str(), static_cast<char*>(nullptr));
+      _exit(127);
+    }
+    runs.push_back(pid);
+  }
+  std::vector<double> ms(runs.size(), 0.0);
+  bool failed = false;
+  for (size_t left = runs.size(); left > 0; left--) {
+    int status = 0;
+    const pid_t pid = wait(&status);
+    failed = failed || pid < 0 || !WIFEXITED(status) || WEXITSTATUS(status) != 0;
+    for (size_t k = 0; k < runs.size(); k++)
+      if (runs[k] == pid) ms[k] = std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+  }
+  if (failed) ms.clear();
+  return ms;
+}
+
+double median(std::vector<double> v) {
+  std::sort(v.begin(), v.end());
+  return v.empty() ? 0 : v[v.size() / 2];
+}
+
+std::string sibdump_jobs(size_t jobs) {
+  return std::string("'") + SIBDUMP_PATH + "' --jobs " + std::to_string(jobs) + " '" + eight_cell_capture() +
+         "' >/dev/null 2>&1";
+}
+
 // sibdump --jobs 1 over the capture on every processor at once, each run held on a processor
 // of its own (ms_cpuN: the run on processor N). --jobs N can be at most as much faster than
 // --jobs 1 on the fastest processor as the sum of the processors' speeds allows.
 void BM_Sibdump_EightCells_EachProcessor(benchmark::State& state) {
-  const std::string cmd = std::string("'") + SIBDUMP_PATH + "' --jobs 1 '" + eight_cell_capture() + "' >/dev/null 2>&1";
   const std::vector<int> cpus = processors();
   std::vector<double> ms(cpus.size(), 0.0);
-  bool failed = false;
   for (auto _ : state) {
-    const auto start = std::chrono::steady_clock::now();
-    std::vector<pid_t> runs;
-    for (const int cpu : cpus) {
-      const pid_t pid = fork();
-      if (pid == 0) {
-        hold_on(cpu);
-        execl("/bin/sh", "sh", "-c", cmd.c_str(), static_cast<char*>(nullptr));
-        _exit(127);
-      }
-      runs.push_back(pid);
-    }
-    for (size_t left = runs.size(); left > 0; left--) {
-      int status = 0;
-      const pid_t pid = wait(&status);
-      failed = failed || pid < 0 || !WIFEXITED(status) || WEXITSTATUS(status) != 0;
-      for (size_t k = 0; k < runs.size(); k++)
-        if (runs[k] == pid) ms[k] += std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
-    }
-    if (failed) {
+    const std::vector<double> run = timed_runs(sibdump_jobs(1), cpus);
+    if (run.empty()) {
       state.SkipWithError("sibdump failed (built without capture input?)");
       return;
     }
+    for (size_t k = 0; k < cpus.size(); k++) ms[k] += run[k];
   }
   for (size_t k = 0; k < cpus.size(); k++)
     state.counters["ms_cpu" + std::to_string(cpus[k])] = ms[k] / static_cast<double>(state.iterations());
 }
 BENCHMARK(BM_Sibdump_EightCells_EachProcessor)->UseRealTime()->Unit(benchmark::kMillisecond)->Iterations(3);
+
+// The speed-up of --jobs N (N: the processors) against --jobs 1, with the most the processors
+// allowed at that moment: the processors of a virtual machine change speed over minutes, and
+// two busy at once can each be slower than either alone. Each iteration runs --jobs 1 held on
+// each processor in turn (alone), then on all at once (together), then --jobs N. Medians over
+// the iterations: ms_alone_cpuK, ms_together_cpuK, ms_jobsN; speedup (--jobs 1 on the
+// iteration's fastest processor alone, over --jobs N); bound (the sum of the processors'
+// speeds together, over that fastest one alone); of_bound (speedup over bound).
+void BM_Sibdump_EightCells_Speedup(benchmark::State& state) {
+  const std::vector<int> cpus = processors();
+  std::vector<std::vector<double>> alone(cpus.size()), together(cpus.size());
+  std::vector<double> jobs, speedup, bound, of_bound;
+  for (auto _ : state) {
+    double fastest = 0;
+    for (size_t k = 0; k < cpus.size(); k++) {
+      const std::vector<double> run = timed_runs(sibdump_jobs(1), {cpus[k]});
+      if (run.empty()) {
+        state.SkipWithError("sibdump failed (built without capture input?)");
+        return;
+      }
+      alone[k].push_back(run[0]);
+      fastest = k == 0 ? run[0] : std::min(fastest, run[0]);
+    }
+    const std::vector<double> at_once = timed_runs(sibdump_jobs(1), cpus);
+    const std::vector<double> all = timed_runs(sibdump_jobs(cpus.size()), {-1});
+    if (at_once.empty() || all.empty()) {
+      state.SkipWithError("sibdump failed");
+      return;
+    }
+    double speeds = 0;
+    for (size_t k = 0; k < cpus.size(); k++) {
+      together[k].push_back(at_once[k]);
+      speeds += 1 / at_once[k];
+    }
+    jobs.push_back(all[0]);
+    speedup.push_back(fastest / all[0]);
+    bound.push_back(fastest * speeds);
+    of_bound.push_back(speedup.back() / bound.back());
+  }
+  for (size_t k = 0; k < cpus.size(); k++) {
+    state.counters["ms_alone_cpu" + std::to_string(cpus[k])] = median(alone[k]);
+    state.counters["ms_together_cpu" + std::to_string(cpus[k])] = median(together[k]);
+  }
+  state.counters["ms_jobs" + std::to_string(cpus.size())] = median(jobs);
+  state.counters["speedup"] = median(speedup);
+  state.counters["bound"] = median(bound);
+  state.counters["of_bound"] = median(of_bound);
+}
+BENCHMARK(BM_Sibdump_EightCells_Speedup)->UseRealTime()->Unit(benchmark::kMillisecond)->Iterations(7);
 
 }  // namespace
 
