@@ -751,21 +751,38 @@ def run(paths: List[str], out: str = DEFAULT_OUT, scheduler: Optional[str] = Non
         stats["cluster_start"] = time.perf_counter() - started
     try:
         started = progress.start = time.perf_counter()
-        futures = {client.submit(decode_file_json, path, sibdump, key=f"decode-{file_id(path)}-{time.time_ns()}"): path
-                   for path in todo}
-        for future in as_completed(futures):
-            path = futures[future]
+        # All the tasks go to the scheduler in one message, and the results done by the time
+        # the last ones were taken come back in one request: a request for each result cost
+        # the client and the scheduler a round of messages per file.
+        stamp = time.time_ns()
+        futures = client.map(decode_file_json, todo, [sibdump] * len(todo), pure=False,
+                             key=[f"decode-{file_id(path)}-{stamp}" for path in todo])
+        path_of = {future.key: path for future, path in zip(futures, todo)}
+        for batch in as_completed(futures).batches():
+            done = [f for f in batch if f.status == "finished"]
             try:
-                text = future.result()
-                r = json.loads(text)
-            except Exception as err:  # the cluster gave the task up (a worker lost too often)
-                errors.append((path, f"task failed on the cluster: {type(err).__name__}: {err}"))
-                progress.add(0)
-                continue
-            tmp = results_dir / f".{file_id(path)}.json.part"
-            tmp.write_bytes(text)
-            tmp.replace(results_dir / f"{file_id(path)}.json")
-            take(r)
+                texts = client.gather(done)
+            except Exception:  # a result lost on the way: each is asked for on its own
+                texts = [None] * len(done)
+            for future, text in zip(done, texts):
+                path = path_of[future.key]
+                try:
+                    if text is None:
+                        text = future.result()
+                    r = json.loads(text)
+                except Exception as err:  # the cluster gave the task up (a worker lost too often)
+                    errors.append((path, f"task failed on the cluster: {type(err).__name__}: {err}"))
+                    progress.add(0)
+                    continue
+                tmp = results_dir / f".{file_id(path)}.json.part"
+                tmp.write_bytes(text)
+                tmp.replace(results_dir / f"{file_id(path)}.json")
+                take(r)
+            for future in batch:
+                if future.status != "finished":  # the cluster gave the task up (a worker lost too often)
+                    err = future.exception()
+                    errors.append((path_of[future.key], f"task failed on the cluster: {type(err).__name__}: {err}"))
+                    progress.add(0)
         progress.end()
         if stats is not None:
             stats["tasks_seconds"] = time.perf_counter() - started
