@@ -4,8 +4,9 @@
  * Frames are read on the calling thread and gathered in batches. Each cell has a CellFeed of
  * its own, writing into buffers of its own; a batch's frames of one cell are a unit of work,
  * and any thread takes the next unit whose cell is not being decoded elsewhere (the cells it
- * decoded last first), so that a cell's frames are decoded in order while the threads share the work by what each gets
- * done (processors differ in speed, and one of them also reads and writes). The calling
+ * decoded last first), so that a cell's frames are decoded in order while the threads share
+ * the work by what each gets done (processors differ in speed, and one of them also reads and
+ * writes). The calling
  * thread is one of the N threads of N jobs: it reads while there is room for another batch,
  * and decodes otherwise. When a batch is decoded the calling thread writes what each frame
  * produced, frame by frame, to the real streams: the records, the ASN.1 text and the
