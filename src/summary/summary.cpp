@@ -43,14 +43,40 @@ umts_sib_set* zeroed_set() {
 
 }  // namespace
 
-CellRecords::CellRecords(std::string label) : label_(std::move(label)), records_(zeroed_set()) {
+SetStore::~SetStore() {
+  for (umts_sib_set* set : spare_) munmap(set, set_pages());
+}
+
+umts_sib_set* SetStore::take() {
+  if (spare_.empty()) return zeroed_set();
+  umts_sib_set* set = spare_.back();
+  spare_.pop_back();
+  return set;
+}
+
+void SetStore::give(umts_sib_set* set) {
+  if (spare_.size() >= kKept) {
+    munmap(set, set_pages());
+    return;
+  }
+  umts_record_clear_written(describe_umts_sib_set(), set);
+  spare_.push_back(set);
+}
+
+CellRecords::CellRecords(std::string label, SetStore* sets)
+    : label_(std::move(label)), sets_(sets), records_(sets != nullptr ? sets->take() : zeroed_set()) {
   if (records_ == nullptr) {
     std::fprintf(stderr, "sibdump: out of memory\n");
     std::exit(2);
   }
 }
 
-CellRecords::~CellRecords() { munmap(records_, set_pages()); }
+CellRecords::~CellRecords() {
+  if (sets_ != nullptr)
+    sets_->give(records_);
+  else
+    munmap(records_, set_pages());
+}
 
 void CellRecords::take(const umts_sib_set* set) {
   const uint32_t present = set->presence_bitmask;
@@ -106,7 +132,7 @@ CellRecords& CellCollection::cell(const std::string& key, const std::string& lab
   auto it = index_.find(key);
   if (it != index_.end()) return *cells_[it->second];
   index_.emplace(key, cells_.size());
-  cells_.emplace_back(new CellRecords(label));
+  cells_.emplace_back(new CellRecords(label, sets_));
   return *cells_.back();
 }
 

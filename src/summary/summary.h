@@ -59,10 +59,31 @@ struct SummaryNode {
   const SummaryNode* find(const std::string& key) const;
 };
 
+/* Zeroed sets for the cells' records, kept from one input to the next: each set's pages are
+   touched by the copies of the cell it served, and a fresh set would touch them again (a
+   page fault each, some 48 pages a cell). One thread at a time. */
+class SetStore {
+ public:
+  SetStore() = default;
+  ~SetStore();
+  SetStore(const SetStore&) = delete;
+  SetStore& operator=(const SetStore&) = delete;
+  /* A zeroed set: one given back, or a new one (null when memory is out). */
+  umts_sib_set* take();
+  /* `set`, from take(), written by record copies only: zeroed where they wrote, and kept for
+     the next take() (beyond kKept, released). */
+  void give(umts_sib_set* set);
+
+ private:
+  static constexpr size_t kKept = 16;
+  std::vector<umts_sib_set*> spare_;
+};
+
 /* The blocks of one cell, each as last converted. */
 class CellRecords {
  public:
-  explicit CellRecords(std::string label);
+  /* `sets`, when given, provides the cell's set and takes it back. */
+  explicit CellRecords(std::string label, SetStore* sets = nullptr);
   ~CellRecords();
   CellRecords(const CellRecords&) = delete;
   CellRecords& operator=(const CellRecords&) = delete;
@@ -98,6 +119,7 @@ class CellRecords {
 
  private:
   std::string label_;
+  SetStore* sets_;
   umts_sib_set* records_; /* zeroed, then each sub-record copied in */
   uint32_t seen_ = 0;
   unsigned long conversions_[umts_sib_count] = {};
@@ -126,6 +148,8 @@ bool sib19_scheduled_at(const CellRecords& cell, unsigned sfn, unsigned segment)
 /* The cells of one input, in the order they were first heard. */
 class CellCollection {
  public:
+  /* `sets`, when given, provides the cells' sets (it outlives the collection). */
+  explicit CellCollection(SetStore* sets = nullptr) : sets_(sets) {}
   /* The cell of `key` (created with `label` the first time). */
   CellRecords& cell(const std::string& key, const std::string& label);
   bool has(const std::string& key) const { return index_.count(key) != 0; }
@@ -138,6 +162,7 @@ class CellCollection {
   const std::vector<std::unique_ptr<CellRecords>>& cells() const { return cells_; }
 
  private:
+  SetStore* sets_;
   std::map<std::string, size_t> index_;
   std::vector<std::unique_ptr<CellRecords>> cells_;
 };

@@ -4,12 +4,14 @@
  */
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 #include "capture_choice.h"
 #include "capture_writer.h"
 #include "gsmtap.h"
 #include "json_check.h"
+#include "summary.h"
 #include "sibdump_child.h"
 #include "tools_test_util.h"
 #include "umts_sib_summary.h"
@@ -388,6 +390,30 @@ TEST(SummaryLibrary, SameSummaryAsSibdump) {
   umts_sib_set_free(set);
   umts_summary_free(s);
   umts_summary_free(nullptr);
+}
+
+/* A cell's set given back to a store comes out again for the next cell, zeroed where the
+   first cell's records were copied in. */
+TEST(SummarySets, GivenBackZeroed) {
+  SetStore store;
+  umts_sib_set* set = umts_sib_set_alloc();
+  ASSERT_NE(set, nullptr);
+  const umts_sib_set* first = nullptr;
+  {
+    CellRecords cell("first", &store);
+    for (const Bytes& b : sample_blocks()) {
+      set->presence_bitmask = 0;
+      umts_sib_decoder(b.data(), set, static_cast<uint32_t>(b.size()));
+      cell.take(set);
+    }
+    ASSERT_NE(cell.seen(), 0u);
+    first = &cell.records();
+  }
+  CellRecords next("next", &store);
+  ASSERT_EQ(&next.records(), first);
+  const unsigned char* p = reinterpret_cast<const unsigned char*>(first);
+  EXPECT_TRUE(std::all_of(p, p + sizeof(umts_sib_set), [](unsigned char c) { return c == 0; }));
+  umts_sib_set_free(set);
 }
 
 /* ---- The page, in a real browser ---------------------------------------------------------- */

@@ -109,6 +109,18 @@ const char kUsage[] =
     "  sibdump samples/fdd_cell.pcapng\n"
     "  sibdump --udp 127.0.0.1:4729\n";
 
+/* Result sets kept from one input to the next on one thread (sibdump_run_file's): the
+   library's set, which like any of its sets serves conversion after conversion, and the
+   cells' record sets of a summary. Their pages are touched once, not for every input. */
+struct Reuse {
+  SetStore cells;
+  umts_sib_set* library = nullptr;
+  Reuse() = default;
+  ~Reuse() { umts_sib_set_free(library); }
+  Reuse(const Reuse&) = delete;
+  Reuse& operator=(const Reuse&) = delete;
+};
+
 struct Options {
   bool sibs = false;
   bool help = false;
@@ -121,6 +133,7 @@ struct Options {
   const char* udp_address = nullptr; /* null: the default */
   size_t udp_buffer = 0;             /* 0: the default */
   const char* summary = nullptr;     /* "text", "json" or "html"; null: records */
+  Reuse* reuse = nullptr;            /* null: each input's sets its own */
 };
 
 struct Counts {
@@ -761,7 +774,16 @@ int run_input(const Options& opt, const char* path, const Outputs& out, const st
   /* The result record is large (fixed arrays of SIB5): one for the whole input, from the
      library, which then clears each record by what the conversion before wrote instead of
      writing zeros over all of it. */
-  umts_sib_set* set = new_set();
+  umts_sib_set* set = nullptr;
+  if (opt.reuse != nullptr) std::swap(set, opt.reuse->library);
+  if (set == nullptr) set = new_set();
+  /* Back to `opt.reuse`, or freed, once the input is done. */
+  auto release_set = [&opt, set] {
+    if (opt.reuse != nullptr && opt.reuse->library == nullptr)
+      opt.reuse->library = set;
+    else
+      umts_sib_set_free(set);
+  };
   JsonLines lines(out.json);
   if (!lines.ok()) {
     std::fprintf(stderr, "sibdump: out of memory\n");
@@ -771,7 +793,7 @@ int run_input(const Options& opt, const char* path, const Outputs& out, const st
   Dumper d(lines, input_name, set);
   d.messages = out.messages;
   d.text = out.text;
-  CellCollection cells;
+  CellCollection cells(opt.reuse != nullptr ? &opt.reuse->cells : nullptr);
   SummaryWriter summaries(out.json, opt.summary != nullptr ? opt.summary : "text");
   if (opt.summary != nullptr) {
     d.cells = &cells;
@@ -791,7 +813,7 @@ int run_input(const Options& opt, const char* path, const Outputs& out, const st
       lines.write_out();
       if (opt.summary != nullptr) summaries.finish(cells);
     }
-    umts_sib_set_free(set);
+    release_set();
     return status;
   }
 
@@ -815,7 +837,7 @@ int run_input(const Options& opt, const char* path, const Outputs& out, const st
   lines.write_out();
   if (opt.summary != nullptr) summaries.finish(cells);
   umts_sib_decoder_free(d.decoder); /* hands over its last text */
-  umts_sib_set_free(set);
+  release_set();
 
   if (several)
     std::fprintf(out.messages, "sibdump: %s: %lu %s read, %lu records written, %lu bad lines\n", input_name,
@@ -932,10 +954,14 @@ extern "C" __attribute__((visibility("default"))) int sibdump_run_file(const cha
     if (messages != nullptr) std::fclose(messages);
     return 2;
   }
+  /* A host calls this file after file, on the same thread or a few (a Dask worker's): the
+     sets of one call serve the next on its thread, and go when the thread ends. */
+  static thread_local Reuse reuse;
   Options opt;
   opt.inputs.push_back(path);
   opt.jobs = 1;
   opt.summary = summary;
+  opt.reuse = &reuse;
   const Outputs o{json, nullptr, messages};
   int status = run_input(opt, path, o, "", false, 1);
   if (std::fclose(json) != 0) status = 2;
