@@ -6,12 +6,11 @@
  * and any thread takes the next unit whose cell is not being decoded elsewhere (the cells it
  * decoded last first), so that a cell's frames are decoded in order while the threads share
  * the work by what each gets done (processors differ in speed, and one of them also reads and
- * writes). The calling
- * thread is one of the N threads of N jobs: it reads while there is room for another batch,
- * and decodes otherwise. When a batch is decoded the calling thread writes what each frame
- * produced, frame by frame, to the real streams: the records, the ASN.1 text and the
- * messages come out in the same bytes as from one CellFeed. What a cell's output must do on
- * the calling thread (a summary to write, say) it defers to the frame it belongs to.
+ * writes). The calling thread is one of the N threads of N jobs: it reads while there is room
+ * for another batch, and decodes otherwise. When a batch is decoded the calling thread writes
+ * what each frame produced, frame by frame, to the real streams: the records, the ASN.1 text
+ * and the messages come out in the same bytes as from one CellFeed. What a cell's output must
+ * do on the calling thread (a summary to write, say) it defers to the frame it belongs to.
  */
 #ifndef UMTS_TOOLS_PARALLEL_FEED_H
 #define UMTS_TOOLS_PARALLEL_FEED_H
