@@ -759,16 +759,15 @@ def run(paths: List[str], out: str = DEFAULT_OUT, scheduler: Optional[str] = Non
                              key=[f"decode-{file_id(path)}-{stamp}" for path in todo])
         path_of = {future.key: path for future, path in zip(futures, todo)}
         for batch in as_completed(futures).batches():
-            done = [f for f in batch if f.status == "finished"]
+            finished = [f for f in batch if f.status == "finished"]
             try:
-                texts = client.gather(done)
-            except Exception:  # a result lost on the way: each is asked for on its own
-                texts = [None] * len(done)
-            for future, text in zip(done, texts):
+                texts = dict(zip((f.key for f in finished), client.gather(finished)))
+            except Exception:  # a result lost on the way: each is asked for on its own below
+                texts = {}
+            for future in batch:
                 path = path_of[future.key]
                 try:
-                    if text is None:
-                        text = future.result()
+                    text = texts[future.key] if future.key in texts else future.result()
                     r = json.loads(text)
                 except Exception as err:  # the cluster gave the task up (a worker lost too often)
                     errors.append((path, f"task failed on the cluster: {type(err).__name__}: {err}"))
@@ -778,11 +777,6 @@ def run(paths: List[str], out: str = DEFAULT_OUT, scheduler: Optional[str] = Non
                 tmp.write_bytes(text)
                 tmp.replace(results_dir / f"{file_id(path)}.json")
                 take(r)
-            for future in batch:
-                if future.status != "finished":  # the cluster gave the task up (a worker lost too often)
-                    err = future.exception()
-                    errors.append((path_of[future.key], f"task failed on the cluster: {type(err).__name__}: {err}"))
-                    progress.add(0)
         progress.end()
         if stats is not None:
             stats["tasks_seconds"] = time.perf_counter() - started
