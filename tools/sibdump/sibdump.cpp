@@ -779,7 +779,7 @@ int run_input(const Options& opt, const char* path, const Outputs& out, const st
   if (set == nullptr) set = new_set();
   /* Back to `opt.reuse`, or freed, once the input is done. */
   auto release_set = [&opt, set] {
-    if (opt.reuse != nullptr && opt.reuse->library == nullptr)
+    if (opt.reuse != nullptr)
       opt.reuse->library = set;
     else
       umts_sib_set_free(set);
