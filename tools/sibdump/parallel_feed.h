@@ -45,7 +45,7 @@ struct TextBuffer {
 };
 
 /* Batches in flight at once: gathered, being decoded or waiting to be written. */
-constexpr int kParallelBatches = 8;
+constexpr int kParallelBatches = 4;
 
 /* What the decoding of one cell writes: a set of buffers for each batch in flight, so that
    the cell's next frames are decoded while the calling thread writes out the ones before. */
