@@ -65,19 +65,24 @@ void put(FILE* out, const char* s, size_t from, size_t to) {
   if (out != nullptr && to > from) std::fwrite(s + from, 1, to - from, out);
 }
 
-}  // namespace
-
-void TextBuffer::reserve(size_t more) {
-  if (cap - len >= more) return;
-  size_t grown = cap == 0 ? 4096 : cap;
+/* A block of `*cap` octets, `len` of them in use, grown (doubling, from 4 KiB) to room for
+   `more` after them; the process ends when memory is out. */
+void* grow_block(void* data, size_t len, size_t* cap, size_t more) {
+  size_t grown = *cap == 0 ? 4096 : *cap;
   while (grown - len < more) grown *= 2;
-  char* p = static_cast<char*>(std::realloc(data, grown));
+  void* p = std::realloc(data, grown);
   if (p == nullptr) {
     std::fprintf(stderr, "sibdump: out of memory\n");
     std::exit(2);
   }
-  data = p;
-  cap = grown;
+  *cap = grown;
+  return p;
+}
+
+}  // namespace
+
+void TextBuffer::reserve(size_t more) {
+  if (cap - len < more) data = static_cast<char*>(grow_block(data, len, &cap, more));
 }
 
 ssize_t CellOutput::append_records(void* cookie, const char* buf, size_t size) {
@@ -151,7 +156,7 @@ struct StreamedBytes {
   size_t append(const void* from, size_t n) {
     const size_t at = len;
     const size_t padded = (n + 7) & ~size_t(7);
-    if (cap - len < padded) grow(padded);
+    if (cap - len < padded) data = static_cast<uint8_t*>(grow_block(data, len, &cap, padded));
     const uint8_t* src = static_cast<const uint8_t*>(from);
     uint8_t* dst = data + at;
 #if defined(SIBDUMP_STREAMING_STORES)
@@ -178,19 +183,6 @@ struct StreamedBytes {
 #if defined(SIBDUMP_STREAMING_STORES)
     _mm_sfence();
 #endif
-  }
-
- private:
-  void grow(size_t more) {
-    size_t grown = cap == 0 ? 4096 : cap;
-    while (grown - len < more) grown *= 2;
-    uint8_t* p = static_cast<uint8_t*>(std::realloc(data, grown));
-    if (p == nullptr) {
-      std::fprintf(stderr, "sibdump: out of memory\n");
-      std::exit(2);
-    }
-    data = p;
-    cap = grown;
   }
 };
 
