@@ -65,6 +65,7 @@ from __future__ import annotations
 import argparse
 import ctypes
 import csv
+import functools
 import hashlib
 import html
 import importlib.util
@@ -214,23 +215,31 @@ def find_library(program: str) -> Optional[str]:
     return None
 
 
-def run_in_process(library: str, path: str) -> Tuple[int, bytes, bytes]:
-    """sibdump --summary=json --jobs 1 `path` through libsibdump.so in this process: the exit
-    status, standard output and standard error. ctypes lets other threads run meanwhile."""
-    lib = ctypes.CDLL(library)  # once per process: loading it again finds it loaded
+@functools.lru_cache(maxsize=None)
+def library_calls(library: str):
+    """sibdump_run_file and sibdump_free of libsibdump.so at `library`, loaded and declared
+    once per process."""
+    lib = ctypes.CDLL(library)
     run = lib.sibdump_run_file
     run.restype = ctypes.c_int
     run.argtypes = [ctypes.c_char_p, ctypes.c_char_p, ctypes.POINTER(ctypes.c_void_p), ctypes.POINTER(ctypes.c_size_t),
                     ctypes.POINTER(ctypes.c_void_p), ctypes.POINTER(ctypes.c_size_t)]
     lib.sibdump_free.restype = None
     lib.sibdump_free.argtypes = [ctypes.c_void_p]
+    return run, lib.sibdump_free
+
+
+def run_in_process(library: str, path: str) -> Tuple[int, bytes, bytes]:
+    """sibdump --summary=json --jobs 1 `path` through libsibdump.so in this process: the exit
+    status, standard output and standard error. ctypes lets other threads run meanwhile."""
+    run, free = library_calls(library)
     out, out_length = ctypes.c_void_p(), ctypes.c_size_t()
     err, err_length = ctypes.c_void_p(), ctypes.c_size_t()
     status = run(os.fsencode(path), b"json", ctypes.byref(out), ctypes.byref(out_length), ctypes.byref(err),
                  ctypes.byref(err_length))
     texts = [ctypes.string_at(p, n.value) if p.value else b"" for p, n in ((out, out_length), (err, err_length))]
-    lib.sibdump_free(out)
-    lib.sibdump_free(err)
+    free(out)
+    free(err)
     return status, texts[0], texts[1]
 
 
