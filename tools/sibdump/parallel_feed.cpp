@@ -9,7 +9,7 @@
  * other, on whichever thread is free, and stay on one processor while it has work. So no
  * thread waits for another while there is a cell to decode, and a slower processor simply
  * takes fewer units. A unit holds its frames and their octets one after the other, written
- * past the caches (see StreamedBytes), and what one thread writes often lies in cache lines
+ * past the caches (see append_streamed), and what one thread writes often lies in cache lines
  * apart from what another does: a line that passes between processors costs some 250 ns on
  * a virtual machine.
  */
@@ -65,24 +65,59 @@ void put(FILE* out, const char* s, size_t from, size_t to) {
   if (out != nullptr && to > from) std::fwrite(s + from, 1, to - from, out);
 }
 
-/* A block of `*cap` octets, `len` of them in use, grown (doubling, from 4 KiB) to room for
-   `more` after them; the process ends when memory is out. */
-void* grow_block(void* data, size_t len, size_t* cap, size_t more) {
-  size_t grown = *cap == 0 ? 4096 : *cap;
-  while (grown - len < more) grown *= 2;
-  void* p = std::realloc(data, grown);
-  if (p == nullptr) {
-    std::fprintf(stderr, "sibdump: out of memory\n");
-    std::exit(2);
+/* Appends `n` octets to `b`, from a multiple of 8 octets on, and returns where they start.
+   On x86-64 they are written with streaming stores, which go to memory without fetching the
+   cache lines first. The calling thread gathers a unit where another thread read one a few
+   batches before: with plain stores each line had to be taken back from that processor's
+   cache first, and the reading that followed (the capture, in small pieces) waited for them,
+   taking twice as long as in one thread. The thread that decodes the unit reads it from
+   memory, in order. */
+size_t append_streamed(TextBuffer& b, const void* from, size_t n) {
+  const size_t at = b.len;
+  const size_t padded = (n + 7) & ~size_t(7);
+  b.reserve(padded);
+  const char* src = static_cast<const char*>(from);
+  char* dst = b.data + at;
+#if defined(SIBDUMP_STREAMING_STORES)
+  size_t k = 0;
+  for (; k + 8 <= n; k += 8) {
+    long long word;
+    std::memcpy(&word, src + k, 8);
+    _mm_stream_si64(reinterpret_cast<long long*>(dst + k), word);
   }
-  *cap = grown;
-  return p;
+  if (k < n) {
+    long long word = 0;
+    std::memcpy(&word, src + k, n - k);
+    _mm_stream_si64(reinterpret_cast<long long*>(dst + k), word);
+  }
+#else
+  std::memcpy(dst, src, n);
+#endif
+  b.len = at + padded;
+  return at;
+}
+
+/* Streaming stores are not ordered with the others: this orders those made so far before
+   what follows (the mutex that hands their memory to another thread). */
+void publish_streamed() {
+#if defined(SIBDUMP_STREAMING_STORES)
+  _mm_sfence();
+#endif
 }
 
 }  // namespace
 
 void TextBuffer::reserve(size_t more) {
-  if (cap - len < more) data = static_cast<char*>(grow_block(data, len, &cap, more));
+  if (cap - len >= more) return;
+  size_t grown = cap == 0 ? 4096 : cap;
+  while (grown - len < more) grown *= 2;
+  char* p = static_cast<char*>(std::realloc(data, grown));
+  if (p == nullptr) {
+    std::fprintf(stderr, "sibdump: out of memory\n");
+    std::exit(2);
+  }
+  data = p;
+  cap = grown;
 }
 
 ssize_t CellOutput::append_records(void* cookie, const char* buf, size_t size) {
@@ -133,59 +168,6 @@ struct ParallelFeed::Cell {
   const std::string* source = nullptr; /* the sender of the cell's frames (none: the frames of no cell) */
 };
 
-/* Octets gathered in one block of memory, each piece from a multiple of 8 octets on. On
-   x86-64 they are written with streaming stores, which go to memory without fetching the
-   cache lines first. The calling thread gathers a unit where another thread read one a few
-   batches before: with plain stores each line had to be taken back from that processor's
-   cache first, and the reading that followed (the capture, in small pieces) waited for them,
-   taking twice as long as in one thread. The thread that decodes the unit reads it from
-   memory, in order. */
-struct StreamedBytes {
-  uint8_t* data = nullptr;
-  size_t len = 0, cap = 0;
-  StreamedBytes() = default;
-  ~StreamedBytes() { std::free(data); }
-  StreamedBytes(StreamedBytes&& o) noexcept : data(o.data), len(o.len), cap(o.cap) {
-    o.data = nullptr;
-    o.len = o.cap = 0;
-  }
-  StreamedBytes(const StreamedBytes&) = delete;
-  StreamedBytes& operator=(const StreamedBytes&) = delete;
-
-  /* Appends `n` octets, returning where they start. */
-  size_t append(const void* from, size_t n) {
-    const size_t at = len;
-    const size_t padded = (n + 7) & ~size_t(7);
-    if (cap - len < padded) data = static_cast<uint8_t*>(grow_block(data, len, &cap, padded));
-    const uint8_t* src = static_cast<const uint8_t*>(from);
-    uint8_t* dst = data + at;
-#if defined(SIBDUMP_STREAMING_STORES)
-    size_t k = 0;
-    for (; k + 8 <= n; k += 8) {
-      long long word;
-      std::memcpy(&word, src + k, 8);
-      _mm_stream_si64(reinterpret_cast<long long*>(dst + k), word);
-    }
-    if (k < n) {
-      long long word = 0;
-      std::memcpy(&word, src + k, n - k);
-      _mm_stream_si64(reinterpret_cast<long long*>(dst + k), word);
-    }
-#else
-    std::memcpy(dst, src, n);
-#endif
-    len = at + padded;
-    return at;
-  }
-  /* Streaming stores are not ordered with the others: this orders them before what follows
-     (the mutex that hands the memory to another thread). */
-  static void publish() {
-#if defined(SIBDUMP_STREAMING_STORES)
-    _mm_sfence();
-#endif
-  }
-};
-
 /* A frame, in its unit. */
 struct ParallelFeed::Item {
   enum Kind : uint8_t { kDatagram, kBad } kind;
@@ -202,8 +184,8 @@ struct ParallelFeed::Item {
    batch's frames of every cell. */
 struct ParallelFeed::Unit {
   Cell* cell = nullptr;
-  StreamedBytes items; /* Item after Item */
-  StreamedBytes arena;
+  TextBuffer items; /* Item after Item, streamed */
+  TextBuffer arena; /* the datagrams' octets, streamed */
   std::vector<std::string> texts; /* for the frames of no cell */
   bool taken = false;             /* under the mutex */
 };
@@ -370,10 +352,10 @@ ParallelFeed::Unit& ParallelFeed::unit_of(Cell* c) {
 void ParallelFeed::add(Unit& unit, const Item& item) {
   Shared& s = *shared_;
   Shared::Batch& b = s.batch(s.handed);
-  static_assert(sizeof(Item) % 8 == 0, "items lie one after the other in a StreamedBytes");
+  static_assert(sizeof(Item) % 8 == 0, "items lie one after the other, each from a multiple of 8 octets");
   Item placed = item;
   placed.place = static_cast<uint32_t>(b.order.size());
-  unit.items.append(&placed, sizeof placed);
+  append_streamed(unit.items, &placed, sizeof placed);
   b.order.push_back(unit.cell->unit);
   if (b.order.size() >= kBatchFrames) next_batch();
 }
@@ -394,7 +376,7 @@ void ParallelFeed::datagram(unsigned long number, uint64_t time_us, const gsmtap
     text = static_cast<uint32_t>(unit.texts.size());
     unit.texts.push_back(d.source);
   }
-  const size_t offset = unit.arena.append(d.payload, d.length);
+  const size_t offset = append_streamed(unit.arena, d.payload, d.length);
   add(unit, Item{Item::kDatagram, d.source_port, d.destination_port, 0, static_cast<uint32_t>(offset),
                  static_cast<uint32_t>(d.length), text, number, time_us});
 }
@@ -469,7 +451,7 @@ void ParallelFeed::decode_unit(unsigned thread, unsigned long batch, size_t unit
   CellOutput::Buffers& buffers = out.buffers_[slot];
   gsmtap::Datagram d;
   if (cell.source != nullptr) d.source = *cell.source;
-  const uint8_t* const arena = u.arena.data;
+  const uint8_t* const arena = reinterpret_cast<const uint8_t*>(u.arena.data);
   for (size_t at = 0; at < u.items.len; at += sizeof(Item)) {
     Item item;
     std::memcpy(&item, u.items.data + at, sizeof item);
@@ -536,7 +518,7 @@ void ParallelFeed::work_until(unsigned long room) {
 
 void ParallelFeed::next_batch() {
   Shared& s = *shared_;
-  StreamedBytes::publish();
+  publish_streamed();
   {
     std::lock_guard<std::mutex> lock(s.mutex);
     s.handed++;

@@ -33,6 +33,10 @@ struct TextBuffer {
   size_t len = 0, cap = 0;
   TextBuffer() = default;
   ~TextBuffer() { std::free(data); }
+  TextBuffer(TextBuffer&& o) noexcept : data(o.data), len(o.len), cap(o.cap) {
+    o.data = nullptr;
+    o.len = o.cap = 0;
+  }
   TextBuffer(const TextBuffer&) = delete;
   TextBuffer& operator=(const TextBuffer&) = delete;
   /* Makes room for `more` octets after `len` (the process ends when memory is out). */
